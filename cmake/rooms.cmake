@@ -1,0 +1,41 @@
+# Compiler settings shared by everything, and scorvane_room(), which declares one folder of src/.
+
+add_library(scorvane_settings INTERFACE)
+target_include_directories(scorvane_settings INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_definitions(scorvane_settings INTERFACE SCORVANE_VERSION="${PROJECT_VERSION}")
+target_compile_options(
+  scorvane_settings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast
+                              -Wformat=2 -Werror)
+if(SCORVANE_SANITIZE)
+  set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_compile_options(scorvane_settings INTERFACE ${sanitizers})
+  target_link_options(scorvane_settings INTERFACE ${sanitizers})
+endif()
+if(WIN32)
+  # Statically linked: the program ships without a DLL of its own.
+  target_link_options(scorvane_settings INTERFACE -static)
+  target_compile_definitions(scorvane_settings INTERFACE WIN32_LEAN_AND_MEAN NOMINMAX
+                                                         __USE_MINGW_ANSI_STDIO=1)
+endif()
+
+# scorvane_room(NAME LOWER...): the library of src/NAME, which may use the rooms LOWER.
+# Files named *_win32.cpp talk to Windows and are built for Windows only; *_posix.cpp elsewhere.
+function(scorvane_room name)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/*.cpp
+       ${CMAKE_SOURCE_DIR}/src/${name}/*.h)
+  if(WIN32)
+    list(FILTER sources EXCLUDE REGEX "_posix\\.cpp$")
+  else()
+    list(FILTER sources EXCLUDE REGEX "_win32\\.(cpp|h)$")
+  endif()
+  list(FILTER sources EXCLUDE REGEX "/main_win32\\.cpp$")
+  set(units ${sources})
+  list(FILTER units INCLUDE REGEX "\\.cpp$")
+  if(units)
+    add_library(${name} STATIC ${sources})
+    target_link_libraries(${name} PUBLIC scorvane_settings ${ARGN})
+  else()
+    add_library(${name} INTERFACE)
+    target_link_libraries(${name} INTERFACE scorvane_settings ${ARGN})
+  endif()
+endfunction()

@@ -1,0 +1,84 @@
+#include "app/command_table.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr std::array kCommands = {
+    Command{32771, "File", "New Contest"},
+    Command{32772, "File", "Open Contest"},
+    Command{32773, "File", "Save Contest"},
+    Command{32774, "File", "Save Contest As"},
+    Command{32805, "File", "Print"},
+    Command{32811, "File", "Print Small Font"},
+    Command{32832, "File", "Save Report To File"},
+    Command{105, "File", "Exit"},
+
+    Command{32777, "Edit", "Copy"},
+
+    Command{32787, "Setup", "Setup Contest"},
+    Command{32788, "Setup", "Setup Classes"},
+    Command{32789, "Setup", "Setup Teams"},
+    Command{32867, "Setup", "Generate Reasons Order"},
+    Command{32864, "Setup", "Edit Reasons Order"},
+    Command{32856, "Setup", "Edit Contestants"},
+
+    Command{32837, "Admin Reports", "Classes Report"},
+    Command{32838, "Admin Reports", "Group Assignments"},
+    Command{32839, "Admin Reports", "Round Assignments"},
+    Command{32842, "Admin Reports", "Official Placings"},
+    Command{32840, "Admin Reports", "Team Report"},
+    Command{32853, "Admin Reports", "Contestants Report"},
+    Command{32841, "Admin Reports", "Reasons Order"},
+    Command{32869, "Admin Reports", "Contestant Reasons Report"},
+    Command{32843, "Admin Reports", "Reasons Score Sheets"},
+    Command{32855, "Admin Reports", "Tie Breakers Report"},
+
+    Command{32791, "Score", "Lookup/Edit Individual Scores"},
+    Command{32822, "Score", "Input Scores By Group"},
+    Command{32823, "Score", "Input Reasons Scores"},
+    Command{32826, "Score", "Input Questions Scores By Group"},
+
+    Command{32796, "Results Reports", "High Individual Overall"},
+    Command{32799, "Results Reports", "High Individual Placings"},
+    Command{32798, "Results Reports", "High Individual Reasons"},
+    Command{32827, "Results Reports", "High Individual Questions"},
+    Command{32801, "Results Reports", "High Team Overall"},
+    Command{32804, "Results Reports", "High Team Placings"},
+    Command{32803, "Results Reports", "High Team Reasons"},
+    Command{32830, "Results Reports", "High Team Questions"},
+    Command{32800, "Results Reports", "Custom/Category Report"},
+    Command{32810, "Results Reports", "Total Summary Report"},
+
+    Command{32862, "Verification Reports", "Round Verification Report"},
+    Command{32846, "Verification Reports", "Verify Letter Scores"},
+    Command{32847, "Verification Reports", "Verify Placings By Team"},
+    Command{32848, "Verification Reports", "Verify Questions Scores"},
+    Command{32844, "Verification Reports", "Verify Reasons Scores"},
+    Command{32845, "Verification Reports", "Reasons Scores By Team"},
+    Command{32849, "Verification Reports", "Zero Scores Report"},
+    Command{32850, "Verification Reports", "Zero Reasons Report"},
+    Command{32851, "Verification Reports", "Zero Questions Report"},
+
+    Command{32857, "Help", "Scorvane Help"},
+    Command{104, "Help", "About ..."},
+
+    // In no menu: shows what the system's font chooser gives.
+    Command{32809, "", ""},
+};
+
+}  // namespace
+
+std::span<const Command> commandTable() { return kCommands; }
+
+const Command* findCommand(int id) {
+  const auto found =
+      std::find_if(kCommands.begin(), kCommands.end(), [id](const Command& c) { return c.id == id; });
+  return found == kCommands.end() ? nullptr : &*found;
+}
+
+void runCommand(int id, MainWindow& window) {
+  const Command* command = findCommand(id);
+  if (command != nullptr && command->run != nullptr) command->run(window);
+}

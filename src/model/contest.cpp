@@ -1,0 +1,101 @@
+#include "model/contest.h"
+
+#include <utility>
+
+namespace {
+
+template <typename Element>
+Element elementOr(const std::vector<Element>& column, std::int32_t index, Element blank) {
+  if (index < 0 || static_cast<std::size_t>(index) >= column.size()) return blank;
+  return column[static_cast<std::size_t>(index)];
+}
+
+const std::string kEmpty;
+
+}  // namespace
+
+const std::string& JudgingClasses::name(std::int32_t index) const {
+  if (index < 0 || index >= count()) return kEmpty;
+  return className[static_cast<std::size_t>(index)];
+}
+
+bool JudgingClasses::hasReasons(std::int32_t index) const {
+  return elementOr(reasonsFlag, index, false);
+}
+
+bool JudgingClasses::hasQuestions(std::int32_t index) const {
+  return elementOr(questionsFlag, index, false);
+}
+
+PlacingLetter JudgingClasses::official(std::int32_t index) const {
+  return elementOr(officialLetter, index, kNoLetter);
+}
+
+Cuts JudgingClasses::cuts(std::int32_t index) const {
+  return {elementOr(cut1, index, 0), elementOr(cut2, index, 0), elementOr(cut3, index, 0)};
+}
+
+std::int32_t JudgingClasses::category(std::int32_t index) const {
+  return elementOr(categoryIndex, index, 0);
+}
+
+void JudgingClasses::add(std::string name, bool reasons, bool questions, PlacingLetter official,
+                         const Cuts& cuts, std::int32_t category) {
+  className.push_back(std::move(name));
+  reasonsFlag.push_back(reasons);
+  questionsFlag.push_back(questions);
+  officialLetter.push_back(official);
+  cut1.push_back(cuts.cut1);
+  cut2.push_back(cuts.cut2);
+  cut3.push_back(cuts.cut3);
+  categoryIndex.push_back(category);
+}
+
+void JudgingClasses::clear() { *this = JudgingClasses{}; }
+
+Contest& currentContest() {
+  static Contest contest;
+  return contest;
+}
+
+const std::string& contestantName(const Contest& contest, ContestantNumber number) {
+  const std::string* name = contest.contestantNames.find(number);
+  return name == nullptr ? kEmpty : *name;
+}
+
+const ScoreRecord& scoreRecord(const Contest& contest, ContestantNumber number,
+                               std::int32_t classIndex) {
+  static const ScoreRecord blank;
+  const ClassScores* records = contest.scores.find(number);
+  const ScoreRecord* record = records == nullptr ? nullptr : records->find(classIndex);
+  return record == nullptr ? blank : *record;
+}
+
+const std::string& categoryName(const Contest& contest, std::int32_t index) {
+  if (contest.categories.empty()) return kEmpty;
+  const bool exists = index >= 0 && static_cast<std::size_t>(index) < contest.categories.size();
+  return contest.categories[exists ? static_cast<std::size_t>(index) : 0];
+}
+
+bool hasScores(const Contest& contest) {
+  for (const auto& [number, records] : contest.scores) {
+    for (const auto& [classIndex, record] : records) {
+      if (record.letter != kNoLetter || record.reasonsScore != 0 || record.questionsScore != 0) {
+        return true;
+      }
+    }
+  }
+  return false;
+}
+
+void recomputeAllPlacingScores(Contest& contest) {
+  const JudgingClasses& classes = contest.classes;
+  for (auto& [number, records] : contest.scores) {
+    for (std::int32_t k = 0; k < classes.count(); ++k) {
+      ScoreRecord& record = records[k];
+      record.placingScore = placingScore(record.letter, classes.official(k), classes.cuts(k));
+    }
+  }
+}
+
+void recomputeAllPlacingScores() { recomputeAllPlacingScores(currentContest()); }

@@ -1,0 +1,98 @@
+// An ordered map kept as one sorted array. Contest files come in ascending number order, so most
+// insertions append; walking all contestants reads memory in a straight line.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+#include <vector>
+
+template <typename Key, typename Value>
+class FlatMap {
+ public:
+  using Entry = std::pair<Key, Value>;
+  using iterator = typename std::vector<Entry>::iterator;
+  using const_iterator = typename std::vector<Entry>::const_iterator;
+
+  /// A map of the given entries in any order; of several with one key the last one stays.
+  /// O(n log n), and O(n) when they are in ascending order already.
+  static FlatMap fromEntries(std::vector<Entry> entries) {
+    const auto notAscending = [](const Entry& a, const Entry& b) { return !(a.first < b.first); };
+    if (std::adjacent_find(entries.begin(), entries.end(), notAscending) != entries.end()) {
+      std::stable_sort(entries.begin(), entries.end(),
+                       [](const Entry& a, const Entry& b) { return a.first < b.first; });
+      keepLastOfEachKey(entries);
+    }
+    FlatMap map;
+    map.entries_ = std::move(entries);
+    return map;
+  }
+
+  [[nodiscard]] iterator begin() { return entries_.begin(); }
+  [[nodiscard]] iterator end() { return entries_.end(); }
+  [[nodiscard]] const_iterator begin() const { return entries_.begin(); }
+  [[nodiscard]] const_iterator end() const { return entries_.end(); }
+  [[nodiscard]] std::size_t size() const { return entries_.size(); }
+  [[nodiscard]] bool empty() const { return entries_.empty(); }
+  /// The entry with the greatest key; the map must not be empty.
+  [[nodiscard]] const Entry& back() const { return entries_.back(); }
+  /// The entry at a position of the ascending order, `position` below size().
+  [[nodiscard]] const Entry& at(std::size_t position) const { return entries_[position]; }
+
+  /// First entry whose key is not below `key`.
+  [[nodiscard]] iterator lowerBound(const Key& key) {
+    return std::lower_bound(entries_.begin(), entries_.end(), key, isBelow);
+  }
+  [[nodiscard]] const_iterator lowerBound(const Key& key) const {
+    return std::lower_bound(entries_.begin(), entries_.end(), key, isBelow);
+  }
+
+  /// The value of a key, or null.
+  [[nodiscard]] Value* find(const Key& key) {
+    const auto place = lowerBound(key);
+    return place != entries_.end() && !(key < place->first) ? &place->second : nullptr;
+  }
+  [[nodiscard]] const Value* find(const Key& key) const {
+    const auto place = lowerBound(key);
+    return place != entries_.end() && !(key < place->first) ? &place->second : nullptr;
+  }
+  [[nodiscard]] bool contains(const Key& key) const { return find(key) != nullptr; }
+
+  /// The value of a key, made empty first when it is missing.
+  Value& operator[](const Key& key) {
+    if (entries_.empty() || entries_.back().first < key) {
+      return entries_.emplace_back(key, Value{}).second;
+    }
+    auto place = lowerBound(key);
+    if (key < place->first) place = entries_.emplace(place, key, Value{});
+    return place->second;
+  }
+
+  /// Removes a key; a missing one is ignored.
+  void erase(const Key& key) {
+    const auto place = lowerBound(key);
+    if (place != entries_.end() && !(key < place->first)) entries_.erase(place);
+  }
+
+  void clear() { entries_.clear(); }
+  void reserve(std::size_t count) { entries_.reserve(count); }
+
+  friend bool operator==(const FlatMap&, const FlatMap&) = default;
+
+ private:
+  static bool isBelow(const Entry& entry, const Key& key) { return entry.first < key; }
+
+  static void keepLastOfEachKey(std::vector<Entry>& entries) {
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+      const bool lastOfKey =
+          i + 1 == entries.size() || entries[i].first < entries[i + 1].first;
+      if (!lastOfKey) continue;
+      if (kept != i) entries[kept] = std::move(entries[i]);
+      ++kept;
+    }
+    entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(kept), entries.end());
+  }
+
+  std::vector<Entry> entries_;
+};

@@ -1,0 +1,91 @@
+// One modal dialog as its behaviour sees it: controls by id, and the few events they raise.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ui/window.h"
+
+using ControlId = int;
+
+/// Ids that the keyboard sends whether or not the dialog has such a button: Enter without a
+/// default push button, and Escape.
+inline constexpr ControlId kOkId = 1;
+inline constexpr ControlId kCancelId = 2;
+
+/// What a control can report; no more kinds than every desktop can report truthfully.
+enum class ControlEvent {
+  clicked,           ///< button pressed, by mouse, mnemonic, Enter or Escape
+  textChanged,       ///< an edit field's text changed, by the operator or by setText
+  selectionChanged,  ///< the operator chose a line of a list or combo box (never select())
+  gotFocus,          ///< edit fields only
+  lostFocus,         ///< edit fields only
+};
+
+/// Texts are 8-bit. Line indexes count from 0. An index that a list does not have, or an id that
+/// the dialog does not have, is ignored by the setters and reads as empty.
+class Dialog : public Window {
+ public:
+  [[nodiscard]] virtual std::string text(ControlId id) const = 0;
+  /// Sets an edit field's or static's text. An edit field reports textChanged.
+  virtual void setText(ControlId id, std::string_view text) = 0;
+  /// The field's text as an unsigned number; nothing when it is empty, holds anything but digits
+  /// or is too large for 32 bits.
+  [[nodiscard]] virtual std::optional<std::uint32_t> number(ControlId id) const = 0;
+
+  [[nodiscard]] virtual bool isChecked(ControlId id) const = 0;
+  virtual void setChecked(ControlId id, bool checked) = 0;
+
+  // Lists and combo boxes.
+  [[nodiscard]] virtual int lineCount(ControlId id) const = 0;
+  [[nodiscard]] virtual std::string line(ControlId id, int index) const = 0;
+  /// Appends a line, or puts it into its sorted place in a sorted list; gives its index.
+  virtual int addLine(ControlId id, std::string_view line) = 0;
+  /// Inserts a line before `index`, even in a sorted list.
+  virtual void insertLine(ControlId id, int index, std::string_view line) = 0;
+  virtual void removeLine(ControlId id, int index) = 0;
+  virtual void clearLines(ControlId id) = 0;
+  /// Replaces all lines at once; for lists that can be long.
+  virtual void setLines(ControlId id, const std::vector<std::string>& lines) = 0;
+  /// The selected line of a single-selection list or combo box.
+  [[nodiscard]] virtual std::optional<int> selection(ControlId id) const = 0;
+  /// Selects a line, or none. Raises no event.
+  virtual void select(ControlId id, std::optional<int> index) = 0;
+  /// The selected lines of a multiple-selection list, ascending.
+  [[nodiscard]] virtual std::vector<int> selections(ControlId id) const = 0;
+  virtual void setSelected(ControlId id, int index, bool selected) = 0;
+  /// First line shown, so that lists standing side by side can scroll together.
+  [[nodiscard]] virtual int topLine(ControlId id) const = 0;
+  virtual void setTopLine(ControlId id, int index) = 0;
+
+  virtual void setEnabled(ControlId id, bool enabled) = 0;
+  virtual void focus(ControlId id) = 0;
+  /// Marks the whole text of an edit field, so that the next key replaces it.
+  virtual void selectText(ControlId id) = 0;
+  /// Makes a button the one that Enter presses.
+  virtual void setDefaultButton(ControlId id) = 0;
+  /// Closes the dialog once the event at hand is answered; runDialog gives `result`.
+  virtual void end(int result) = 0;
+
+  void setNumber(ControlId id, std::int64_t value) { setText(id, std::to_string(value)); }
+};
+
+/// What one dialog does. It holds the dialog's own state and sees no window handle.
+class DialogBehaviour {
+ public:
+  DialogBehaviour() = default;
+  DialogBehaviour(const DialogBehaviour&) = delete;
+  DialogBehaviour& operator=(const DialogBehaviour&) = delete;
+  virtual ~DialogBehaviour() = default;
+
+  /// The controls exist and are empty; the dialog is about to be shown.
+  virtual void opened(Dialog& dialog) = 0;
+  /// A control reports something. Escape and a missing default button report kCancelId and kOkId
+  /// clicked; ids that a dialog does not act on are to be ignored.
+  virtual void onEvent(Dialog& dialog, ControlId id, ControlEvent event) = 0;
+  /// The operator pressed the close box; the behaviour ends the dialog, or not.
+  virtual void closed(Dialog& dialog) = 0;
+};

@@ -1,0 +1,58 @@
+// What the program asks of the desktop: message boxes, file dialogs and modal dialogs. All
+// behaviour talks to these ports, so that it runs and is tested without a windowing system.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+class DialogBehaviour;
+
+enum class Buttons { ok, okCancel, yesNo };
+enum class Answer { ok, cancel, yes, no };
+
+struct Message {
+  std::string text;
+  std::string caption;
+  Buttons buttons = Buttons::ok;
+  /// The button that Enter presses.
+  Answer defaultAnswer = Answer::ok;
+  bool informationIcon = false;
+};
+
+/// One entry of a file dialog's type list, such as {"Scorvane", "*.scv"}.
+struct FileFilter {
+  std::string name;
+  std::string pattern;
+};
+
+struct FileQuestion {
+  enum class Purpose { open, save };
+  Purpose purpose = Purpose::open;
+  std::vector<FileFilter> filters;  ///< the first one is selected
+  std::string defaultExtension;     ///< without the dot; added to a name typed without one
+  bool fileMustExist = false;
+};
+
+/// Longest path a file dialog gives back, in bytes.
+inline constexpr std::size_t kMaxPathLength = 499;
+
+class Window {
+ public:
+  Window() = default;
+  Window(const Window&) = delete;
+  Window& operator=(const Window&) = delete;
+  virtual ~Window() = default;
+
+  /// Shows a modal message box owned by this window and gives the button pressed. Closing a box
+  /// that has a Cancel button counts as Cancel.
+  virtual Answer ask(const Message& message) = 0;
+  /// Lets the operator choose a file; nothing when cancelled. The path is at most kMaxPathLength
+  /// bytes of 8-bit text.
+  virtual std::optional<std::string> chooseFile(const FileQuestion& question) = 0;
+  /// Runs the dialog of a resource id modally over this window; gives the result it ended with.
+  virtual int runDialog(int resourceId, DialogBehaviour& behaviour) = 0;
+
+  /// A box with only an OK button.
+  void show(const std::string& text, const std::string& caption) { ask({text, caption}); }
+};
