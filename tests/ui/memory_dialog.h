@@ -15,8 +15,8 @@
 
 /// Message boxes and file dialogs, recorded and answered from a script.
 struct ScriptedDesktop {
-  std::vector<Message> messages;     ///< every box shown so far
-  std::deque<Answer> answers;        ///< for boxes that ask; a question without one fails the test
+  std::vector<Message> messages;  ///< every box shown so far
+  std::deque<Answer> answers;     ///< for boxes that ask; a question without one fails the test
   std::deque<std::optional<std::string>> files;  ///< for file dialogs, nothing = cancelled
   std::vector<FileQuestion> fileQuestions;
 
