@@ -1,0 +1,77 @@
+// How a report is laid out on paper. Everything that decides where a line goes is here; the
+// printer only performs the operations.
+#pragma once
+
+#include <cstdint>
+#include <ctime>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+/// The address that every footer invites to; fixed when the program is built.
+inline constexpr const char* kWebAddress = SCORVANE_WEB_ADDRESS;
+
+/// Rows at the foot of a page that take no line of the report.
+inline constexpr std::int32_t kBottomMargin = 4;
+
+enum class PrintFont { normal, small };
+
+/// What the header of every page says before the report's own first four lines.
+struct PrintHeader {
+  std::string contestName;
+  std::string contestDate;
+  std::string divisionName;
+  std::string printedAt;  ///< calendarTimeText() of the moment of printing
+};
+
+/// One step of a print job. Rows count from 1 at the top of the page.
+namespace print_operation {
+
+struct StartPage {
+  std::int64_t page = 0;  ///< from 1
+  friend bool operator==(const StartPage&, const StartPage&) = default;
+};
+/// Draws a line of text at the left edge.
+struct Text {
+  std::int64_t row = 0;
+  std::string text;
+  friend bool operator==(const Text&, const Text&) = default;
+};
+/// Later texts, of later pages too, are drawn in this font. The height of the rows stays.
+struct SelectFont {
+  PrintFont font = PrintFont::normal;
+  friend bool operator==(const SelectFont&, const SelectFont&) = default;
+};
+struct EndPage {
+  friend bool operator==(const EndPage&, const EndPage&) = default;
+};
+
+}  // namespace print_operation
+
+using PrintOperation = std::variant<print_operation::StartPage, print_operation::Text,
+                                    print_operation::SelectFont, print_operation::EndPage>;
+
+/// The operations that print `report`, from the start of the first page to the end of the last.
+/// Only lines that end in a line feed are printed. A page that has no room for its header, one
+/// line of the report and its footer is laid out as if it had just that room, so that any
+/// `linesPerPage` gives a print of at most one page more than there are lines.
+[[nodiscard]] std::vector<PrintOperation> layOutPrint(std::string_view report,
+                                                      const PrintHeader& header,
+                                                      std::int32_t linesPerPage,
+                                                      std::int32_t bottomMargin = kBottomMargin);
+
+/// Pages of a laid out print.
+[[nodiscard]] std::int64_t pageCount(const std::vector<PrintOperation>& operations);
+
+/// Lines that fit on a page, both heights in pixels; 0 when a height is not known.
+[[nodiscard]] std::int32_t linesThatFit(std::int32_t pageHeight, std::int32_t lineHeight);
+
+/// Date and time in the 24 characters of the C library's calendar form and a line feed:
+/// "Sat Mar  7 09:05:02 2026\n".
+[[nodiscard]] std::string calendarTimeText(const std::tm& local);
+
+/// What tells the operator which report and page is being printed: the report's first line that
+/// is not blank and the page, such as "High Individual Overall, page 2 of 5".
+[[nodiscard]] std::string printProgressText(std::string_view report, std::int64_t page,
+                                            std::int64_t pages);
