@@ -60,6 +60,9 @@ class Dialog : public Window {
   /// First line shown, so that lists standing side by side can scroll together.
   [[nodiscard]] virtual int topLine(ControlId id) const = 0;
   virtual void setTopLine(ControlId id, int index) = 0;
+  /// Makes lists stand side by side as the columns of one table: scrolling one of them, by
+  /// mouse, wheel or keyboard, scrolls the others to the same first line.
+  virtual void linkScrolling(std::vector<ControlId> ids) = 0;
 
   virtual void setEnabled(ControlId id, bool enabled) = 0;
   virtual void focus(ControlId id) = 0;

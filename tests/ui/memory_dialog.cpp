@@ -342,7 +342,15 @@ int MemoryDialog::topLine(ControlId id) const {
 
 void MemoryDialog::setTopLine(ControlId id, int index) {
   Control* control = find(id);
-  if (isLine(control, index)) control->topLine = index;
+  if (!isLine(control, index)) return;
+  control->topLine = index;
+  for (const std::vector<ControlId>& linked : linkedLists_) {
+    if (std::find(linked.begin(), linked.end(), id) == linked.end()) continue;
+    for (const ControlId other : linked) {
+      Control* neighbour = find(other);
+      if (isLine(neighbour, index)) neighbour->topLine = index;
+    }
+  }
 }
 
 void MemoryDialog::setEnabled(ControlId id, bool enabled) {

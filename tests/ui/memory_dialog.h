@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "ui/dialog.h"
@@ -114,6 +115,9 @@ class MemoryDialog : public Dialog {
   void setSelected(ControlId id, int index, bool selected) override;
   [[nodiscard]] int topLine(ControlId id) const override;
   void setTopLine(ControlId id, int index) override;
+  void linkScrolling(std::vector<ControlId> ids) override {
+    linkedLists_.push_back(std::move(ids));
+  }
   void setEnabled(ControlId id, bool enabled) override;
   void focus(ControlId id) override;
   void selectText(ControlId id) override;
@@ -129,6 +133,7 @@ class MemoryDialog : public Dialog {
   DialogBehaviour& behaviour_;
   std::string caption_;
   std::map<ControlId, Control> controls_;
+  std::vector<std::vector<ControlId>> linkedLists_;
   ControlId focused_ = 0;
   ControlId defaultButton_ = 0;
   std::optional<int> result_;

@@ -1,0 +1,28 @@
+// What a dialog's fields hold, read the way the contest stores it.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "ui/dialog.h"
+
+/// Longest text taken from an edit field, in bytes.
+inline constexpr std::size_t kMaxFieldText = 499;
+
+/// The text with every control character (TAB, line end, any byte below the blank) replaced by a
+/// blank. A contest file separates its fields by TAB and its records by line ends; a name pasted
+/// with one of them inside must not cut the record in two.
+[[nodiscard]] std::string withoutControlCharacters(std::string_view text);
+
+/// An edit field's text as it is stored: at most kMaxFieldText bytes, no control characters.
+[[nodiscard]] std::string fieldText(const Dialog& dialog, ControlId id);
+
+/// A number field's value. An empty one, or one holding anything but digits, reads as 0. Values
+/// beyond 2^31 - 1 wrap to below 0, so that a number below 0 out of a contest file, shown unsigned
+/// by showNumber, reads back as the same.
+[[nodiscard]] std::int32_t fieldNumber(const Dialog& dialog, ControlId id);
+
+/// Shows a number in a digits-only field.
+void showNumber(Dialog& dialog, ControlId id, std::int32_t value);
