@@ -3,7 +3,16 @@
 #include <algorithm>
 #include <array>
 
+#include "app/reasons_commands.h"
+#include "app/shown_report.h"
+#include "results/tie_breaker_report.h"
+
 namespace {
+
+std::optional<std::string> tieBreakerRules(const Contest& /*contest*/,
+                                           const ReportRequest& /*request*/) {
+  return tieBreakerReport();
+}
 
 constexpr std::array kCommands = {
     Command{32771, "File", "New Contest"},
@@ -30,10 +39,11 @@ constexpr std::array kCommands = {
     Command{32842, "Admin Reports", "Official Placings"},
     Command{32840, "Admin Reports", "Team Report"},
     Command{32853, "Admin Reports", "Contestants Report"},
-    Command{32841, "Admin Reports", "Reasons Order"},
-    Command{32869, "Admin Reports", "Contestant Reasons Report"},
-    Command{32843, "Admin Reports", "Reasons Score Sheets"},
-    Command{32855, "Admin Reports", "Tie Breakers Report"},
+    Command{32841, "Admin Reports", "Reasons Order", nullptr, plainReasonsOrder},
+    Command{32869, "Admin Reports", "Contestant Reasons Report", nullptr, roomReasonsOrder},
+    Command{32843, "Admin Reports", "Reasons Score Sheets", nullptr, reasonsOrderSheet,
+            ReportQuestion::reasonsClass},
+    Command{32855, "Admin Reports", "Tie Breakers Report", nullptr, tieBreakerRules},
 
     Command{32791, "Score", "Lookup/Edit Individual Scores"},
     Command{32822, "Score", "Input Scores By Group"},
@@ -55,7 +65,8 @@ constexpr std::array kCommands = {
     Command{32846, "Verification Reports", "Verify Letter Scores"},
     Command{32847, "Verification Reports", "Verify Placings By Team"},
     Command{32848, "Verification Reports", "Verify Questions Scores"},
-    Command{32844, "Verification Reports", "Verify Reasons Scores"},
+    Command{32844, "Verification Reports", "Verify Reasons Scores", nullptr,
+            reasonsVerificationSheet, ReportQuestion::reasonsClass},
     Command{32845, "Verification Reports", "Reasons Scores By Team"},
     Command{32849, "Verification Reports", "Zero Scores Report"},
     Command{32850, "Verification Reports", "Zero Reasons Report"},
@@ -70,15 +81,22 @@ constexpr std::array kCommands = {
 
 }  // namespace
 
-std::span<const Command> commandTable() { return kCommands; }
+std::span<const Command> commandTable() {
+  return kCommands;
+}
 
 const Command* findCommand(int id) {
-  const auto found =
-      std::find_if(kCommands.begin(), kCommands.end(), [id](const Command& c) { return c.id == id; });
+  const auto found = std::find_if(kCommands.begin(), kCommands.end(),
+                                  [id](const Command& c) { return c.id == id; });
   return found == kCommands.end() ? nullptr : &*found;
 }
 
 void runCommand(int id, MainWindow& window) {
   const Command* command = findCommand(id);
-  if (command != nullptr && command->run != nullptr) command->run(window);
+  if (command == nullptr) return;
+  if (command->run != nullptr) {
+    command->run(window);
+  } else if (command->report != nullptr && command->question == ReportQuestion::nothing) {
+    showReport(window, command->report(currentContest(), {}));
+  }
 }

@@ -18,7 +18,8 @@ struct Command {
   int id = 0;
   std::string_view menu;
   std::string_view caption;
-  /// What the menu command does; null while the command is not available.
+  /// What the menu command does. When null, the command shows its report if that asks nothing, and
+  /// is not available otherwise.
   void (*run)(MainWindow& window) = nullptr;
   /// The report that the command makes; null for commands that make none, or that change the
   /// contest first. Gives nothing when the contest lacks what the report needs.

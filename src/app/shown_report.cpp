@@ -1,0 +1,18 @@
+#include "app/shown_report.h"
+
+#include <utility>
+
+#include "view/report_text.h"
+
+void showReport(MainWindow& window, std::optional<std::string> report) {
+  if (!report) return;
+  reportText() = std::move(*report);
+  window.refreshReportView();
+}
+
+int runDialogOverWelcome(MainWindow& window, int resourceId, DialogBehaviour& behaviour) {
+  showReport(window, kWelcomeText);
+  const int result = window.runDialog(resourceId, behaviour);
+  window.refreshReportView();
+  return result;
+}

@@ -1,0 +1,14 @@
+// Putting reports, and the welcome text behind dialogs, before the operator.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "app/main_window.h"
+#include "ui/dialog.h"
+
+/// Makes `report` the report text and shows it. Without a report nothing changes.
+void showReport(MainWindow& window, std::optional<std::string> report);
+
+/// Runs a setup or score-entry dialog over the welcome text; gives the dialog's result.
+int runDialogOverWelcome(MainWindow& window, int resourceId, DialogBehaviour& behaviour);

@@ -1,0 +1,36 @@
+#include "setup/reasons_class_dialog.h"
+
+#include <cstddef>
+#include <string>
+
+#include "model/reasons_classes.h"
+#include "text/format.h"
+
+void ReasonsClassDialog::opened(Dialog& dialog) {
+  offered_ = reasonsClasses(contest_.classes);
+  std::vector<std::string> lines;
+  for (const std::int32_t k : offered_) {
+    lines.push_back(formatText("%2d.  %s", k + 1, contest_.classes.name(k).c_str()));
+  }
+  dialog.setLines(kClasses, lines);
+}
+
+void ReasonsClassDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
+  if (event != ControlEvent::clicked) return;
+  if (id == kOkId) choose(dialog);
+  if (id == kCancelId) dialog.end(kCancelId);
+}
+
+void ReasonsClassDialog::closed(Dialog& dialog) {
+  dialog.end(kCancelId);
+}
+
+void ReasonsClassDialog::choose(Dialog& dialog) {
+  const std::optional<int> line = dialog.selection(kClasses);
+  if (!line) {
+    dialog.show("You must select a reasons class before proceeding.", "Error");
+    return;
+  }
+  chosen_ = offered_[static_cast<std::size_t>(*line)];
+  dialog.end(kOkId);
+}

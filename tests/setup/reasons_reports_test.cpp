@@ -1,0 +1,130 @@
+#include <gtest/gtest.h>
+
+#include "setup/reasons_bands.h"
+#include "setup/reasons_order_report.h"
+#include "setup/reasons_sheets.h"
+#include "tests/setup/reasons_contest.h"
+#include "tests/support/approved.h"
+
+namespace {
+
+std::vector<std::int32_t> bandWidths(std::int32_t groups) {
+  std::vector<std::int32_t> widths;
+  for (const ReasonsBand& band : reasonsBands(groups)) {
+    EXPECT_EQ(band.first, widths.empty() ? 0 : widths.front() * std::ssize(widths));
+    widths.push_back(band.width());
+  }
+  return widths;
+}
+
+TEST(ReasonsBands, AreAtMostEightWideAndEven) {
+  using Widths = std::vector<std::int32_t>;
+  EXPECT_EQ(bandWidths(8), (Widths{8}));
+  EXPECT_EQ(bandWidths(9), (Widths{5, 4}));
+  EXPECT_EQ(bandWidths(10), (Widths{5, 5}));
+  EXPECT_EQ(bandWidths(17), (Widths{6, 6, 5}));
+  EXPECT_EQ(bandWidths(57), (Widths{8, 8, 8, 8, 8, 8, 8, 1}));
+  EXPECT_EQ(bandWidths(0), (Widths{0}));
+  EXPECT_EQ(bandWidths(-3), (Widths{0}));
+  EXPECT_EQ(bandWidths(2147483647).size(), 1250U);
+}
+
+// Ten groups, so two bands of five: the first group has two speakers, group 4 none, group 7 three.
+// 115 has no place, 116 is a reserved slot.
+Contest twoBandContest() {
+  Contest contest = reasonsContest(10, 4, 16);
+  placeGroup(contest, 0, {104, 101});
+  placeGroup(contest, 1, {102, 105});
+  placeGroup(contest, 2, {103});
+  placeGroup(contest, 4, {106});
+  placeGroup(contest, 5, {107});
+  placeGroup(contest, 6, {108, 113, 114});
+  placeGroup(contest, 7, {109});
+  placeGroup(contest, 8, {110});
+  placeGroup(contest, 9, {111, 112});
+  contest.contestantNames[116] = "";
+  contest.classes.officialLetter[2] = 'N';
+  contest.scores[104][2] = {'N', 50, 47, 0};
+  contest.scores[101][2] = {'Z', 0, 8, 0};
+  contest.scores[108][2] = {'A', 33, 39, 0};
+  return contest;
+}
+
+TEST(ReasonsSheet, ShowsPlacingsOrScoresInBands) {
+  const Contest contest = twoBandContest();
+  expectApproved(reasonsSheet(contest, ReasonsSheet::order, 2).value_or(""),
+                 "setup/order_sheet_of_ten_groups.txt");
+  expectApproved(reasonsSheet(contest, ReasonsSheet::verification, 2).value_or(""),
+                 "setup/verification_sheet_of_ten_groups.txt");
+}
+
+TEST(ReasonsSheet, StopsWhereTheFirstGroupEnds) {
+  Contest contest = twoBandContest();
+  // 114 is the third speaker of group 7; the first group has two.
+  const auto showsThird = [&] {
+    const auto sheet = reasonsSheet(contest, ReasonsSheet::verification, 1);
+    return sheet.value_or("").find(" 114 ") != std::string::npos;
+  };
+  EXPECT_FALSE(showsThird());
+  placeGroup(contest, 0, {104, 101, 115});
+  EXPECT_TRUE(showsThird());
+}
+
+TEST(ReasonsSheet, IsOnlyForReasonsClassesOfAContestWithAnOrder) {
+  Contest contest = twoBandContest();
+  for (const std::int32_t index : {-1, 0, 5}) {
+    EXPECT_FALSE(reasonsSheet(contest, ReasonsSheet::order, index)) << index;
+  }
+  EXPECT_TRUE(reasonsSheet(contest, ReasonsSheet::order, 1));
+  contest.reasonsOrder.reset(0, 10);
+  EXPECT_FALSE(reasonsSheet(contest, ReasonsSheet::order, 1));
+}
+
+TEST(ReasonsOrderReport, ShowsOrderUnassignedAndClassOrderInBands) {
+  const Contest contest = twoBandContest();
+  expectApproved(reasonsOrderReport(contest, ReasonsOrderForm::plain),
+                 "setup/reasons_order_of_ten_groups.txt");
+  expectApproved(reasonsOrderReport(contest, ReasonsOrderForm::room),
+                 "setup/reasons_rooms_of_ten_groups.txt");
+}
+
+// Two groups and three classes: turn i, group c hears class (3i + c) mod 3, so every turn is alike.
+TEST(ReasonsOrderReport, KeepsTheRoomFormsOwnRotation) {
+  Contest contest = reasonsContest(2, 3, 2);
+  placeGroup(contest, 0, {101, 102});
+  EXPECT_EQ(firstDifference("\n\n"
+                            "                Reasons Order and Room Assignments\n\n"
+                            "     1              2         \n"
+                            "   -----          -----       \n"
+                            "    101                       \n"
+                            "    102                       \n"
+                            "\n\nRoom Number\n"
+                            "-------------------------------\n"
+                            "|              |              |\n"
+                            "|              |              |\n"
+                            "|              |              |\n"
+                            "-------------------------------\n"
+                            "\n\nReasons Class Order\n-------------------\n\n"
+                            " 2-Ewes 1 in M  3-Ewes 2 in M \n"
+                            " 2-Ewes 1 in M  3-Ewes 2 in M \n"
+                            " 2-Ewes 1 in M  3-Ewes 2 in M \n\n",
+                            reasonsOrderReport(contest, ReasonsOrderForm::room)),
+            "");
+}
+
+TEST(ReasonsOrderReport, StandsWithoutReasonsClassesAndWithAGapInTheFirstRow) {
+  Contest contest = reasonsContest(1, 0, 2);
+  contest.reasonsOrder.setCell(1, 0, 101);
+  contest.reasonsPlace[101] = {0, 1};
+  EXPECT_EQ(firstDifference("\n\n"
+                            "                 Reasons Order\n\n"
+                            "     1   \n"
+                            "   ----- \n"
+                            "\n\t\tContestants Not Assigned in Reasons Order\n"
+                            "     102 - Taker 102\n"
+                            "\n\nReasons Class Order\n-------------------\n\n\n\n",
+                            reasonsOrderReport(contest, ReasonsOrderForm::plain)),
+            "");
+}
+
+}  // namespace
