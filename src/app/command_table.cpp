@@ -4,10 +4,23 @@
 #include <array>
 
 #include "app/reasons_commands.h"
+#include "app/round_commands.h"
 #include "app/shown_report.h"
+#include "reports/class_reports.h"
+#include "reports/letter_report.h"
+#include "reports/roster_reports.h"
+#include "reports/round_reports.h"
+#include "reports/team_score_reports.h"
+#include "reports/zero_reports.h"
 #include "results/tie_breaker_report.h"
 
 namespace {
+
+// The report of a builder that asks nothing but the contest.
+template <std::string (*build)(const Contest&)>
+std::optional<std::string> plain(const Contest& contest, const ReportRequest& /*request*/) {
+  return build(contest);
+}
 
 std::optional<std::string> tieBreakerRules(const Contest& /*contest*/,
                                            const ReportRequest& /*request*/) {
@@ -33,12 +46,12 @@ constexpr std::array kCommands = {
     Command{32864, "Setup", "Edit Reasons Order"},
     Command{32856, "Setup", "Edit Contestants"},
 
-    Command{32837, "Admin Reports", "Classes Report"},
-    Command{32838, "Admin Reports", "Group Assignments"},
-    Command{32839, "Admin Reports", "Round Assignments"},
-    Command{32842, "Admin Reports", "Official Placings"},
-    Command{32840, "Admin Reports", "Team Report"},
-    Command{32853, "Admin Reports", "Contestants Report"},
+    Command{32837, "Admin Reports", "Classes Report", nullptr, plain<classesReport>},
+    Command{32838, "Admin Reports", "Group Assignments", nullptr, plain<groupAssignmentsReport>},
+    Command{32839, "Admin Reports", "Round Assignments", nullptr, plain<roundAssignmentsReport>},
+    Command{32842, "Admin Reports", "Official Placings", nullptr, plain<officialPlacingsReport>},
+    Command{32840, "Admin Reports", "Team Report", nullptr, plain<teamReport>},
+    Command{32853, "Admin Reports", "Contestants Report", nullptr, plain<contestantsReport>},
     Command{32841, "Admin Reports", "Reasons Order", nullptr, plainReasonsOrder},
     Command{32869, "Admin Reports", "Contestant Reasons Report", nullptr, roomReasonsOrder},
     Command{32843, "Admin Reports", "Reasons Score Sheets", nullptr, reasonsOrderSheet,
@@ -61,16 +74,23 @@ constexpr std::array kCommands = {
     Command{32800, "Results Reports", "Custom/Category Report"},
     Command{32810, "Results Reports", "Total Summary Report"},
 
-    Command{32862, "Verification Reports", "Round Verification Report"},
-    Command{32846, "Verification Reports", "Verify Letter Scores"},
-    Command{32847, "Verification Reports", "Verify Placings By Team"},
-    Command{32848, "Verification Reports", "Verify Questions Scores"},
+    Command{32862, "Verification Reports", "Round Verification Report", runRoundVerification,
+            roundVerification, ReportQuestion::round},
+    Command{32846, "Verification Reports", "Verify Letter Scores", nullptr,
+            plain<verifyScoresReport>},
+    Command{32847, "Verification Reports", "Verify Placings By Team", nullptr,
+            plain<verifyPlacingsReport>},
+    Command{32848, "Verification Reports", "Verify Questions Scores", nullptr,
+            plain<verifyQuestionsScoresReport>},
     Command{32844, "Verification Reports", "Verify Reasons Scores", nullptr,
             reasonsVerificationSheet, ReportQuestion::reasonsClass},
-    Command{32845, "Verification Reports", "Reasons Scores By Team"},
-    Command{32849, "Verification Reports", "Zero Scores Report"},
-    Command{32850, "Verification Reports", "Zero Reasons Report"},
-    Command{32851, "Verification Reports", "Zero Questions Report"},
+    Command{32845, "Verification Reports", "Reasons Scores By Team", nullptr,
+            plain<reasonsByTeamReport>},
+    Command{32849, "Verification Reports", "Zero Scores Report", nullptr, plain<zeroScoresReport>},
+    Command{32850, "Verification Reports", "Zero Reasons Report", nullptr,
+            plain<zeroReasonsReport>},
+    Command{32851, "Verification Reports", "Zero Questions Report", nullptr,
+            plain<zeroQuestionsReport>},
 
     Command{32857, "Help", "Scorvane Help"},
     Command{104, "Help", "About ..."},

@@ -2,13 +2,6 @@
 
 #include <algorithm>
 
-namespace {
-
-// Setup allows 26 groups; a contest file may promise more, as far as characters go.
-constexpr std::int32_t kLetters = 256 - 'A';
-
-}  // namespace
-
 char groupOfNumber(const ContestSettings& settings, ContestantNumber number) {
   if (settings.numGroups == 0) return 'A';
   const std::int64_t distance = std::int64_t{number} - settings.startNum;
@@ -16,11 +9,13 @@ char groupOfNumber(const ContestSettings& settings, ContestantNumber number) {
   return static_cast<char>('A' + distance % settings.numGroups);
 }
 
+std::int32_t letteredGroups(std::int32_t numGroups) {
+  return std::clamp(numGroups, 0, kMaxGroupLetters);
+}
+
 std::vector<char> makeGroupLetters(std::int32_t numGroups) {
   std::vector<char> letters;
-  for (std::int32_t i = 0; i < std::min(numGroups, kLetters); ++i) {
-    letters.push_back(static_cast<char>('A' + i));
-  }
+  for (std::int32_t k = 0; k < letteredGroups(numGroups); ++k) letters.push_back(letterOfGroup(k));
   return letters;
 }
 

@@ -11,6 +11,22 @@
 /// 'A' when numGroups is 0.
 [[nodiscard]] char groupOfNumber(const ContestSettings& settings, ContestantNumber number);
 
+/// Setup allows 26 groups; a contest file may promise more, but letters end with the characters.
+inline constexpr std::int32_t kMaxGroupLetters = 256 - 'A';
+
+/// Letter of a group (from 0, below kMaxGroupLetters), and the group of a letter; below 0 for a
+/// character before 'A'.
+[[nodiscard]] constexpr char letterOfGroup(std::int32_t group) {
+  return static_cast<char>('A' + group);
+}
+[[nodiscard]] constexpr std::int32_t groupOfLetter(char letter) {
+  return static_cast<unsigned char>(letter) - 'A';
+}
+
+/// How many of numGroups groups have a letter: none when it is below 1, else at most
+/// kMaxGroupLetters.
+[[nodiscard]] std::int32_t letteredGroups(std::int32_t numGroups);
+
 /// The letters "A", "B", ... of numGroups groups; none when numGroups is below 1, and no more
 /// than there are characters.
 [[nodiscard]] std::vector<char> makeGroupLetters(std::int32_t numGroups);

@@ -1,0 +1,41 @@
+// Which group judges which class in which round.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "model/contest.h"
+
+/// The rotation table: a row for each class, a column for each of as many rounds. In round r
+/// group g judges class (r + g) mod n, all counted from 0. With more groups than classes only the
+/// first n groups judge: a class holds one group at a time, so the others have no cell.
+///
+/// The cells are computed when they are asked for, so the table of a contest file with absurdly
+/// many classes costs nothing.
+class RoundGroups {
+ public:
+  RoundGroups(std::int32_t numClasses, std::int32_t numGroups);
+
+  /// Number of classes, and of rounds.
+  [[nodiscard]] std::int32_t rounds() const { return classes_; }
+  /// Number of groups that stand at a class in every round; those after them never do.
+  [[nodiscard]] std::int32_t judgingGroups() const { return groups_; }
+
+  /// Letter of the group at a class in a round; ' ' when none stands there or either is not
+  /// in the table.
+  [[nodiscard]] char groupAt(std::int32_t classIndex, std::int32_t round) const;
+  /// The class that a group judges in a round; nothing when it judges none or there is no such
+  /// round.
+  [[nodiscard]] std::optional<std::int32_t> classOf(char group, std::int32_t round) const;
+  /// The round in which a group judges a class; rounds() when there is none.
+  [[nodiscard]] std::int32_t roundOf(char group, std::int32_t classIndex) const;
+
+ private:
+  [[nodiscard]] bool isInside(std::int32_t index) const { return index >= 0 && index < classes_; }
+
+  std::int32_t classes_;
+  std::int32_t groups_;
+};
+
+/// The rotation of a contest as its classes and numGroups stand now.
+[[nodiscard]] RoundGroups roundGroups(const Contest& contest);

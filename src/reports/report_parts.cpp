@@ -1,0 +1,105 @@
+#include "reports/report_parts.h"
+
+#include "model/numbering.h"
+#include "text/format.h"
+
+namespace {
+
+// Thirty classes and a hundred thousand contestants stay far below this.
+constexpr std::size_t kLongestReport = 128U << 20U;
+
+template <typename Condition>
+std::vector<std::int32_t> classesWith(const JudgingClasses& classes, Condition condition) {
+  std::vector<std::int32_t> found;
+  for (std::int32_t k = 0; k < classes.count(); ++k) {
+    if (condition(k)) found.push_back(k);
+  }
+  return found;
+}
+
+const ClassScores kNoScores;
+
+}  // namespace
+
+const char* kindTag(const JudgingClasses& classes, std::int32_t classIndex) {
+  const bool questions = classes.hasQuestions(classIndex);
+  if (classes.hasReasons(classIndex)) return questions ? " (Rsn/Qst) " : " (Reasons) ";
+  return questions ? "(Questions)" : "           ";
+}
+
+std::vector<std::int32_t> allClasses(const JudgingClasses& classes) {
+  return classesWith(classes, [](std::int32_t) { return true; });
+}
+
+std::vector<std::int32_t> reasonsClasses(const JudgingClasses& classes) {
+  return classesWith(classes, [&](std::int32_t k) { return classes.hasReasons(k); });
+}
+
+std::vector<std::int32_t> questionsClasses(const JudgingClasses& classes) {
+  return classesWith(classes, [&](std::int32_t k) { return classes.hasQuestions(k); });
+}
+
+std::string makeRule(const JudgingClasses& classes, std::size_t fixedPart, std::size_t perClass) {
+  std::string rule(fixedPart + perClass * static_cast<std::size_t>(classes.count()), '-');
+  return rule += '\n';
+}
+
+void appendClassNumbers(std::string& out, const std::vector<std::int32_t>& classes) {
+  for (const std::int32_t k : classes) appendFormat(out, " | %2d ", k + 1);
+}
+
+std::vector<ListedContestant> listedContestants(const Contest& contest) {
+  std::vector<ListedContestant> listed;
+  listed.reserve(contest.contestantNames.size());
+  auto scores = contest.scores.begin();
+  for (const auto& [number, name] : contest.contestantNames) {
+    if (name.empty()) continue;
+    while (scores != contest.scores.end() && scores->first < number) ++scores;
+    const bool hasScores = scores != contest.scores.end() && scores->first == number;
+    listed.push_back({number, &name, hasScores ? &scores->second : nullptr});
+  }
+  return listed;
+}
+
+std::vector<ListedMember> listedMembers(const Contest& contest, const Team& team) {
+  std::vector<ListedMember> listed;
+  std::int32_t slot = 0;
+  for (const ContestantNumber number : team.members) {
+    const std::string& name = contestantName(contest, number);
+    const bool isAlternate = slot >= contest.settings.numPerTeam;
+    if (!name.empty())
+      listed.push_back({{number, &name, contest.scores.find(number)}, isAlternate});
+    ++slot;
+  }
+  return listed;
+}
+
+void appendMember(std::string& out, const ListedMember& member) {
+  const auto& [number, name, scores] = member.contestant;
+  if (member.isAlternate) {
+    appendFormat(out, "%5d %-16.16s alt", number, name->c_str());
+  } else {
+    appendFormat(out, "%5d %-20.20s", number, name->c_str());
+  }
+}
+
+RecordWalk::RecordWalk(const ClassScores* scores)
+    : next_((scores == nullptr ? kNoScores : *scores).begin()),
+      end_((scores == nullptr ? kNoScores : *scores).end()) {}
+
+const ScoreRecord& RecordWalk::at(std::int32_t classIndex) {
+  static const ScoreRecord blank;
+  while (next_ != end_ && next_->first < classIndex) ++next_;
+  return next_ != end_ && next_->first == classIndex ? next_->second : blank;
+}
+
+char groupOfContestant(const Contest& contest, ContestantNumber number) {
+  const char* group = contest.contestantGroup.find(number);
+  return group != nullptr ? *group : groupOfNumber(contest.settings, number);
+}
+
+bool endIfTooLong(std::string& report) {
+  if (report.size() <= kLongestReport) return false;
+  report += "\nThis report is too long; it ends here.\n";
+  return true;
+}

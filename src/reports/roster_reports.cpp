@@ -1,0 +1,102 @@
+#include "reports/roster_reports.h"
+
+#include <vector>
+
+#include "reports/report_parts.h"
+#include "text/format.h"
+
+namespace {
+
+// Member slots with a named contestant.
+int countContestants(const Contest& contest) {
+  int count = 0;
+  for (const auto& [teamName, team] : contest.teams) {
+    for (const ContestantNumber number : team.members) {
+      if (!contestantName(contest, number).empty()) ++count;
+    }
+  }
+  return count;
+}
+
+// The team of each number; the first team by name that holds it.
+using TeamOfNumber = FlatMap<ContestantNumber, const std::string*>;
+
+TeamOfNumber teamsByNumber(const Contest& contest) {
+  std::vector<TeamOfNumber::Entry> entries;
+  for (auto team = contest.teams.rbegin(); team != contest.teams.rend(); ++team) {
+    for (const ContestantNumber number : team->second.members) {
+      entries.emplace_back(number, &team->first);
+    }
+  }
+  return TeamOfNumber::fromEntries(std::move(entries));
+}
+
+void appendTeamLine(std::string& out, const Contest& contest, const char* teamName,
+                    const ListedMember& member) {
+  const ContestantNumber number = member.contestant.number;
+  appendFormat(out, "     %-21.21s   %3d%c  %-30.30s\n", teamName, number,
+               groupOfContestant(contest, number), member.contestant.name->c_str());
+}
+
+void appendTeam(std::string& out, const Contest& contest, const std::string& teamName,
+                const Team& team) {
+  const std::vector<ContestantNumber>& members = team.members;
+  const bool firstIsNamed = !members.empty() && !contestantName(contest, members[0]).empty();
+  if (!firstIsNamed) appendFormat(out, "     %-21.21s\n", teamName.c_str());
+  bool isFirst = firstIsNamed;
+  for (ListedMember member : listedMembers(contest, team)) {
+    // The team's own line shows its first member's name as it is, whatever numPerTeam.
+    std::string marked;
+    if (member.isAlternate && !isFirst) {
+      marked = *member.contestant.name + " (alternate)";
+      member.contestant.name = &marked;
+    }
+    appendTeamLine(out, contest, isFirst ? teamName.c_str() : "", member);
+    isFirst = false;
+  }
+  appendFormat(out, "     %5.5sCoach: %-20.20s\n\n", "", team.coach.c_str());
+}
+
+}  // namespace
+
+std::string contestantsReport(const Contest& contest) {
+  static const std::string noTeam;
+  const TeamOfNumber teams = teamsByNumber(contest);
+  // A number that no team holds counts to the last team that was looked through.
+  const std::string* lastTeam = contest.teams.empty() ? &noTeam : &contest.teams.rbegin()->first;
+
+  std::string out = formatText("     Contestant Report - %d Contestants - %d Teams\n\n",
+                               countContestants(contest), static_cast<int>(contest.teams.size()));
+  out += "      ##  Grp          Name                           Team\n";
+  out += "     ---- --- ------------------------------ ------------------------------\n";
+  const std::string* previousTeam = nullptr;
+  std::int32_t position = 0;
+  for (const auto& [number, name, scores] : listedContestants(contest)) {
+    const std::string* const* found = teams.find(number);
+    const std::string* team = found != nullptr ? *found : lastTeam;
+    if (previousTeam != nullptr && team != previousTeam) {
+      out += "\n";
+      position = 0;
+    }
+    const char group = groupOfContestant(contest, number);
+    if (position < contest.settings.numPerTeam) {
+      appendFormat(out, "     %4d  %c   %-30.30s %-30.30s\n", number, group, name->c_str(),
+                   team->c_str());
+    } else {
+      appendFormat(out, "     %4d  %c   %-23.23s (alt)  %-30.30s\n", number, group, name->c_str(),
+                   team->c_str());
+    }
+    ++position;
+    previousTeam = team;
+  }
+  return out;
+}
+
+std::string teamReport(const Contest& contest) {
+  std::string out = formatText("     Teams and Contestants - %d Contestants - %d Teams\n\n",
+                               countContestants(contest), static_cast<int>(contest.teams.size()));
+  out += "           Team              Num            Team Members\n";
+  out += "     ---------------------  -----  ------------------------------------------\n";
+  for (const auto& [teamName, team] : contest.teams) appendTeam(out, contest, teamName, team);
+  return out;
+}
