@@ -171,10 +171,12 @@ void SetupClassesDialog::store(Dialog& dialog, std::optional<int> updated) {
     dialog.show(*refusal, "Warning");
     return;
   }
-  if (updated) {
-    reloadClassTable(dialog);
+  const std::int32_t last = classes.count() - 1;
+  if (!updated && dialog.lineCount(kNameList) == last) {
+    appendToClassTable(dialog, last);
   } else {
-    appendToClassTable(dialog, classes.count() - 1);
+    // Also for a new class after a refused update, which left a line without a class.
+    reloadClassTable(dialog);
   }
   resetForm(dialog);
 }

@@ -1,0 +1,50 @@
+// What entering, editing and removing members and teams does to the contest.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/contest.h"
+
+/// The group letter stored for a contestant; the one that goes with the number when none is.
+[[nodiscard]] char groupLetterOf(const Contest& contest, ContestantNumber number);
+
+/// A member's line: "101 - Ann Lee   A", and " (alternate)" in a slot (from 0) beyond the regular
+/// members. Name and group as stored.
+[[nodiscard]] std::string memberLine(const Contest& contest, ContestantNumber number,
+                                     std::int32_t slot);
+
+/// The number that a line, or a field, starts with; 0 without one.
+[[nodiscard]] ContestantNumber leadingNumber(std::string_view line);
+
+/// Gives a new contestant a blank record for every class.
+void addBlankScores(Contest& contest, ContestantNumber number);
+
+/// Takes out contestants whose team was never written: their names and group letters.
+void discardContestants(Contest& contest, const std::vector<ContestantNumber>& numbers);
+
+/// The totalNumPerTeam members of a team whose first slots hold `named`. Each slot beyond them
+/// takes the next number, which is entered without a name.
+[[nodiscard]] std::vector<ContestantNumber> fillTeamSlots(
+    Contest& contest, const std::vector<ContestantNumber>& named);
+
+/// Stores a new team: its members are unassigned in the reasons order, which grows to a row for
+/// every member slot.
+void addTeam(Contest& contest, const std::string& name, Team team);
+
+/// Stores an existing team's new values under its new name, which may be the old one. Another team
+/// of the new name is replaced.
+void replaceTeam(Contest& contest, const std::string& oldName, const std::string& newName,
+                 Team team);
+
+/// Removes a team and its members' names, and closes the gaps this leaves in the reasons order.
+/// Their group letters and scores stay. An unknown name is ignored.
+void removeTeam(Contest& contest, const std::string& name);
+
+/// Makes a contestant unassigned and closes the gap in the reasons order.
+///
+/// Deliberate: only a cell outside the first row and the first group is emptied; a contestant
+/// there keeps the cell although unassigned.
+void leaveReasonsOrder(Contest& contest, ContestantNumber number);
