@@ -144,6 +144,14 @@ std::int32_t linesThatFit(std::int32_t pageHeight, std::int32_t lineHeight) {
   return pageHeight > 0 && lineHeight > 0 ? pageHeight / lineHeight : 0;
 }
 
+std::int32_t normalFontHeight(std::int32_t defaultLineHeight, std::int32_t pixelsPerInch) {
+  constexpr std::int32_t kPointsPerInch = 72;
+  constexpr std::int32_t kSmallestDefault = 8;  // points
+  constexpr std::int32_t kReadable = 10;        // points
+  if (defaultLineHeight * kPointsPerInch >= kSmallestDefault * pixelsPerInch) return 0;
+  return -(kReadable * pixelsPerInch / kPointsPerInch);
+}
+
 std::string calendarTimeText(const std::tm& local) {
   // Written out, because the C libraries differ in how they pad the day.
   constexpr std::array kDays = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};

@@ -67,6 +67,13 @@ using PrintOperation = std::variant<print_operation::StartPage, print_operation:
 /// Lines that fit on a page, both heights in pixels; 0 when a height is not known.
 [[nodiscard]] std::int32_t linesThatFit(std::int32_t pageHeight, std::int32_t lineHeight);
 
+/// The font height to ask a printer for, in pixels, where it answers a request for its default
+/// height with lines of `defaultLineHeight` pixels: 0, its default, or the height of a readable
+/// font (negative, as characters are measured) where the default is too small to be meant. Such a
+/// printer is one that knows no default and takes that of a screen.
+[[nodiscard]] std::int32_t normalFontHeight(std::int32_t defaultLineHeight,
+                                            std::int32_t pixelsPerInch);
+
 /// Date and time in the 24 characters of the C library's calendar form and a line feed:
 /// "Sat Mar  7 09:05:02 2026\n".
 [[nodiscard]] std::string calendarTimeText(const std::tm& local);

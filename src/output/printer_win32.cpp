@@ -76,8 +76,26 @@ class SelectedFont {
 
   /// Keeps the font there is when the new one cannot be had.
   void select(PrintFont font) {
+    if (font == PrintFont::small) {
+      select(-55);
+      return;
+    }
+    select(0);
+    const int height = normalFontHeight(metrics().tmHeight, GetDeviceCaps(context_, LOGPIXELSY));
+    if (height != 0) select(height);
+  }
+
+  [[nodiscard]] TEXTMETRICA metrics() const {
+    TEXTMETRICA metrics = {};
+    GetTextMetricsA(context_, &metrics);
+    return metrics;
+  }
+
+ private:
+  /// 0: the device's default height.
+  void select(LONG height) {
     LOGFONTA description = {};
-    description.lfHeight = font == PrintFont::small ? -55 : 0;  // 0: the device's default height
+    description.lfHeight = height;
     description.lfWeight = FW_NORMAL;
     description.lfCharSet = ANSI_CHARSET;
     description.lfOutPrecision = OUT_STRING_PRECIS;
@@ -92,7 +110,6 @@ class SelectedFont {
     font_ = created;
   }
 
- private:
   HDC context_;
   HGDIOBJ own_;
   HFONT font_ = nullptr;
@@ -123,7 +140,7 @@ class AbortableJob {
   void showProgress(const std::string& text) const {
     if (job().dialog == nullptr) return;
     SetDlgItemTextA(job().dialog, kProgressText, text.c_str());
-    UpdateWindow(job().dialog);
+    RedrawWindow(job().dialog, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
   }
 
  private:
@@ -136,9 +153,8 @@ struct PageMetrics {
 };
 
 /// Measured once a job, in the font it starts with.
-PageMetrics measure(HDC printer) {
-  TEXTMETRICA metrics = {};
-  GetTextMetricsA(printer, &metrics);
+PageMetrics measure(HDC printer, const SelectedFont& font) {
+  const TEXTMETRICA metrics = font.metrics();
   const int lineHeight = metrics.tmHeight + metrics.tmExternalLeading;
   return {lineHeight, linesThatFit(GetDeviceCaps(printer, VERTRES), lineHeight)};
 }
@@ -168,7 +184,10 @@ class Performer {
     font_.select(operation.font);
     return true;
   }
-  bool operator()(const print_operation::EndPage&) const { return ::EndPage(printer_) > 0; }
+  bool operator()(const print_operation::EndPage&) const {
+    // Not every spooler asks the abort procedure of itself.
+    return ::EndPage(printer_) > 0 && abortProcedure(printer_, 0) != 0;
+  }
 
  private:
   HDC printer_;
@@ -205,8 +224,11 @@ void performJob(HDC printer, const std::vector<PrintOperation>& operations,
     return;
   }
   for (const PrintOperation& operation : operations) {
-    // A refused page leaves the document unended: the spooler has dropped the job already.
-    if (!std::visit(performer, operation)) return;
+    if (!std::visit(performer, operation)) {
+      // The document is not ended, so that nothing of it is printed.
+      AbortDoc(printer);
+      return;
+    }
   }
   EndDoc(printer);
 }
@@ -235,7 +257,7 @@ void printReport(HWND owner, HINSTANCE instance, std::string_view report, PrintH
   const PrinterContext printer(chosen);
   SelectedFont selected(printer.get(), font);
   const AbortableJob abortable(owner, instance, printer.get());
-  const PageMetrics metrics = measure(printer.get());
+  const PageMetrics metrics = measure(printer.get(), selected);
   const std::vector<PrintOperation> operations =
       layOutPrint(text, withTime(std::move(header)), metrics.linesPerPage);
   performJob(printer.get(), operations,

@@ -69,6 +69,43 @@ ErrorPolicy abort-job
 </DefaultPrinter>
 """
 
+# A plain PostScript printer for letter paper, 600 dots an inch, whose paper has margins.
+PPD = """*PPD-Adobe: "4.3"
+*FormatVersion: "4.3"
+*FileVersion: "1.0"
+*LanguageVersion: English
+*LanguageEncoding: ISOLatin1
+*PCFileName: "SCORVANE.PPD"
+*Manufacturer: "Scorvane"
+*Product: "(Test Printer)"
+*ModelName: "Scorvane Test Printer"
+*ShortNickName: "Scorvane Test Printer"
+*NickName: "Scorvane Test Printer"
+*PSVersion: "(3010.000) 0"
+*LanguageLevel: "3"
+*ColorDevice: False
+*DefaultColorSpace: Gray
+*FileSystem: False
+*DefaultResolution: 600dpi
+*cupsFilter: "application/postscript 0 -"
+*OpenUI *PageSize/Media Size: PickOne
+*OrderDependency: 10 AnySetup *PageSize
+*DefaultPageSize: Letter
+*PageSize Letter/US Letter: "<</PageSize[612 792]>>setpagedevice"
+*CloseUI: *PageSize
+*OpenUI *PageRegion/Media Size: PickOne
+*OrderDependency: 10 AnySetup *PageRegion
+*DefaultPageRegion: Letter
+*PageRegion Letter/US Letter: "<</PageSize[612 792]>>setpagedevice"
+*CloseUI: *PageRegion
+*DefaultImageableArea: Letter
+*ImageableArea Letter/US Letter: "18 18 594 774"
+*DefaultPaperDimension: Letter
+*PaperDimension Letter/US Letter: "612 792"
+*DefaultFont: Courier
+*Font Courier: Standard "(002.004S)" Standard ROM
+"""
+
 
 def missing():
     """What this machine lacks to run the print server; an empty list when nothing is missing."""
@@ -128,13 +165,14 @@ class PrivateCups:
 
     def _write_files(self):
         shutil.rmtree(self.root, ignore_errors=True)
-        for name in ("etc", "lib/backend", "spool/tmp", "cache", "run", "log", "output", "home"):
+        for name in ("etc/ppd", "lib/backend", "spool/tmp", "cache", "run", "log", "output", "home"):
             (self.root / name).mkdir(parents=True)
         # The server's own helper that starts every other one; the rest of the folder stays ours.
         (self.root / "lib/daemon").symlink_to(SYSTEM_HELPERS / "daemon")
         self._write("etc/cups-files.conf", FILES_CONF)
         self._write("etc/cupsd.conf", CUPSD_CONF)
         self._write("etc/printers.conf", PRINTERS_CONF)
+        self._write(f"etc/ppd/{QUEUE}.ppd", PPD)
         # Closed to others, so that a server started by root runs it as root: the folder may lie
         # where the server's own unprivileged user cannot go.
         self._write("lib/backend/testpdf", BACKEND, 0o700)

@@ -132,6 +132,13 @@ TEST(PrintLayout, GivesEveryLineItsPageWherePagesAreTooShort) {
   EXPECT_EQ(linesThatFit(6600, 0), 0);
 }
 
+TEST(PrintFontHeight, TakesTheDefaultOfAPrinterUnlessItIsTooSmallToRead) {
+  EXPECT_EQ(normalFontHeight(100, 600), 0);   // 12 points
+  EXPECT_EQ(normalFontHeight(67, 600), 0);    // just over 8 points
+  EXPECT_EQ(normalFontHeight(66, 600), -83);  // just under
+  EXPECT_EQ(normalFontHeight(16, 300), -41);
+}
+
 TEST(CalendarTime, PadsTheDayWithABlankAndTheTimeWithZeros) {
   std::tm time = {};
   time.tm_year = 126;
