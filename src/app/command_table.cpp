@@ -27,13 +27,19 @@ std::optional<std::string> tieBreakerRules(const Contest& /*contest*/,
   return tieBreakerReport();
 }
 
+template <bool small>
+void printReport(MainWindow& window) {
+  window.print(small);
+  window.refreshReportView();
+}
+
 constexpr std::array kCommands = {
     Command{32771, "File", "New Contest"},
     Command{32772, "File", "Open Contest"},
     Command{32773, "File", "Save Contest"},
     Command{32774, "File", "Save Contest As"},
-    Command{32805, "File", "Print"},
-    Command{32811, "File", "Print Small Font"},
+    Command{32805, "File", "Print", printReport<false>},
+    Command{32811, "File", "Print Small Font", printReport<true>},
     Command{32832, "File", "Save Report To File"},
     Command{105, "File", "Exit"},
 
