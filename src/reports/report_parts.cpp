@@ -5,9 +5,6 @@
 
 namespace {
 
-// Thirty classes and a hundred thousand contestants stay far below this.
-constexpr std::size_t kLongestReport = 128U << 20U;
-
 template <typename Condition>
 std::vector<std::int32_t> classesWith(const JudgingClasses& classes, Condition condition) {
   std::vector<std::int32_t> found;
@@ -29,10 +26,6 @@ const char* kindTag(const JudgingClasses& classes, std::int32_t classIndex) {
 
 std::vector<std::int32_t> allClasses(const JudgingClasses& classes) {
   return classesWith(classes, [](std::int32_t) { return true; });
-}
-
-std::vector<std::int32_t> reasonsClasses(const JudgingClasses& classes) {
-  return classesWith(classes, [&](std::int32_t k) { return classes.hasReasons(k); });
 }
 
 std::vector<std::int32_t> questionsClasses(const JudgingClasses& classes) {
@@ -96,10 +89,4 @@ const ScoreRecord& RecordWalk::at(std::int32_t classIndex) {
 char groupOfContestant(const Contest& contest, ContestantNumber number) {
   const char* group = contest.contestantGroup.find(number);
   return group != nullptr ? *group : groupOfNumber(contest.settings, number);
-}
-
-bool endIfTooLong(std::string& report) {
-  if (report.size() <= kLongestReport) return false;
-  report += "\nThis report is too long; it ends here.\n";
-  return true;
 }

@@ -7,13 +7,14 @@
 #include <vector>
 
 #include "model/contest.h"
+#include "model/reasons_classes.h"
+#include "view/report_text.h"
 
 /// The kind of a class in eleven characters: " (Reasons) ", " (Rsn/Qst) ", "(Questions)" or blank.
 [[nodiscard]] const char* kindTag(const JudgingClasses& classes, std::int32_t classIndex);
 
 /// The indexes of the classes that a grid has columns for, ascending.
 [[nodiscard]] std::vector<std::int32_t> allClasses(const JudgingClasses& classes);
-[[nodiscard]] std::vector<std::int32_t> reasonsClasses(const JudgingClasses& classes);
 [[nodiscard]] std::vector<std::int32_t> questionsClasses(const JudgingClasses& classes);
 
 /// A line of fixedPart + perClass * (number of all classes) hyphens.
@@ -57,7 +58,3 @@ class RecordWalk {
 
 /// The stored group letter of a contestant; the one of the number when none is stored.
 [[nodiscard]] char groupOfContestant(const Contest& contest, ContestantNumber number);
-
-/// Whether a report has grown beyond all use (a damaged contest file can ask for a grid larger
-/// than the memory). Then a last line says that it ends here, and the builder must stop.
-[[nodiscard]] bool endIfTooLong(std::string& report);

@@ -6,6 +6,7 @@
 #include "model/reasons_classes.h"
 #include "setup/reasons_bands.h"
 #include "text/format.h"
+#include "view/report_text.h"
 
 namespace {
 
@@ -109,6 +110,7 @@ std::string reasonsOrderReport(const Contest& contest, ReasonsOrderForm form) {
   std::string out = room ? formatText("\n\n%50.50s\n\n", "Reasons Order and Room Assignments")
                          : formatText("\n\n%30.30s\n\n", "Reasons Order");
   for (const ReasonsBand& band : reasonsBands(contest.settings.numReasonsGroups)) {
+    if (endIfTooLong(out)) break;
     if (band.first > 0) appendBandBreak(out);
     appendHeading(out, band, gap);
     appendGrid(out, contest.reasonsOrder, band, gap);

@@ -2,6 +2,7 @@
 
 #include "setup/reasons_bands.h"
 #include "text/format.h"
+#include "view/report_text.h"
 
 namespace {
 
@@ -66,6 +67,7 @@ std::optional<std::string> reasonsSheet(const Contest& contest, ReasonsSheet she
                                                  : "Reasons Score Verification Sheet\n\n";
   appendClassLine(out, contest.classes, classIndex);
   for (const ReasonsBand& band : reasonsBands(contest.settings.numReasonsGroups)) {
+    if (endIfTooLong(out)) break;
     if (band.first > 0) {
       out += "\n\n";
       appendBandBreak(out);

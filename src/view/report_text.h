@@ -15,3 +15,7 @@ inline constexpr const char* kLargeFontLine = "--- Large Font ---";
 
 /// Plain 8-bit text, lines ended by LF; tabs may occur. Holds the welcome text at start.
 [[nodiscard]] std::string& reportText();
+
+/// Whether a report has grown beyond all use (a damaged contest file can ask for a grid larger
+/// than the memory). Then a last line says that it ends here, and the builder must stop.
+[[nodiscard]] bool endIfTooLong(std::string& report);
