@@ -77,12 +77,12 @@ class SelectedFont {
   /// Keeps the font there is when the new one cannot be had.
   void select(PrintFont font) {
     if (font == PrintFont::small) {
-      select(-55);
+      selectHeight(-55);
       return;
     }
-    select(0);
+    selectHeight(0);
     const int height = normalFontHeight(metrics().tmHeight, GetDeviceCaps(context_, LOGPIXELSY));
-    if (height != 0) select(height);
+    if (height != 0) selectHeight(height);
   }
 
   [[nodiscard]] TEXTMETRICA metrics() const {
@@ -93,7 +93,7 @@ class SelectedFont {
 
  private:
   /// 0: the device's default height.
-  void select(LONG height) {
+  void selectHeight(LONG height) {
     LOGFONTA description = {};
     description.lfHeight = height;
     description.lfWeight = FW_NORMAL;

@@ -12,7 +12,9 @@ import pathlib
 import shutil
 import socket
 import subprocess
-import time
+import textwrap
+
+from desktop import wait_for
 
 QUEUE = "Scorvane-Test"
 SYSTEM_HELPERS = pathlib.Path("/usr/lib/cups")
@@ -130,11 +132,12 @@ class PrivateCups:
 
     def __enter__(self):
         self._write_files()
-        self.process = subprocess.Popen(
-            [_find("cupsd"), "-f", "-c", self.root / "etc/cupsd.conf", "-s", self.root / "etc/cups-files.conf"],
-            stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=open(self.root / "log/cupsd", "wb"))
+        with open(self.root / "log/cupsd", "wb") as log:
+            self.process = subprocess.Popen(
+                [_find("cupsd"), "-f", "-c", self.root / "etc/cupsd.conf", "-s", self.root / "etc/cups-files.conf"],
+                stdin=subprocess.DEVNULL, stdout=log, stderr=log)
         try:
-            wait_until(self._answers, 20, "the print server to answer")
+            wait_for(self._answers, "the print server to answer")
         except Exception:
             self.__exit__()
             raise
@@ -154,7 +157,7 @@ class PrivateCups:
 
     def wait_for_document(self, number):
         """Waits until `number` documents are printed; gives the last of them."""
-        wait_until(lambda: len(self.documents()) >= number, 30, f"printed document {number}; see {self.root}/log")
+        wait_for(lambda: len(self.documents()) >= number, f"printed document {number}; see {self.root}/log")
         return self.documents()[number - 1]
 
     def _answers(self):
@@ -184,23 +187,14 @@ class PrivateCups:
         (self.root / name).chmod(mode)
 
 
-def pages_of(document):
-    """The text of each page of a PDF, as lists of lines with their layout kept."""
-    text = subprocess.run(["pdftotext", "-layout", document, "-"], check=True, capture_output=True).stdout
-    # The tool ends every page with a form feed.
-    return [page.splitlines() for page in text.decode("utf-8").split("\f")[:-1]]
-
-
-def wait_until(condition, seconds, what):
-    """Waits for a condition to become true; gives its value. Complains about `what` if it does not."""
-    deadline = time.monotonic() + seconds
-    while True:
-        value = condition()
-        if value:
-            return value
-        if time.monotonic() > deadline:
-            raise TimeoutError(f"waited {seconds} s for {what}")
-        time.sleep(0.05)
+def pages_of(document, character_width):
+    """The lines of each page of a PDF that have text, blanks kept, from the printer's left edge on.
+    `character_width` is that of its fixed-pitch font in points."""
+    text = subprocess.run(["pdftotext", "-layout", "-fixed", str(character_width), document, "-"], check=True,
+                          capture_output=True).stdout.decode("utf-8")
+    # The two hyphens share one glyph, of which the tool knows the other name.
+    pages = text.replace("\u00ad", "-").split("\f")[:-1]
+    return [[line for line in textwrap.dedent(page).splitlines() if line] for page in pages]
 
 
 def _find(program):
