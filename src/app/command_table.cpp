@@ -4,6 +4,7 @@
 #include <array>
 
 #include "app/reasons_commands.h"
+#include "app/results_commands.h"
 #include "app/round_commands.h"
 #include "app/shown_report.h"
 #include "reports/class_reports.h"
@@ -69,14 +70,19 @@ constexpr std::array kCommands = {
     Command{32823, "Score", "Input Reasons Scores"},
     Command{32826, "Score", "Input Questions Scores By Group"},
 
-    Command{32796, "Results Reports", "High Individual Overall"},
-    Command{32799, "Results Reports", "High Individual Placings"},
-    Command{32798, "Results Reports", "High Individual Reasons"},
-    Command{32827, "Results Reports", "High Individual Questions"},
-    Command{32801, "Results Reports", "High Team Overall"},
-    Command{32804, "Results Reports", "High Team Placings"},
-    Command{32803, "Results Reports", "High Team Reasons"},
-    Command{32830, "Results Reports", "High Team Questions"},
+    Command{32796, "Results Reports", "High Individual Overall", nullptr,
+            highIndividual<ScoreKind::overall>},
+    Command{32799, "Results Reports", "High Individual Placings", nullptr,
+            highIndividual<ScoreKind::placings>},
+    Command{32798, "Results Reports", "High Individual Reasons", nullptr,
+            highIndividual<ScoreKind::reasons>},
+    Command{32827, "Results Reports", "High Individual Questions", nullptr,
+            highIndividual<ScoreKind::questions>},
+    Command{32801, "Results Reports", "High Team Overall", nullptr, highTeam<ScoreKind::overall>},
+    Command{32804, "Results Reports", "High Team Placings", nullptr, highTeam<ScoreKind::placings>},
+    Command{32803, "Results Reports", "High Team Reasons", nullptr, highTeam<ScoreKind::reasons>},
+    Command{32830, "Results Reports", "High Team Questions", nullptr,
+            highTeam<ScoreKind::questions>},
     Command{32800, "Results Reports", "Custom/Category Report"},
     Command{32810, "Results Reports", "Total Summary Report"},
 

@@ -58,6 +58,15 @@ class FlatMap {
   }
   [[nodiscard]] bool contains(const Key& key) const { return find(key) != nullptr; }
 
+  /// Position of a key in the ascending order; size() when it is missing. `expected` is looked at
+  /// first: keys asked for in ascending order are found at once behind the one found last.
+  [[nodiscard]] std::size_t positionOf(const Key& key, std::size_t expected = 0) const {
+    if (expected < entries_.size() && entries_[expected].first == key) return expected;
+    const auto place = lowerBound(key);
+    const bool found = place != entries_.end() && !(key < place->first);
+    return found ? static_cast<std::size_t>(place - entries_.begin()) : entries_.size();
+  }
+
   /// The value of a key, made empty first when it is missing.
   Value& operator[](const Key& key) {
     if (entries_.empty() || entries_.back().first < key) {
@@ -85,8 +94,7 @@ class FlatMap {
   static void keepLastOfEachKey(std::vector<Entry>& entries) {
     std::size_t kept = 0;
     for (std::size_t i = 0; i < entries.size(); ++i) {
-      const bool lastOfKey =
-          i + 1 == entries.size() || entries[i].first < entries[i + 1].first;
+      const bool lastOfKey = i + 1 == entries.size() || entries[i].first < entries[i + 1].first;
       if (!lastOfKey) continue;
       if (kept != i) entries[kept] = std::move(entries[i]);
       ++kept;

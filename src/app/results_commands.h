@@ -1,0 +1,20 @@
+// The commands of the rankings.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "app/report_request.h"
+#include "results/high_individual_report.h"
+#include "results/high_team_report.h"
+
+/// The High Individual and High Team reports over every class, with the contest's own number.
+template <ScoreKind kind>
+std::optional<std::string> highIndividual(const Contest& contest,
+                                          const ReportRequest& /*request*/) {
+  return highIndividualReport(contest, wholeContestRequest(contest, kind));
+}
+template <ScoreKind kind>
+std::optional<std::string> highTeam(const Contest& contest, const ReportRequest& /*request*/) {
+  return highTeamReport(contest, wholeContestRequest(contest, kind));
+}

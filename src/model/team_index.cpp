@@ -1,0 +1,20 @@
+#include "model/team_index.h"
+
+TeamIndex::TeamIndex(const Contest& contest)
+    : contest_(contest), teams_(contest.contestantNames.size()) {
+  std::size_t expected = 0;
+  for (const auto& [name, team] : contest.teams) {
+    for (const ContestantNumber number : team.members) {
+      const std::size_t position = contest.contestantNames.positionOf(number, expected);
+      if (position == teams_.size()) continue;
+      if (teams_[position] == nullptr) teams_[position] = &name;
+      expected = position + 1;
+    }
+  }
+}
+
+const std::string& TeamIndex::teamOf(ContestantNumber number) const {
+  static const std::string none;
+  const std::size_t position = contest_.contestantNames.positionOf(number);
+  return position == teams_.size() || teams_[position] == nullptr ? none : *teams_[position];
+}

@@ -1,0 +1,21 @@
+// Which team a contestant belongs to, looked up fast.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "model/contest.h"
+
+/// Made once for a report; the contest must outlive it and stay as it is.
+class TeamIndex {
+ public:
+  explicit TeamIndex(const Contest& contest);
+
+  /// Name of the team that has the number in any member slot, alternates included; the first in
+  /// name order when there are several, "" when there is none or the contestant does not exist.
+  [[nodiscard]] const std::string& teamOf(ContestantNumber number) const;
+
+ private:
+  const Contest& contest_;
+  std::vector<const std::string*> teams_;  ///< by position in contestantNames, null without a team
+};

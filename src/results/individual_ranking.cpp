@@ -1,0 +1,8 @@
+#include "results/individual_ranking.h"
+
+std::vector<IndividualRankEntry> rankIndividuals(const Contest& contest, ScoreKind kind,
+                                                 const ClassSet& classSet) {
+  std::vector<IndividualRankEntry> ranking = contestantTotals(contest, kind, classSet);
+  sortByRank(ranking, tieOrderFor(contest, kind, classSet));
+  return ranking;
+}

@@ -1,0 +1,26 @@
+// Ranking of teams.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "results/tie_breakers.h"
+
+struct TeamRankEntry {
+  std::map<std::string, Team>::const_iterator team;  ///< into the contest that was ranked
+  RankValues values;                                 ///< summed over the members that count
+};
+
+/// The sums of a number among `totals`, which contestantTotals() made of the same contest; zeros
+/// for a number without scores. `position` is where the number was expected, 0 if unknown, and
+/// becomes where the next higher number is to be expected.
+[[nodiscard]] RankValues totalsOf(const Contest& contest,
+                                  const std::vector<IndividualRankEntry>& totals,
+                                  ContestantNumber number, std::size_t& position);
+
+/// All teams, best first. A team's values are the sums over the numToScore best of its regular
+/// members, the very same members for the score and for the values that break ties.
+[[nodiscard]] std::vector<TeamRankEntry> rankTeams(const Contest& contest,
+                                                   const std::vector<IndividualRankEntry>& totals,
+                                                   TieOrder order);

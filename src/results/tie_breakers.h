@@ -1,0 +1,86 @@
+// The three orderings of the rankings, and which of their tie-breaking values a report shows.
+//
+// A ranking compares the score first and then the ordering's further values. Entries equal in all
+// of them are a true tie: there is deliberately no last resort, neither number nor name. std::sort
+// then leaves them in an order of its own, always the same one for the same contest.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "results/contestant_totals.h"
+
+enum class TieOrder { overall, reasons, category };
+
+/// The ordering of a ranking: reasons for the kinds Reasons and Questions, otherwise category when
+/// the class set holds fewer classes than the contest, otherwise overall.
+[[nodiscard]] TieOrder tieOrderFor(const Contest& contest, ScoreKind kind,
+                                   const ClassSet& classSet);
+
+struct RankField {
+  std::int32_t RankValues::*field = nullptr;
+  bool largerFirst = true;
+};
+
+/// What the orderings compare, most important first. All fields but the first break ties.
+inline constexpr std::array kOverallFields = {RankField{&RankValues::score},
+                                              RankField{&RankValues::totalReasons},
+                                              RankField{&RankValues::reasonsClassPlacings, false}};
+inline constexpr std::array kReasonsFields = {RankField{&RankValues::score},
+                                              RankField{&RankValues::reasonsClassPlacings, false},
+                                              RankField{&RankValues::totalOverall}};
+inline constexpr std::array kCategoryFields = {
+    RankField{&RankValues::score}, RankField{&RankValues::setReasons},
+    RankField{&RankValues::totalReasons}, RankField{&RankValues::totalOverall}};
+
+[[nodiscard]] constexpr std::span<const RankField> rankFields(TieOrder order) {
+  switch (order) {
+    case TieOrder::reasons:
+      return kReasonsFields;
+    case TieOrder::category:
+      return kCategoryFields;
+    case TieOrder::overall:
+      break;
+  }
+  return kOverallFields;
+}
+
+/// Whether `a` ranks before `b`; a strict ordering.
+template <typename Fields>
+[[nodiscard]] constexpr bool ranksBefore(const Fields& fields, const RankValues& a,
+                                         const RankValues& b) {
+  for (const RankField& rank : fields) {
+    const std::int32_t mine = a.*rank.field;
+    const std::int32_t other = b.*rank.field;
+    if (mine != other) return rank.largerFirst ? mine > other : mine < other;
+  }
+  return false;
+}
+
+/// Sorts ranking entries, which have their sums in a member `values`.
+template <typename Entry>
+void sortByRank(std::vector<Entry>& entries, TieOrder order) {
+  const auto sortBy = [&](const auto& fields) {
+    std::sort(entries.begin(), entries.end(), [&fields](const Entry& a, const Entry& b) {
+      return ranksBefore(fields, a.values, b.values);
+    });
+  };
+  if (order == TieOrder::overall) sortBy(kOverallFields);
+  if (order == TieOrder::reasons) sortBy(kReasonsFields);
+  if (order == TieOrder::category) sortBy(kCategoryFields);
+}
+
+/// The tie-breaking values that a row of a results report shows, in order.
+struct TieColumns {
+  std::array<std::int32_t, 3> values{};
+  int count = 0;
+};
+
+/// Exactly the values that were needed to separate a row from the rows above and below it: none
+/// when its score differs from both, one when a score is equal, one more for every further value
+/// that is equal too. The ends of the list are compared with zeros.
+[[nodiscard]] TieColumns tieColumns(TieOrder order, const RankValues& row,
+                                    const RankValues& previous, const RankValues& next);

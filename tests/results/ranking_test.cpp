@@ -1,0 +1,178 @@
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "results/individual_ranking.h"
+#include "results/team_ranking.h"
+#include "results/team_scoring.h"
+#include "tests/support/contest_builder.h"
+
+namespace {
+
+// A second, slow ranking: every sum record by record, every team member by member.
+
+RankValues sumSlowly(const Contest& contest, ContestantNumber number, ScoreKind kind,
+                     const ClassSet& classSet) {
+  RankValues sum;
+  for (std::int32_t c = 0; c < 20; ++c) {
+    const ScoreRecord& record = scoreRecord(contest, number, c);
+    const std::array<std::int32_t, 4> byKind = {
+        record.placingScore + record.reasonsScore + record.questionsScore, record.placingScore,
+        record.reasonsScore, record.questionsScore};
+    const bool questions = kind == ScoreKind::questions;
+    sum.totalOverall += byKind[0];
+    if (contest.classes.hasReasons(c)) sum.totalReasons += record.reasonsScore;
+    if (questions ? contest.classes.hasQuestions(c) : contest.classes.hasReasons(c)) {
+      sum.reasonsClassPlacings += record.placingScore;
+    }
+    if (std::find(classSet.begin(), classSet.end(), c) == classSet.end()) continue;
+    sum.score += byKind.at(static_cast<std::size_t>(kind));
+    sum.setReasons += questions ? record.questionsScore : record.reasonsScore;
+  }
+  return sum;
+}
+
+// What the ordering compares, so that plain ascending order is the ranking.
+std::array<std::int32_t, 4> keyOf(const RankValues& v, ScoreKind kind, bool wholeContest) {
+  if (kind == ScoreKind::reasons || kind == ScoreKind::questions) {
+    return {-v.score, v.reasonsClassPlacings, -v.totalOverall, 0};
+  }
+  if (!wholeContest) return {-v.score, -v.setReasons, -v.totalReasons, -v.totalOverall};
+  return {-v.score, -v.totalReasons, v.reasonsClassPlacings, 0};
+}
+
+RankValues teamSlowly(const Contest& contest, const Team& team, ScoreKind kind,
+                      const ClassSet& classSet) {
+  std::vector<RankValues> members;
+  for (std::int32_t slot = 0; slot < contest.settings.numPerTeam; ++slot) {
+    members.push_back(
+        sumSlowly(contest, team.members.at(static_cast<std::size_t>(slot)), kind, classSet));
+  }
+  for (std::size_t i = 0; i < members.size(); ++i) {
+    for (std::size_t j = i + 1; j < members.size(); ++j) {
+      if (members[i].score < members[j].score) std::swap(members[i], members[j]);
+    }
+  }
+  RankValues sum;
+  if (contest.settings.numToScore > contest.settings.numPerTeam) return sum;
+  members.resize(static_cast<std::size_t>(contest.settings.numToScore));
+  for (const RankValues& member : members) {
+    sum = {sum.score + member.score, sum.totalReasons + member.totalReasons,
+           sum.reasonsClassPlacings + member.reasonsClassPlacings,
+           sum.totalOverall + member.totalOverall, sum.setReasons + member.setReasons};
+  }
+  return sum;
+}
+
+// Few different scores, so that ties go deep; some contestants without some or all records.
+Contest randomContest(std::mt19937& random) {
+  const auto upTo = [&](int most) { return static_cast<int>(random() % (most + 1U)); };
+  ContestBuilder builder;
+  const std::int32_t perTeam = 1 + upTo(4);
+  builder.members(perTeam, perTeam + upTo(2), upTo(5));
+  const int classes = upTo(4);
+  for (int k = 0; k < classes; ++k) {
+    builder.addClass({.reasons = upTo(1) == 1, .questions = upTo(1) == 1});
+  }
+  for (int t = 0; t < 1 + upTo(12); ++t) {
+    const auto slots = static_cast<std::size_t>(builder.contest.settings.totalNumPerTeam);
+    builder.team("Team " + std::to_string(t), "", std::vector<std::string>(slots, "Ann"));
+  }
+  for (const auto& [number, name] : builder.contest.contestantNames) {
+    for (int k = 0; k < classes; ++k) {
+      if (upTo(9) == 0) continue;
+      builder.contest.scores[number][k] = {'A', upTo(2) - 1, upTo(2), upTo(2)};
+    }
+  }
+  return builder.contest;
+}
+
+template <typename Ranking, typename Slowly>
+void expectSameOrder(const Ranking& ranking, ScoreKind kind, bool wholeContest, Slowly slowly) {
+  std::vector<std::array<std::int32_t, 4>> ranked, expected;
+  for (const auto& entry : ranking) {
+    EXPECT_EQ(entry.values, slowly(entry));
+    ranked.push_back(keyOf(entry.values, kind, wholeContest));
+    expected.push_back(keyOf(slowly(entry), kind, wholeContest));
+  }
+  std::sort(expected.begin(), expected.end());
+  EXPECT_EQ(ranked, expected);
+}
+
+TEST(Ranking, AgreesWithASlowOneOnRandomContests) {
+  for (unsigned seed = 1; seed <= 300; ++seed) {
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    const Contest contest = randomContest(random);
+    ClassSet classSet = allClasses(contest);
+    if (random() % 2 == 0 && !classSet.empty()) classSet.erase(classSet.begin());
+    const bool wholeContest = classSet.size() == allClasses(contest).size();
+    for (const ScoreKind kind : kScoreKinds) {
+      const auto individuals = rankIndividuals(contest, kind, classSet);
+      EXPECT_EQ(individuals.size(), contest.scores.size());
+      expectSameOrder(individuals, kind, wholeContest, [&](const IndividualRankEntry& entry) {
+        return sumSlowly(contest, entry.contestantNumber, kind, classSet);
+      });
+      const auto teams = rankTeams(contest, contestantTotals(contest, kind, classSet),
+                                   tieOrderFor(contest, kind, classSet));
+      EXPECT_EQ(teams.size(), contest.teams.size());
+      expectSameOrder(teams, kind, wholeContest, [&](const TeamRankEntry& entry) {
+        return teamSlowly(contest, entry.team->second, kind, classSet);
+      });
+    }
+  }
+}
+
+TEST(Ranking, CountsAbsurdScoresWithoutHarm) {
+  ContestBuilder builder;
+  builder.members(2, 2, 2).addClass({.reasons = true}).team("Adams", "", {"Ann", "Bob"});
+  builder.scores(101, {{2147483647, 2147483647, 2147483647}}).scores(102, {{2147483647, 5}});
+  builder.contest.scores[101][1999999999] = {'A', 1, 1, 1};  // a class that does not exist
+  const ClassSet all = allClasses(builder.contest);
+  const auto totals = contestantTotals(builder.contest, ScoreKind::overall, all);
+  EXPECT_EQ(totals[0].values.score, 2147483645);
+  EXPECT_EQ(totals[0].values.totalOverall, -2147483648);
+  EXPECT_EQ(rankTeams(builder.contest, totals, TieOrder::overall)[0].values.score, 1);
+}
+
+struct CountingCase {
+  std::int32_t perTeam, toScore;
+  std::vector<std::int32_t> scores;  ///< of the slots that the team has
+  std::vector<std::size_t> counting;
+};
+
+TEST(TeamScoring, CountsTheBestRegularMembers) {
+  const std::vector<CountingCase> cases = {
+      {4, 3, {40, 45, 30, 45}, {1, 3, 0}},
+      {4, 5, {40, 45, 30, 45}, {}},
+      {4, 0, {40, 45, 30, 45}, {}},
+      {4, -1, {40, 45, 30, 45}, {}},
+      {-1, -2, {}, {}},
+      {3, 2, {0, 0, 50}, {2, 1}},  // the exchange puts the first 0 last
+      // Slots that the team lacks come between 0 and what is below.
+      {5, 3, {-1, 0, 7}, {2, 1}},
+      {5, 5, {-1, 0, 7}, {2, 1, 0}},
+      {2147483647, 2147483646, {-1, 7, -2}, {1, 0}},
+  };
+  std::vector<std::size_t> counting = {7, 7};
+  for (const CountingCase& example : cases) {
+    ContestSettings settings;
+    settings.numPerTeam = example.perTeam;
+    settings.numToScore = example.toScore;
+    chooseCountingSlots(settings, example.scores, counting);
+    EXPECT_EQ(counting, example.counting) << example.perTeam << ", " << example.toScore;
+  }
+}
+
+TEST(TeamScoring, TakesAsManyOfAHugeTeam) {
+  ContestSettings settings;
+  settings.numPerTeam = 100000;
+  settings.numToScore = 3;
+  std::vector<std::int32_t> scores(100000, 10);
+  scores[500] = scores[99999] = 11;
+  std::vector<std::size_t> counting;
+  chooseCountingSlots(settings, scores, counting);
+  EXPECT_EQ(counting, (std::vector<std::size_t>{500, 99999, 0}));
+}
+
+}  // namespace
