@@ -51,7 +51,9 @@ void JudgingClasses::add(std::string name, bool reasons, bool questions, Placing
   categoryIndex.push_back(category);
 }
 
-void JudgingClasses::clear() { *this = JudgingClasses{}; }
+void JudgingClasses::clear() {
+  *this = JudgingClasses{};
+}
 
 Contest& currentContest() {
   static Contest contest;
@@ -98,4 +100,6 @@ void recomputeAllPlacingScores(Contest& contest) {
   }
 }
 
-void recomputeAllPlacingScores() { recomputeAllPlacingScores(currentContest()); }
+void recomputeAllPlacingScores() {
+  recomputeAllPlacingScores(currentContest());
+}

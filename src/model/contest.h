@@ -50,16 +50,16 @@ struct JudgingClasses {
 
   /// Number of classes: the number of names.
   [[nodiscard]] std::int32_t count() const { return static_cast<std::int32_t>(className.size()); }
-  [[nodiscard]] const std::string& name(std::int32_t index) const;   ///< "" when missing
-  [[nodiscard]] bool hasReasons(std::int32_t index) const;           ///< false when missing
-  [[nodiscard]] bool hasQuestions(std::int32_t index) const;         ///< false when missing
-  [[nodiscard]] PlacingLetter official(std::int32_t index) const;    ///< ' ' when missing
-  [[nodiscard]] Cuts cuts(std::int32_t index) const;                 ///< zeros when missing
-  [[nodiscard]] std::int32_t category(std::int32_t index) const;     ///< 0 when missing
+  [[nodiscard]] const std::string& name(std::int32_t index) const;  ///< "" when missing
+  [[nodiscard]] bool hasReasons(std::int32_t index) const;          ///< false when missing
+  [[nodiscard]] bool hasQuestions(std::int32_t index) const;        ///< false when missing
+  [[nodiscard]] PlacingLetter official(std::int32_t index) const;   ///< ' ' when missing
+  [[nodiscard]] Cuts cuts(std::int32_t index) const;                ///< zeros when missing
+  [[nodiscard]] std::int32_t category(std::int32_t index) const;    ///< 0 when missing
 
   /// Appends one class to every column.
-  void add(std::string name, bool reasons, bool questions, PlacingLetter official,
-           const Cuts& cuts, std::int32_t category);
+  void add(std::string name, bool reasons, bool questions, PlacingLetter official, const Cuts& cuts,
+           std::int32_t category);
   void clear();
   friend bool operator==(const JudgingClasses&, const JudgingClasses&) = default;
 };

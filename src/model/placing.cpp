@@ -33,7 +33,9 @@ std::uint32_t cutsBetween(const std::array<std::uint32_t, 3>& cuts, std::size_t 
 
 }  // namespace
 
-bool isOrderLetter(PlacingLetter letter) { return letter >= 'A' && letter <= 'X'; }
+bool isOrderLetter(PlacingLetter letter) {
+  return letter >= 'A' && letter <= 'X';
+}
 
 std::array<std::int32_t, 4> orderOfLetter(PlacingLetter letter) {
   if (!isOrderLetter(letter)) return {0, 0, 0, 0};

@@ -6,6 +6,7 @@
 
 namespace {
 
+SCORVANE_FORMAT(2, 0)
 void appendFormatList(std::string& out, const char* format, std::va_list arguments) {
   // Nearly every line of this program fits; longer ones are measured first and written in place.
   std::array<char, 256> buffer;

@@ -134,7 +134,7 @@ void readScript(const std::string& script, std::vector<DialogTemplate>& template
     }
     ++i;
     while (i < tokens.size() && startsControl(tokens[i])) {
-      const std::string statement = tokens[i++];
+      const std::string& statement = tokens[i++];
       dialog.controls.push_back(controlOf(statement, argumentsOf(tokens, i)));
     }
     templates.push_back(dialog);

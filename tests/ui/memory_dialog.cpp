@@ -79,13 +79,13 @@ Answer ScriptedDesktop::ask(const Message& message) {
 std::optional<std::string> ScriptedDesktop::chooseFile(const FileQuestion& question) {
   fileQuestions.push_back(question);
   if (files.empty()) return std::nullopt;
-  const std::optional<std::string> file = files.front();
+  std::optional<std::string> file = files.front();
   files.pop_front();
   return file;
 }
 
 std::string ScriptedDesktop::takeMessage() {
-  const std::string text = messages.empty() ? "" : messages.back().text;
+  std::string text = messages.empty() ? "" : messages.back().text;
   messages.clear();
   return text;
 }
