@@ -1,5 +1,6 @@
 #include "setup/member_form.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -144,6 +145,7 @@ void resetMemberForm(Dialog& dialog) {
 
 void showMembers(Dialog& dialog, const std::vector<ContestantNumber>& members) {
   std::vector<std::string> lines;
+  lines.reserve(members.size());
   for (const ContestantNumber number : members) {
     lines.push_back(memberLine(currentContest(), number, static_cast<std::int32_t>(lines.size())));
   }
@@ -153,6 +155,7 @@ void showMembers(Dialog& dialog, const std::vector<ContestantNumber>& members) {
 std::vector<ContestantNumber> membersShown(const Dialog& dialog) {
   std::vector<ContestantNumber> members;
   const int count = dialog.lineCount(kMemberList);
+  members.reserve(static_cast<std::size_t>(count));
   for (int slot = 0; slot < count; ++slot) {
     members.push_back(leadingNumber(dialog.line(kMemberList, slot)));
   }
