@@ -1,0 +1,119 @@
+#include "storage/contest_commands.h"
+
+#include <optional>
+#include <utility>
+#include <variant>
+
+#include "model/contest.h"
+#include "model/new_contest.h"
+#include "storage/contest_reader.h"
+#include "storage/contest_writer.h"
+#include "storage/file.h"
+#include "storage/safe_save.h"
+#include "text/format.h"
+#include "view/report_text.h"
+
+namespace {
+
+FileQuestion contestFileQuestion(FileQuestion::Purpose purpose) {
+  FileQuestion question;
+  question.purpose = purpose;
+  question.filters = {{"Scorvane", "*.scv"}, {"All", "*.*"}};
+  question.defaultExtension = "scv";
+  question.fileMustExist = purpose == FileQuestion::Purpose::open;
+  return question;
+}
+
+constexpr const char* kNotSaved =
+    "Your file did NOT save!\r\n"
+    "Perhaps you previously saved to removable media like a thumb drive.\r\n"
+    "Select File->Save As and save your file to another location.\r\n"
+    "Again, your file did NOT save!  Please use File->Save As to ensure your work is saved.\r\n";
+
+void startNewContest() {
+  resetContest();
+  reportText() = kWelcomeText;
+}
+
+void refuseMissingFile(Window& owner) {
+  startNewContest();
+  owner.show(formatText("%s (%s) %s", "Invalid file name", currentFileName().c_str(),
+                        ", or file does not exist."),
+             "Information");
+  currentFileName().clear();
+}
+
+void refuse(Window& owner, ContestFault fault) {
+  if (fault == ContestFault::scoreCountMismatch) {
+    owner.show("Number of scores in the file is not correct.  None read.", "Information");
+    startNewContest();
+    currentFileName().clear();
+  } else {
+    startNewContest();
+    currentFileName().clear();
+    owner.show("Illegal or corrupt data file.", "Error!");
+  }
+}
+
+/// Lets the operator choose the file to open; a cancelled choice leaves a new contest.
+bool chooseFileToOpen(Window& owner) {
+  currentFileName().clear();
+  auto path = owner.chooseFile(contestFileQuestion(FileQuestion::Purpose::open));
+  if (!path) {
+    startNewContest();
+    return false;
+  }
+  currentFileName() = std::move(*path);
+  return true;
+}
+
+}  // namespace
+
+std::string& currentFileName() {
+  static std::string name;
+  return name;
+}
+
+void resetContest() {
+  currentContest() = newContest();
+  reportText().clear();
+}
+
+void saveContest(Window& owner, bool askForName) {
+  if (askForName) {
+    currentFileName().clear();
+    auto path = owner.chooseFile(contestFileQuestion(FileQuestion::Purpose::save));
+    if (!path) return;
+    currentFileName() = std::move(*path);
+  }
+  Contest& contest = currentContest();
+  if (!saveSafely(systemFiles(), currentFileName(), writeContest(contest))) {
+    owner.show(kNotSaved, "File Save Error");
+    return;
+  }
+  // The contest in memory gets the placeholder that the file was given.
+  if (contest.categories.empty()) contest.categories = {kNoCategory};
+}
+
+void saveCurrent(Window& owner) {
+  saveContest(owner, currentFileName().empty());
+}
+
+bool loadContest(Window& owner, bool useGivenPath) {
+  if (!useGivenPath && !chooseFileToOpen(owner)) return false;
+  reportText() = kWelcomeText;
+  const bool isUsableName = currentFileName().size() <= kMaxPathLength;
+  const auto bytes = isUsableName ? systemFiles().readWhole(currentFileName()) : std::nullopt;
+  if (!bytes) {
+    refuseMissingFile(owner);
+    return false;
+  }
+  resetContest();
+  auto reading = readContest(*bytes);
+  if (const auto* fault = std::get_if<ContestFault>(&reading)) {
+    refuse(owner, *fault);
+    return false;
+  }
+  currentContest() = std::get<Contest>(std::move(reading));
+  return true;
+}

@@ -1,0 +1,201 @@
+#include "storage/contest_reader.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "model/new_contest.h"
+#include "model/numbering.h"
+#include "storage/contest_format.h"
+#include "storage/line_scanner.h"
+#include "storage/score_reader.h"
+#include "storage/settings_reader.h"
+#include "text/number.h"
+
+namespace {
+
+bool skipTo(LineScanner& lines, std::string_view marker) {
+  while (const auto line = lines.next()) {
+    if (*line == marker) return true;
+  }
+  return false;
+}
+
+/// The count that stands on a line of its own.
+std::optional<std::int32_t> readCount(LineScanner& lines) {
+  const auto line = lines.next();
+  if (!line) return std::nullopt;
+  return leadingNumber(*line);
+}
+
+/// How many records a section promises, nothing when it promises fewer than none.
+std::optional<std::int32_t> readRecordCount(LineScanner& lines) {
+  const auto count = readCount(lines);
+  return count && *count >= 0 ? count : std::nullopt;
+}
+
+/// Room worth making for `count` promised lines: no more than the rest of the file can hold.
+std::size_t plausibleCount(const LineScanner& lines, std::int32_t count) {
+  constexpr std::size_t kShortestUsualLine = 8;
+  return std::min(static_cast<std::size_t>(count), lines.remaining() / kShortestUsualLine);
+}
+
+Cuts parseCuts(std::string_view field) {
+  Cuts cuts;
+  for (std::int32_t* cut : {&cuts.cut1, &cuts.cut2, &cuts.cut3}) {
+    *cut = leadingNumber(field.substr(0, field.find(',')));
+    const std::size_t comma = field.find(',');
+    field.remove_prefix(comma == std::string_view::npos ? field.size() : comma + 1);
+  }
+  return cuts;
+}
+
+void addClass(std::string_view line, Contest& contest) {
+  FieldScanner fields(line);
+  const std::string_view name = fields.nextOrEmpty();
+  const bool reasons = fields.nextOrEmpty() == "Yes";
+  std::string_view letter = fields.nextOrEmpty();
+  bool questions = false;
+  // Files written before there were questions have the letter in this field already.
+  if (letter == "Yes" || letter == "No") {
+    questions = letter == "Yes";
+    letter = fields.nextOrEmpty();
+  }
+  const Cuts cuts = parseCuts(fields.nextOrEmpty());
+  std::int32_t category = leadingNumber(fields.nextOrEmpty());
+  if (category < 0 || static_cast<std::size_t>(category) >= contest.categories.size()) {
+    category = 0;
+  }
+  contest.classes.add(std::string(name), reasons, questions,
+                      letter.empty() ? kNoLetter : letter.front(), cuts, category);
+}
+
+bool readClasses(LineScanner& lines, Contest& contest) {
+  const auto count = readRecordCount(lines);
+  if (!count) return false;
+  for (std::int32_t i = 0; i < *count; ++i) {
+    const auto line = lines.nextRecord();
+    if (!line) return false;
+    addClass(*line, contest);
+  }
+  return true;
+}
+
+ReasonsPlace parsePlace(FieldScanner& fields) {
+  ReasonsPlace place;
+  if (const auto group = fields.next()) place.group = leadingNumber(*group);
+  if (const auto position = fields.next()) place.position = leadingNumber(*position);
+  return place;
+}
+
+/// Gives the number of lines read, which is that of contestants unless one comes twice.
+std::optional<std::int32_t> readContestants(LineScanner& lines, Contest& contest) {
+  if (!skipTo(lines, kContestantsMarker)) return std::nullopt;
+  const auto count = readRecordCount(lines);
+  if (!count) return std::nullopt;
+  std::vector<std::pair<ContestantNumber, std::string>> names;
+  std::vector<std::pair<ContestantNumber, char>> groups;
+  std::vector<std::pair<ContestantNumber, ReasonsPlace>> places;
+  const std::size_t room = plausibleCount(lines, *count);
+  names.reserve(room);
+  groups.reserve(room);
+  places.reserve(room);
+  for (std::int32_t i = 0; i < *count; ++i) {
+    const auto line = lines.nextRecord();
+    if (!line) return std::nullopt;
+    FieldScanner fields(*line);
+    const ContestantNumber number = leadingNumber(fields.nextOrEmpty());
+    names.emplace_back(number, fields.nextOrEmpty());
+    groups.emplace_back(number, groupOfNumber(contest.settings, number));
+    places.emplace_back(number, parsePlace(fields));
+  }
+  contest.contestantNames = decltype(contest.contestantNames)::fromEntries(std::move(names));
+  contest.contestantGroup = decltype(contest.contestantGroup)::fromEntries(std::move(groups));
+  contest.reasonsPlace = decltype(contest.reasonsPlace)::fromEntries(std::move(places));
+  updateNextContestant(contest);
+  return count;
+}
+
+/// Empty names stand in the file as a single blank.
+std::string_view teamText(std::string_view field) {
+  return field == " " ? "" : field;
+}
+
+void addTeam(std::string_view line, std::size_t slots, Contest& contest) {
+  FieldScanner fields(line);
+  const std::string name(teamText(fields.nextOrEmpty()));
+  Team team;
+  team.coach = teamText(fields.nextOrEmpty());
+  team.members.reserve(slots);
+  for (std::size_t slot = 0; slot < slots; ++slot) {
+    team.members.push_back(leadingNumber(fields.nextOrEmpty()));
+  }
+  contest.teams.insert_or_assign(contest.teams.end(), name, std::move(team));
+}
+
+// A line that lacks members reads them as 0, so the slots of a team are promised, not given. All
+// of them together may not outnumber the bytes of the file.
+bool readTeams(LineScanner& lines, std::size_t fileSize, Contest& contest) {
+  if (!skipTo(lines, kTeamsMarker)) return false;
+  const auto count = readRecordCount(lines);
+  if (!count) return false;
+  const auto slots = static_cast<std::size_t>(std::max(contest.settings.totalNumPerTeam, 0));
+  if (slots > fileSize) return false;
+  std::size_t allSlots = 0;
+  for (std::int32_t i = 0; i < *count; ++i) {
+    const auto line = lines.nextRecord();
+    allSlots += slots;
+    if (!line || allSlots > fileSize) return false;
+    addTeam(*line, slots, contest);
+  }
+  return true;
+}
+
+void unassignThoseWithoutCell(Contest& contest) {
+  for (auto& [number, place] : contest.reasonsPlace) {
+    if (!place.isAssigned()) continue;
+    if (contest.reasonsOrder.cell(place.position, place.group) != number) place = {};
+  }
+}
+
+// The table follows from the places. A place outside the table, or one that a later contestant
+// holds too, is given up, so that the person turns up among the unassigned.
+void rebuildReasonsOrder(Contest& contest) {
+  const auto slots = std::max(contest.settings.totalNumPerTeam, 0);
+  ReasonsOrder& order = contest.reasonsOrder;
+  order.reset(static_cast<std::int64_t>(contest.teams.size()) * slots,
+              contest.settings.numReasonsGroups);
+  std::vector<ReasonsOrder::Cells::Entry> cells;
+  std::size_t assigned = 0;
+  for (const auto& [number, place] : contest.reasonsPlace) {
+    if (!place.isAssigned()) continue;
+    ++assigned;
+    if (place.group >= order.columnCount()) continue;
+    cells.push_back({{place.group, place.position}, number});
+  }
+  order.setCells(std::move(cells));
+  if (order.cells().size() != assigned) unassignThoseWithoutCell(contest);
+}
+
+}  // namespace
+
+std::variant<Contest, ContestFault> readContest(std::string_view bytes) {
+  LineScanner lines(bytes);
+  Contest contest = newContest();
+  if (!readSettings(lines, contest)) return ContestFault::notAContest;
+  contest.groupLetters = makeGroupLetters(contest.settings.numGroups);
+  if (!readClasses(lines, contest)) return ContestFault::notAContest;
+  const auto contestants = readContestants(lines, contest);
+  if (!contestants) return ContestFault::notAContest;
+  if (!readTeams(lines, bytes.size(), contest)) return ContestFault::notAContest;
+  rebuildReasonsOrder(contest);
+  if (!skipTo(lines, kScoresMarker)) return ContestFault::notAContest;
+  const auto scoreCount = readCount(lines);
+  if (!scoreCount) return ContestFault::notAContest;
+  const std::int64_t expected = std::int64_t{contest.classes.count()} * *contestants;
+  if (*scoreCount != expected) return ContestFault::scoreCountMismatch;
+  if (!readScores(lines, expected, contest)) return ContestFault::notAContest;
+  return contest;
+}

@@ -1,0 +1,20 @@
+// From the bytes of a contest file to the contest.
+#pragma once
+
+#include <string_view>
+#include <variant>
+
+#include "model/contest.h"
+
+/// Why bytes are not taken for a contest.
+enum class ContestFault {
+  notAContest,         ///< sections missing or cut off, or counts that no file could keep
+  scoreCountMismatch,  ///< the number of score lines is not classes times contestants
+};
+
+/// Reads a contest file. Any bytes are safe: a count promises, the lines decide, and memory stays
+/// within a small multiple of the size of the input. Values that the file leaves out get their
+/// defaults; group letters, the next number and the reasons order are worked out. A reasons place
+/// outside the table, or one that a later contestant holds too, reads as unassigned. Linear in the
+/// size of the input when records come in ascending order, as they are written.
+[[nodiscard]] std::variant<Contest, ContestFault> readContest(std::string_view bytes);

@@ -1,0 +1,87 @@
+// The few things the program does with files. Behind a port, so that tests can make every step of
+// a save fail; the sides of this port take no decision.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// How a file operation ended.
+enum class FileOutcome {
+  done,
+  denied,  ///< rights, a write-protected folder or medium, or a file that is in use
+  exists,  ///< a file of that name is there already
+  failed,  ///< anything else: disk full, drive gone, broken medium
+};
+
+/// What is known of a path before writing to it.
+struct FileFacts {
+  bool exists = false;
+  bool isRegular = false;      ///< a plain file: no folder, device or pipe
+  bool isReadOnly = false;     ///< marked as not to be written
+  bool hasOtherNames = false;  ///< hard links: the same file under other names
+};
+
+/// A file open for writing. Destroying it closes it, whatever that brings.
+class OutputFile {
+ public:
+  OutputFile() = default;
+  OutputFile(const OutputFile&) = delete;
+  OutputFile& operator=(const OutputFile&) = delete;
+  virtual ~OutputFile() = default;
+
+  /// Writes all bytes from the current position on, the start at first. False when the medium did
+  /// not take all of them.
+  [[nodiscard]] virtual bool write(std::string_view bytes) = 0;
+  /// Cuts the file or makes it longer; false when there is no room for a longer one.
+  [[nodiscard]] virtual bool resize(std::uint64_t size) = 0;
+  /// Waits until the medium holds what was written.
+  [[nodiscard]] virtual bool flush() = 0;
+  [[nodiscard]] virtual bool close() = 0;
+};
+
+/// Paths are 8-bit text as the operator's system understands it, at most kMaxPathLength bytes.
+class FileSystem {
+ public:
+  FileSystem() = default;
+  FileSystem(const FileSystem&) = delete;
+  FileSystem& operator=(const FileSystem&) = delete;
+  virtual ~FileSystem() = default;
+
+  /// All bytes of a file; nothing when it cannot be opened or read to its end, is a folder, or
+  /// holds more than kMaxFileSize.
+  [[nodiscard]] virtual std::optional<std::string> readWhole(const std::string& path) = 0;
+
+  /// The full name of the file that a path means, links followed; the file need not exist, its
+  /// folder must. Nothing when there is no such place.
+  [[nodiscard]] virtual std::optional<std::string> resolve(const std::string& path) = 0;
+  /// Nothing when it cannot be told.
+  [[nodiscard]] virtual std::optional<FileFacts> facts(const std::string& path) = 0;
+
+  struct Opened {
+    FileOutcome outcome = FileOutcome::failed;
+    std::unique_ptr<OutputFile> file;  ///< with `done` only
+  };
+  /// Makes a file that must not exist yet.
+  [[nodiscard]] virtual Opened create(const std::string& path) = 0;
+  /// Opens a file that exists for writing over its content.
+  [[nodiscard]] virtual Opened openExisting(const std::string& path) = 0;
+
+  /// Gives `from` the name `to` in one step and makes that last. A file that already has that name
+  /// is replaced; its rights and attributes pass to the new one.
+  [[nodiscard]] virtual FileOutcome replace(const std::string& from, const std::string& to) = 0;
+  /// Removes a file. A file that stays is no harm to any caller, so nothing is reported.
+  virtual void remove(const std::string& path) = 0;
+
+  /// A name in the folder of `path` that no other process makes; another one for each attempt.
+  [[nodiscard]] virtual std::string temporaryName(const std::string& path, int attempt) = 0;
+  virtual void pause(int milliseconds) = 0;
+};
+
+/// Larger files are not read: no contest comes near, and a device without end must not hang.
+inline constexpr std::uint64_t kMaxFileSize = std::uint64_t{1} << 30;
+
+/// The files of this machine.
+[[nodiscard]] FileSystem& systemFiles();

@@ -1,0 +1,211 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <chrono>
+#include <cstdlib>
+#include <limits>
+#include <thread>
+
+#include "storage/file.h"
+
+namespace {
+
+/// An open file descriptor; closed at the end of its life.
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor() { static_cast<void>(close()); }
+
+  [[nodiscard]] bool isOpen() const { return number_ >= 0; }
+  [[nodiscard]] int number() const { return number_; }
+  bool close() {
+    if (number_ < 0) return true;
+    const int number = number_;
+    number_ = -1;
+    return ::close(number) == 0;
+  }
+
+ private:
+  int number_;
+};
+
+FileOutcome outcomeOf(int error) {
+  switch (error) {
+    case EEXIST:
+      return FileOutcome::exists;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case ETXTBSY:
+    case EBUSY:
+      return FileOutcome::denied;
+    default:
+      return FileOutcome::failed;
+  }
+}
+
+std::string folderOf(const std::string& path) {
+  const std::size_t slash = path.rfind('/');
+  if (slash == std::string::npos) return ".";
+  return slash == 0 ? "/" : path.substr(0, slash);
+}
+
+class PosixOutputFile : public OutputFile {
+ public:
+  explicit PosixOutputFile(int number) : descriptor_(number) {}
+
+  bool write(std::string_view bytes) override {
+    while (!bytes.empty()) {
+      const ssize_t written = ::write(descriptor_.number(), bytes.data(), bytes.size());
+      if (written < 0 && errno == EINTR) continue;
+      if (written <= 0) return false;
+      bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+  }
+
+  bool resize(std::uint64_t size) override {
+    struct stat status {};
+    if (::fstat(descriptor_.number(), &status) != 0) return false;
+    const auto length = static_cast<off_t>(size);
+    // Making a file longer by ftruncate() alone would promise room that the disk may not have.
+    if (length > status.st_size) return ::posix_fallocate(descriptor_.number(), 0, length) == 0;
+    return ::ftruncate(descriptor_.number(), length) == 0;
+  }
+
+  bool flush() override { return ::fsync(descriptor_.number()) == 0; }
+  bool close() override { return descriptor_.close(); }
+
+ private:
+  Descriptor descriptor_;
+};
+
+FileSystem::Opened opened(int descriptor) {
+  if (descriptor < 0) return {outcomeOf(errno), nullptr};
+  return {FileOutcome::done, std::make_unique<PosixOutputFile>(descriptor)};
+}
+
+/// The new file takes over who may do what with the old one.
+void passOnRights(const std::string& from, const std::string& to) {
+  struct stat status {};
+  if (::stat(to.c_str(), &status) != 0) return;
+  // Without the right to give files away the file stays the operator's own.
+  if (::chown(from.c_str(), status.st_uid, status.st_gid) != 0) errno = 0;
+  if (::chmod(from.c_str(), status.st_mode & 07777) != 0) errno = 0;
+}
+
+/// A renamed file survives a power cut once its folder is on the medium.
+bool flushFolder(const std::string& folder) {
+  const Descriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!descriptor.isOpen()) return errno == EACCES;
+  return ::fsync(descriptor.number()) == 0 || errno == EINVAL;
+}
+
+std::optional<std::string> realPath(const std::string& path) {
+  const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(path.c_str(), nullptr),
+                                                             &std::free);
+  if (resolved == nullptr) return std::nullopt;
+  return std::string(resolved.get());
+}
+
+std::optional<std::string> linkTarget(const std::string& path) {
+  std::string target(4096, '\0');
+  const ssize_t length = ::readlink(path.c_str(), target.data(), target.size());
+  if (length < 0) return std::nullopt;
+  target.resize(static_cast<std::size_t>(length));
+  return target.starts_with('/') ? target : folderOf(path) + "/" + target;
+}
+
+class PosixFileSystem : public FileSystem {
+ public:
+  std::optional<std::string> readWhole(const std::string& path) override {
+    const Descriptor descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    struct stat status {};
+    if (!descriptor.isOpen() || ::fstat(descriptor.number(), &status) != 0) return std::nullopt;
+    // One byte more than expected, so that the end of the file shows with the first read.
+    constexpr std::size_t kLeastRoom = 4096;
+    const auto expected = static_cast<std::uint64_t>(status.st_size);
+    if (expected > kMaxFileSize) return std::nullopt;
+    std::string bytes(std::max(static_cast<std::size_t>(expected) + 1, kLeastRoom), '\0');
+    std::size_t length = 0;
+    for (;;) {
+      const ssize_t count =
+          ::read(descriptor.number(), bytes.data() + length, bytes.size() - length);
+      if (count < 0 && errno == EINTR) continue;
+      if (count < 0 || length > kMaxFileSize) return std::nullopt;
+      if (count == 0) break;
+      length += static_cast<std::size_t>(count);
+      if (length == bytes.size()) bytes.resize(length * 2);
+    }
+    bytes.resize(length);
+    return bytes;
+  }
+
+  std::optional<std::string> resolve(const std::string& path) override {
+    constexpr int kMaxLinks = 40;
+    std::string place = path;
+    for (int i = 0; i < kMaxLinks; ++i) {
+      if (auto whole = realPath(place)) return whole;
+      if (errno != ENOENT) return std::nullopt;
+      // A link to a file that does not exist yet names the file to be made.
+      auto target = linkTarget(place);
+      if (!target) break;
+      place = std::move(*target);
+    }
+    const auto folder = realPath(folderOf(place));
+    const std::string name = place.substr(place.rfind('/') + 1);
+    if (!folder || name.empty()) return std::nullopt;
+    return (*folder == "/" ? "" : *folder) + "/" + name;
+  }
+
+  std::optional<FileFacts> facts(const std::string& path) override {
+    struct stat status {};
+    FileFacts facts;
+    if (::stat(path.c_str(), &status) != 0) {
+      return errno == ENOENT ? std::optional(facts) : std::nullopt;
+    }
+    facts.exists = true;
+    facts.isRegular = S_ISREG(status.st_mode);
+    // The mode is looked at as well, since everything seems writable to the superuser.
+    const mode_t anyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
+    facts.isReadOnly = (status.st_mode & anyWrite) == 0 || ::access(path.c_str(), W_OK) != 0;
+    facts.hasOtherNames = status.st_nlink > 1;
+    return facts;
+  }
+
+  Opened create(const std::string& path) override {
+    return opened(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+  }
+  Opened openExisting(const std::string& path) override {
+    return opened(::open(path.c_str(), O_WRONLY | O_CLOEXEC));
+  }
+
+  FileOutcome replace(const std::string& from, const std::string& to) override {
+    passOnRights(from, to);
+    if (::rename(from.c_str(), to.c_str()) != 0) return outcomeOf(errno);
+    return flushFolder(folderOf(to)) ? FileOutcome::done : FileOutcome::failed;
+  }
+
+  void remove(const std::string& path) override { static_cast<void>(::unlink(path.c_str())); }
+
+  std::string temporaryName(const std::string& path, int attempt) override {
+    return folderOf(path) + "/~scorvane-" + std::to_string(::getpid()) + "-" +
+           std::to_string(attempt) + ".tmp";
+  }
+
+  void pause(int milliseconds) override {
+    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+  }
+};
+
+}  // namespace
+
+FileSystem& systemFiles() {
+  static PosixFileSystem files;
+  return files;
+}

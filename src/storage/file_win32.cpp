@@ -1,0 +1,250 @@
+#include <windows.h>
+
+#include <algorithm>
+#include <vector>
+
+#include "storage/file.h"
+
+namespace {
+
+/// An open file; closed at the end of its life.
+class Handle {
+ public:
+  explicit Handle(HANDLE handle) : handle_(handle) {}
+  Handle(const Handle&) = delete;
+  Handle& operator=(const Handle&) = delete;
+  ~Handle() { static_cast<void>(close()); }
+
+  [[nodiscard]] bool isOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
+  [[nodiscard]] HANDLE get() const { return handle_; }
+  bool close() {
+    if (!isOpen()) return true;
+    const HANDLE handle = handle_;
+    handle_ = INVALID_HANDLE_VALUE;
+    return CloseHandle(handle) != 0;
+  }
+
+ private:
+  HANDLE handle_;
+};
+
+FileOutcome outcomeOf(DWORD error) {
+  switch (error) {
+    case ERROR_FILE_EXISTS:
+    case ERROR_ALREADY_EXISTS:
+      return FileOutcome::exists;
+    case ERROR_ACCESS_DENIED:
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+    case ERROR_WRITE_PROTECT:
+    case ERROR_USER_MAPPED_FILE:
+      return FileOutcome::denied;
+    default:
+      return FileOutcome::failed;
+  }
+}
+
+std::wstring wide(const std::string& text) {
+  const auto size = static_cast<int>(text.size());
+  const int length = MultiByteToWideChar(CP_ACP, 0, text.data(), size, nullptr, 0);
+  std::wstring result(static_cast<std::size_t>(length), L'\0');
+  MultiByteToWideChar(CP_ACP, 0, text.data(), size, result.data(), length);
+  return result;
+}
+
+/// Paths go to the system in its own alphabet and by their full name, which is free of the usual
+/// limit of 260 characters.
+std::wstring systemPath(const std::string& path) {
+  constexpr std::size_t kUsualLimit = 240;
+  const std::wstring given = wide(path);
+  const DWORD size = GetFullPathNameW(given.c_str(), 0, nullptr, nullptr);
+  std::wstring full(size, L'\0');
+  full.resize(GetFullPathNameW(given.c_str(), size, full.data(), nullptr));
+  if (full.size() < kUsualLimit || full.starts_with(L"\\\\?\\")) return full;
+  if (full.starts_with(L"\\\\")) return L"\\\\?\\UNC\\" + full.substr(2);
+  return L"\\\\?\\" + full;
+}
+
+std::string narrow(const std::wstring& text) {
+  const auto size = static_cast<int>(text.size());
+  const int length =
+      WideCharToMultiByte(CP_ACP, 0, text.data(), size, nullptr, 0, nullptr, nullptr);
+  std::string result(static_cast<std::size_t>(length), '\0');
+  WideCharToMultiByte(CP_ACP, 0, text.data(), size, result.data(), length, nullptr, nullptr);
+  return result;
+}
+
+/// A full name as a path of ours; the path as given when its folders have names that 8-bit text
+/// cannot spell.
+std::string pathOf(const std::wstring& full, const std::string& given) {
+  std::string path = narrow(full);
+  return wide(path) == full ? path : given;
+}
+
+std::string folderOf(const std::string& path) {
+  const std::size_t slash = path.find_last_of("\\/");
+  if (slash != std::string::npos) return path.substr(0, slash + 1);
+  return path.size() >= 2 && path[1] == ':' ? path.substr(0, 2) : std::string();
+}
+
+class WindowsOutputFile : public OutputFile {
+ public:
+  explicit WindowsOutputFile(HANDLE handle) : handle_(handle) {}
+
+  bool write(std::string_view bytes) override {
+    constexpr std::size_t kMostAtOnce = std::size_t{1} << 20;  // some network drives take no more
+    while (!bytes.empty()) {
+      const auto count = static_cast<DWORD>(std::min(bytes.size(), kMostAtOnce));
+      DWORD written = 0;
+      if (WriteFile(handle_.get(), bytes.data(), count, &written, nullptr) == 0) return false;
+      if (written == 0) return false;
+      bytes.remove_prefix(written);
+    }
+    return true;
+  }
+
+  bool resize(std::uint64_t size) override {
+    LARGE_INTEGER position;
+    position.QuadPart = 0;
+    LARGE_INTEGER before;
+    if (SetFilePointerEx(handle_.get(), position, &before, FILE_CURRENT) == 0) return false;
+    position.QuadPart = static_cast<LONGLONG>(size);
+    if (SetFilePointerEx(handle_.get(), position, nullptr, FILE_BEGIN) == 0) return false;
+    const bool resized = SetEndOfFile(handle_.get()) != 0;
+    return SetFilePointerEx(handle_.get(), before, nullptr, FILE_BEGIN) != 0 && resized;
+  }
+
+  bool flush() override { return FlushFileBuffers(handle_.get()) != 0; }
+  bool close() override { return handle_.close(); }
+
+ private:
+  Handle handle_;
+};
+
+FileSystem::Opened openForWriting(const std::string& path, DWORD disposition) {
+  // No one else may write meanwhile; readers see whole content, as they open after the renaming.
+  const HANDLE handle = CreateFileW(systemPath(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ,
+                                    nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (handle == INVALID_HANDLE_VALUE) return {outcomeOf(GetLastError()), nullptr};
+  return {FileOutcome::done, std::make_unique<WindowsOutputFile>(handle)};
+}
+
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+/// The new file takes over the rights, the attributes and the time of creation of the old one.
+void passOnRights(const std::wstring& from, const std::wstring& to) {
+  DWORD size = 0;
+  GetFileSecurityW(to.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+  std::vector<std::byte> rights(size);
+  if (size > 0 &&
+      GetFileSecurityW(to.c_str(), DACL_SECURITY_INFORMATION, rights.data(), size, &size) != 0) {
+    SetFileSecurityW(from.c_str(), DACL_SECURITY_INFORMATION, rights.data());
+  }
+  WIN32_FILE_ATTRIBUTE_DATA old;
+  if (GetFileAttributesExW(to.c_str(), GetFileExInfoStandard, &old) == 0) return;
+  {
+    const Handle file(CreateFileW(from.c_str(), FILE_WRITE_ATTRIBUTES, kShareAll, nullptr,
+                                  OPEN_EXISTING, 0, nullptr));
+    if (file.isOpen()) SetFileTime(file.get(), &old.ftCreationTime, nullptr, nullptr);
+  }
+  constexpr DWORD kPassedOn = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM |
+                              FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+  if ((old.dwFileAttributes & kPassedOn) != 0) {
+    SetFileAttributesW(from.c_str(), (old.dwFileAttributes & kPassedOn) | FILE_ATTRIBUTE_ARCHIVE);
+  }
+}
+
+class WindowsFileSystem : public FileSystem {
+ public:
+  std::optional<std::string> readWhole(const std::string& path) override {
+    const Handle file(CreateFileW(systemPath(path).c_str(), GENERIC_READ, kShareAll, nullptr,
+                                  OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    LARGE_INTEGER size;
+    if (!file.isOpen() || GetFileType(file.get()) != FILE_TYPE_DISK) return std::nullopt;
+    if (GetFileSizeEx(file.get(), &size) == 0) return std::nullopt;
+    if (static_cast<std::uint64_t>(size.QuadPart) > kMaxFileSize) return std::nullopt;
+    std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
+    std::size_t length = 0;
+    while (length < bytes.size()) {
+      constexpr std::size_t kMostAtOnce = std::size_t{16} << 20;
+      const auto wanted = static_cast<DWORD>(std::min(bytes.size() - length, kMostAtOnce));
+      DWORD count = 0;
+      if (ReadFile(file.get(), bytes.data() + length, wanted, &count, nullptr) == 0) {
+        return std::nullopt;
+      }
+      if (count == 0) break;
+      length += count;
+    }
+    bytes.resize(length);
+    return bytes;
+  }
+
+  std::optional<std::string> resolve(const std::string& path) override {
+    if (path.empty()) return std::nullopt;
+    const std::wstring full = systemPath(path);
+    const DWORD attributes = GetFileAttributesW(full.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES) {
+      const DWORD error = GetLastError();
+      return error == ERROR_FILE_NOT_FOUND ? std::optional(pathOf(full, path)) : std::nullopt;
+    }
+    if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return pathOf(full, path);
+    const Handle file(CreateFileW(full.c_str(), FILE_READ_ATTRIBUTES, kShareAll, nullptr,
+                                  OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    if (!file.isOpen()) return std::nullopt;
+    const DWORD size = GetFinalPathNameByHandleW(file.get(), nullptr, 0, 0);
+    std::wstring target(size, L'\0');
+    target.resize(std::min(GetFinalPathNameByHandleW(file.get(), target.data(), size, 0), size));
+    return target.empty() ? std::nullopt : std::optional(pathOf(target, path));
+  }
+
+  std::optional<FileFacts> facts(const std::string& path) override {
+    const std::wstring full = systemPath(path);
+    FileFacts facts;
+    const DWORD attributes = GetFileAttributesW(full.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES) {
+      return GetLastError() == ERROR_FILE_NOT_FOUND ? std::optional(facts) : std::nullopt;
+    }
+    facts.exists = true;
+    facts.isRegular = (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE)) == 0;
+    facts.isReadOnly = (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+    const Handle file(CreateFileW(full.c_str(), FILE_READ_ATTRIBUTES, kShareAll, nullptr,
+                                  OPEN_EXISTING, 0, nullptr));
+    BY_HANDLE_FILE_INFORMATION information;
+    facts.hasOtherNames = file.isOpen() &&
+                          GetFileInformationByHandle(file.get(), &information) != 0 &&
+                          information.nNumberOfLinks > 1;
+    return facts;
+  }
+
+  Opened create(const std::string& path) override { return openForWriting(path, CREATE_NEW); }
+  Opened openExisting(const std::string& path) override {
+    return openForWriting(path, OPEN_EXISTING);
+  }
+
+  // One rename and not ReplaceFile(), which takes two: a crash between them would leave no file
+  // under the contest's name. What ReplaceFile() passes on to the new file is done beforehand.
+  FileOutcome replace(const std::string& from, const std::string& to) override {
+    const std::wstring source = systemPath(from);
+    const std::wstring target = systemPath(to);
+    passOnRights(source, target);
+    const DWORD flags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    if (MoveFileExW(source.c_str(), target.c_str(), flags) != 0) return FileOutcome::done;
+    return outcomeOf(GetLastError());
+  }
+
+  void remove(const std::string& path) override { DeleteFileW(systemPath(path).c_str()); }
+
+  std::string temporaryName(const std::string& path, int attempt) override {
+    return folderOf(path) + "~scorvane-" + std::to_string(GetCurrentProcessId()) + "-" +
+           std::to_string(attempt) + ".tmp";
+  }
+
+  void pause(int milliseconds) override { Sleep(static_cast<DWORD>(milliseconds)); }
+};
+
+}  // namespace
+
+FileSystem& systemFiles() {
+  static WindowsFileSystem files;
+  return files;
+}

@@ -1,0 +1,64 @@
+// Lines and fields of a contest file, as views into the one buffer it was read into.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// Takes a buffer apart into lines. Only CR LF ends a line: a CR without LF is dropped, an LF
+/// without CR is a character like any other. What follows the last CR LF is not a line, since a
+/// file cut off there may have lost the end of a number. A line counts up to its first NUL, and
+/// up to kMaxLine bytes.
+class LineScanner {
+ public:
+  static constexpr std::size_t kMaxLine = 500;
+
+  /// The bytes must outlive the scanner.
+  explicit LineScanner(std::string_view bytes);
+
+  /// The next line without its end, nothing after the last one. The view holds until the next
+  /// call.
+  [[nodiscard]] std::optional<std::string_view> next();
+  /// The next line as a record of a section: nothing after the last one, and an empty line is no
+  /// record either.
+  [[nodiscard]] std::optional<std::string_view> nextRecord() {
+    const auto line = next();
+    return line && !line->empty() ? line : std::nullopt;
+  }
+
+  /// Bytes not read yet: an upper bound for what counts in the file can still promise.
+  [[nodiscard]] std::size_t remaining() const { return bytes_.size() - position_; }
+
+ private:
+  [[nodiscard]] std::optional<std::string_view> nextPiecewise();
+  [[nodiscard]] std::string_view withinLimits(std::string_view line) const;
+
+  std::string_view bytes_;
+  std::size_t position_ = 0;
+  bool hasNul_ = false;
+  std::string pieces_;
+};
+
+/// Takes a line apart at every TAB, so that an empty field stays a field.
+class FieldScanner {
+ public:
+  explicit FieldScanner(std::string_view line) : rest_(line) {}
+
+  /// The next field; nothing after the last one.
+  [[nodiscard]] std::optional<std::string_view> next() {
+    if (atEnd_) return std::nullopt;
+    std::size_t length = 0;
+    while (length < rest_.size() && rest_[length] != '\t') ++length;
+    const std::string_view field = rest_.substr(0, length);
+    atEnd_ = length == rest_.size();
+    rest_.remove_prefix(atEnd_ ? length : length + 1);
+    return field;
+  }
+  /// The next field, a missing one as an empty one.
+  [[nodiscard]] std::string_view nextOrEmpty() { return next().value_or(std::string_view{}); }
+
+ private:
+  std::string_view rest_;
+  bool atEnd_ = false;
+};

@@ -1,0 +1,36 @@
+#include "text/number.h"
+
+#include <cstddef>
+#include <limits>
+
+namespace {
+
+bool isBlank(char character) {
+  return character == ' ' || (character >= '\t' && character <= '\r');
+}
+
+bool isDigit(char character) {
+  return character >= '0' && character <= '9';
+}
+
+}  // namespace
+
+std::int32_t leadingNumber(std::string_view text) {
+  constexpr std::int64_t kBeyond = std::int64_t{1} << 32;
+  std::size_t at = 0;
+  while (at < text.size() && isBlank(text[at])) ++at;
+  bool negative = false;
+  if (at < text.size() && (text[at] == '-' || text[at] == '+')) negative = text[at++] == '-';
+  std::int64_t value = 0;
+  for (; at < text.size() && isDigit(text[at]); ++at) {
+    if (value < kBeyond) value = value * 10 + (text[at] - '0');
+  }
+  if (negative) value = -value;
+  if (value > std::numeric_limits<std::int32_t>::max()) {
+    return std::numeric_limits<std::int32_t>::max();
+  }
+  if (value < std::numeric_limits<std::int32_t>::min()) {
+    return std::numeric_limits<std::int32_t>::min();
+  }
+  return static_cast<std::int32_t>(value);
+}

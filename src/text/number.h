@@ -1,0 +1,9 @@
+// Reading decimal numbers out of text.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+/// The number that a text begins with: leading blanks, a sign and decimal digits; what follows is
+/// ignored. 0 when there is none; a number beyond 32 bits gives the nearest one that fits.
+[[nodiscard]] std::int32_t leadingNumber(std::string_view text);
