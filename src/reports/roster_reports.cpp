@@ -1,5 +1,7 @@
 #include "reports/roster_reports.h"
 
+#include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "reports/report_parts.h"
@@ -23,11 +25,10 @@ using TeamOfNumber = FlatMap<ContestantNumber, const std::string*>;
 
 TeamOfNumber teamsByNumber(const Contest& contest) {
   std::vector<TeamOfNumber::Entry> entries;
-  for (auto team = contest.teams.rbegin(); team != contest.teams.rend(); ++team) {
-    for (const ContestantNumber number : team->second.members) {
-      entries.emplace_back(number, &team->first);
-    }
+  for (const auto& [teamName, team] : contest.teams) {
+    for (const ContestantNumber number : team.members) entries.emplace_back(number, &teamName);
   }
+  std::reverse(entries.begin(), entries.end());  // of several entries the last one stays
   return TeamOfNumber::fromEntries(std::move(entries));
 }
 
