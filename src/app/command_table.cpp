@@ -83,7 +83,8 @@ constexpr std::array kCommands = {
     Command{32803, "Results Reports", "High Team Reasons", nullptr, highTeam<ScoreKind::reasons>},
     Command{32830, "Results Reports", "High Team Questions", nullptr,
             highTeam<ScoreKind::questions>},
-    Command{32800, "Results Reports", "Custom/Category Report"},
+    Command{32800, "Results Reports", "Custom/Category Report", runCustomReport,
+            customReportAskedFor, ReportQuestion::custom},
     Command{32810, "Results Reports", "Total Summary Report"},
 
     Command{32862, "Verification Reports", "Round Verification Report", runRoundVerification,

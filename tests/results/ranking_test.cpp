@@ -44,6 +44,7 @@ std::array<std::int32_t, 4> keyOf(const RankValues& v, ScoreKind kind, bool whol
 RankValues teamSlowly(const Contest& contest, const Team& team, ScoreKind kind,
                       const ClassSet& classSet) {
   std::vector<RankValues> members;
+  members.reserve(16);
   for (std::int32_t slot = 0; slot < contest.settings.numPerTeam; ++slot) {
     members.push_back(
         sumSlowly(contest, team.members.at(static_cast<std::size_t>(slot)), kind, classSet));

@@ -1,0 +1,116 @@
+#include "results/custom_report_dialog.h"
+
+#include <gtest/gtest.h>
+
+#include "results/custom_report.h"
+#include "tests/support/contest_builder.h"
+#include "tests/ui/memory_dialog.h"
+#include "view/report_text.h"
+
+namespace {
+
+using Custom = CustomReportDialog;
+
+class CustomReportDialogTest : public testing::Test {
+ protected:
+  CustomReportDialogTest() {
+    ContestBuilder builder;
+    builder.categories({"Beef", "Sheep"});
+    builder.addClass({.name = "Steers", .category = 0}).addClass({.name = "Ewes", .category = 1});
+    builder.addClass({.name = "Heifers", .reasons = true, .category = 0});
+    builder.team("Adams", "Coach Hill", {"Ann", "Bob"});
+    builder.scores(101, {{50}, {10, 0, 5}, {30, 45}}).scores(102, {{10}, {45}, {20, 44}});
+    builder.contest.settings.numToReport = 1;
+    builder.contest.settings.reportPercent = true;
+    currentContest() = builder.contest;
+    reportText() = "before";
+  }
+  ~CustomReportDialogTest() override {
+    currentContest() = Contest{};
+    reportText() = kWelcomeText;
+  }
+
+  Custom behaviour;
+};
+
+TEST_F(CustomReportDialogTest, OpensWithTheContestsOwnNumber) {
+  const MemoryDialog dialog(Custom::kResourceId, behaviour);
+  EXPECT_EQ(dialog.lines(Custom::kCategory), (std::vector<std::string>{"Beef", "Sheep"}));
+  EXPECT_EQ(dialog.lines(Custom::kClasses),
+            (std::vector<std::string>{"Steers", "Ewes", "Heifers"}));
+  EXPECT_TRUE(dialog.selections(Custom::kClasses).empty());
+  EXPECT_EQ(dialog.text(Custom::kNumber), "1");
+  EXPECT_TRUE(dialog.isChecked(Custom::kPercent));
+  EXPECT_TRUE(dialog.isChecked(Custom::kOverall));
+  EXPECT_FALSE(dialog.isChecked(Custom::kTeam));
+}
+
+TEST_F(CustomReportDialogTest, ProposesClassesAndTitleOfACategory) {
+  MemoryDialog dialog(Custom::kResourceId, behaviour);
+  dialog.fill(Custom::kTitle, "Mine");
+  dialog.choose(Custom::kClasses, 1);
+  dialog.choose(Custom::kCategory, 0);
+  EXPECT_EQ(dialog.text(Custom::kTitle), "Beef");
+  EXPECT_EQ(dialog.selections(Custom::kClasses), (std::vector<int>{0, 2}));
+  dialog.choose(Custom::kClasses, 1);  // added by hand
+  dialog.choose(Custom::kClasses, 0);  // taken out by hand
+  dialog.fill(Custom::kNumber, "7");
+  dialog.click(Custom::kPercent);
+  dialog.click(Custom::kPlacings);
+  dialog.click(kOkId);
+  EXPECT_EQ(dialog.result(), kOkId);
+  EXPECT_EQ(reportText(), customReport(currentContest(),
+                                       {.classes = {1, 2},
+                                        .kind = ScoreKind::placings,
+                                        .numToReport = 7,
+                                        .percent = false,
+                                        .title = "Beef"},
+                                       false));
+  EXPECT_NE(reportText().find("    1  Bob"), std::string::npos) << reportText();
+  EXPECT_EQ(currentContest().settings.numToReport, 1);
+}
+
+TEST_F(CustomReportDialogTest, ReportsTeamsWithoutClassesWhenTold) {
+  MemoryDialog dialog(Custom::kResourceId, behaviour);
+  dialog.click(Custom::kTeam);
+  dialog.click(Custom::kQuestions);
+  dialog.fill(Custom::kNumber, "");
+  dialog.pressEnter();
+  EXPECT_EQ(reportText().substr(0, 51), "High Team Questions  (scoring the top 3 per team)\n\n");
+  EXPECT_NE(reportText().find("  1    Adams                  Ann                       (   0)"),
+            std::string::npos);
+}
+
+TEST_F(CustomReportDialogTest, LeavesTheReportAloneWhenCancelled) {
+  MemoryDialog cancelled(Custom::kResourceId, behaviour);
+  cancelled.pressEscape();
+  EXPECT_EQ(cancelled.result(), kCancelId);
+  MemoryDialog closed(Custom::kResourceId, behaviour);
+  closed.pressCloseBox();
+  EXPECT_EQ(closed.result(), kCancelId);
+  EXPECT_EQ(reportText(), "before");
+}
+
+TEST_F(CustomReportDialogTest, TakesTheFirstFiftyClassesAndAnyNumber) {
+  Contest& contest = currentContest();
+  contest.categories.clear();
+  contest.settings.reportPercent = false;
+  for (std::int32_t k = 3; k < 52; ++k) {
+    contest.classes.add("More", false, false, 'A', {}, 0);
+    contest.scores[101][k].placingScore = 1;
+  }
+  MemoryDialog dialog(Custom::kResourceId, behaviour);
+  EXPECT_EQ(contest.categories, (std::vector<std::string>{kNoCategory}));
+  for (int line = 51; line >= 0; --line) dialog.choose(Custom::kClasses, line);
+  dialog.fill(Custom::kTitle, std::string(500, 'x'));
+  dialog.fill(Custom::kNumber, "4000000000");
+  dialog.click(kOkId);
+  // Of 52 classes the last two do not count: 50 + 15 + 75 and 47 times 1.
+  EXPECT_NE(reportText().find("    1  Ann                             Adams                        "
+                              "     187\n    2  Bob"),
+            std::string::npos)
+      << reportText();
+  EXPECT_EQ(reportText().find('\n'), std::string("High Individual Overall ").size() + 499);
+}
+
+}  // namespace
