@@ -8,6 +8,7 @@
 #include "setup/team_members.h"
 #include "storage/contest_commands.h"
 #include "text/format.h"
+#include "text/number.h"
 #include "ui/field_text.h"
 
 using namespace edit_contestants;

@@ -7,6 +7,7 @@
 #include "model/numbering.h"
 #include "setup/setup_teams_controls.h"
 #include "setup/team_members.h"
+#include "text/number.h"
 #include "ui/field_text.h"
 
 using namespace setup_teams;

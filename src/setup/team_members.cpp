@@ -1,6 +1,6 @@
 #include "setup/team_members.h"
 
-#include <charconv>
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -29,12 +29,6 @@ std::string memberLine(const Contest& contest, ContestantNumber number, std::int
   return line;
 }
 
-ContestantNumber leadingNumber(std::string_view line) {
-  ContestantNumber number = 0;
-  std::from_chars(line.data(), line.data() + line.size(), number);
-  return number;
-}
-
 void addBlankScores(Contest& contest, ContestantNumber number) {
   ClassScores records;
   for (std::int32_t k = 0; k < contest.classes.count(); ++k) records[k] = ScoreRecord{};
@@ -53,7 +47,8 @@ std::vector<ContestantNumber> fillTeamSlots(Contest& contest,
   updateNextContestant(contest);
   std::vector<ContestantNumber> members;
   ContestantNumber next = contest.settings.nextContestantNum;
-  for (std::int32_t slot = 0; slot < contest.settings.totalNumPerTeam; ++slot) {
+  const std::int32_t slots = std::min(contest.settings.totalNumPerTeam, kMostTeamSlots);
+  for (std::int32_t slot = 0; slot < slots; ++slot) {
     const bool isNamed = static_cast<std::size_t>(slot) < named.size();
     const ContestantNumber number = isNamed ? named[static_cast<std::size_t>(slot)] : next;
     if (!isNamed) contest.contestantNames[number] = "";

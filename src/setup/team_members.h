@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "model/contest.h"
@@ -16,14 +15,15 @@
 [[nodiscard]] std::string memberLine(const Contest& contest, ContestantNumber number,
                                      std::int32_t slot);
 
-/// The number that a line, or a field, starts with; 0 without one.
-[[nodiscard]] ContestantNumber leadingNumber(std::string_view line);
-
 /// Gives a new contestant a blank record for every class.
 void addBlankScores(Contest& contest, ContestantNumber number);
 
 /// Takes out contestants whose team was never written: their names and group letters.
 void discardContestants(Contest& contest, const std::vector<ContestantNumber>& numbers);
+
+/// A team gets no more slots than this, whatever size is set up. Far fewer fit into a team's line
+/// of the contest file; a slip of the finger must not fill the memory with reserved numbers.
+inline constexpr std::int32_t kMostTeamSlots = 1000;
 
 /// The totalNumPerTeam members of a team whose first slots hold `named`. Each slot beyond them
 /// takes the next number, which is entered without a name.
