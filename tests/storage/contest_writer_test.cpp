@@ -9,6 +9,7 @@
 #include "storage/contest_format.h"
 #include "storage/contest_reader.h"
 #include "tests/storage/contest_text.h"
+#include "tests/support/temporary_folder.h"
 
 namespace {
 
@@ -90,6 +91,14 @@ TEST(ContestWriter, EndsTextsBeforeSeparators) {
   EXPECT_EQ(lineOf(bytes, "102\tB"), "102\tBen\t-1\t-1");
   EXPECT_EQ(lineOf(bytes, "Steers"), "Steers\tYes\tNo\tC\t2,5,3\t0");
   EXPECT_EQ(lineOf(bytes, "Clover"), "Clover\t \t101\t102\t103");
+}
+
+TEST(ContestWriter, SavesTheSamplesUnchanged) {
+  for (const char* name : {"county.scv", "state.scv"}) {
+    const std::string bytes = contentOf(std::string(SOURCE_DIR "/samples/") + name);
+    EXPECT_TRUE(bytes.ends_with("0000-0000-0000-0000\r\n")) << name;
+    EXPECT_TRUE(writeContest(read(bytes)) == bytes) << name;
+  }
 }
 
 /// Contests of many shapes: any byte in a name, empty slots, numbers of any size, scores for some.

@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# Makes the contests under samples/ afresh: tools/make_samples.sh MAKE_CONTEST [FOLDER].
+# With --check as FOLDER it only tells whether they are what MAKE_CONTEST makes.
+set -euo pipefail
+make_contest=$(realpath "$1")
+cd "$(dirname "$(realpath "$0")")/.."
+folder=${2:-samples}
+[ "$folder" != --check ] || folder=$(mktemp -d)
+mkdir -p "$folder"
+"$make_contest" --output "$folder/county.scv" --seed 7 --contestants 48 --classes 8 --reasons 2 \
+  --questions 1 --categories 3 --groups 4 --name "Tallgrass County Fair Judging Contest" \
+  --division "Junior Division" --date "July 18, 2026"
+"$make_contest" --output "$folder/state.scv" --seed 60 --contestants 300 --alternates 1 \
+  --classes 12 --reasons 4 --questions 2 --categories 4 --groups 12 \
+  --name "State Livestock Judging Championship" --division "Senior Division" \
+  --date "October 03, 2026"
+if [ "${2:-}" = --check ]; then
+  diff -r "$folder" samples
+  rm -r "$folder"
+fi
