@@ -6,6 +6,7 @@
 #include <cctype>
 
 #include "tests/ui/dialog_template.h"
+#include "ui/unsigned_number.h"
 
 namespace {
 
@@ -240,15 +241,7 @@ void MemoryDialog::setText(ControlId id, std::string_view text) {
 }
 
 std::optional<std::uint32_t> MemoryDialog::number(ControlId id) const {
-  std::uint64_t value = 0;
-  const std::string digits = text(id);
-  if (digits.empty()) return std::nullopt;
-  for (const char digit : digits) {
-    if (std::isdigit(static_cast<unsigned char>(digit)) == 0) return std::nullopt;
-    value = value * 10 + static_cast<std::uint64_t>(digit - '0');
-    if (value > UINT32_MAX) return std::nullopt;
-  }
-  return static_cast<std::uint32_t>(value);
+  return unsignedNumber(text(id));
 }
 
 bool MemoryDialog::isChecked(ControlId id) const {

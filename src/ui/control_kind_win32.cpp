@@ -1,0 +1,39 @@
+#include "ui/control_kind_win32.h"
+
+#include <windows.h>
+
+namespace {
+
+constexpr LineMessages kListMessages = {
+    LB_GETCOUNT,     LB_GETTEXTLEN,   LB_GETTEXT,     LB_ADDSTRING, LB_INSERTSTRING,
+    LB_DELETESTRING, LB_RESETCONTENT, LB_INITSTORAGE, LB_GETCURSEL, LB_SETCURSEL};
+constexpr LineMessages kComboMessages = {
+    CB_GETCOUNT,     CB_GETLBTEXTLEN, CB_GETLBTEXT,   CB_ADDSTRING, CB_INSERTSTRING,
+    CB_DELETESTRING, CB_RESETCONTENT, CB_INITSTORAGE, CB_GETCURSEL, CB_SETCURSEL};
+
+}  // namespace
+
+ControlKind controlKind(NativeWindow control) {
+  char name[16] = "";
+  GetClassNameA(control, name, sizeof name);
+  if (lstrcmpiA(name, "Button") == 0) return ControlKind::button;
+  if (lstrcmpiA(name, "Edit") == 0) return ControlKind::edit;
+  if (lstrcmpiA(name, "ListBox") == 0) return ControlKind::list;
+  if (lstrcmpiA(name, "ComboBox") == 0) return ControlKind::combo;
+  return ControlKind::other;
+}
+
+bool isPushButton(NativeWindow control) {
+  if (control == nullptr || controlKind(control) != ControlKind::button) return false;
+  const LONG type = GetWindowLongA(control, GWL_STYLE) & BS_TYPEMASK;
+  return type == BS_PUSHBUTTON || type == BS_DEFPUSHBUTTON;
+}
+
+bool isMultipleSelection(NativeWindow control) {
+  if (controlKind(control) != ControlKind::list) return false;
+  return (GetWindowLongA(control, GWL_STYLE) & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) != 0;
+}
+
+const LineMessages& lineMessagesOf(NativeWindow control) {
+  return controlKind(control) == ControlKind::combo ? kComboMessages : kListMessages;
+}

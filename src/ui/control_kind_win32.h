@@ -1,0 +1,21 @@
+// What kind of control a window is, and how lists and combo boxes are spoken to.
+#pragma once
+
+using NativeWindow = struct HWND__*;
+
+enum class ControlKind { button, edit, list, combo, other };
+
+[[nodiscard]] ControlKind controlKind(NativeWindow control);
+
+/// Whether the control is a button that can be the default one; false for null.
+[[nodiscard]] bool isPushButton(NativeWindow control);
+
+/// Whether several lines of the control can be selected at once.
+[[nodiscard]] bool isMultipleSelection(NativeWindow control);
+
+/// Lists and combo boxes understand the same requests under different names.
+struct LineMessages {
+  unsigned count, lineLength, line, add, insert, remove, clear, reserve, selection, select;
+};
+/// The names that the control understands.
+[[nodiscard]] const LineMessages& lineMessagesOf(NativeWindow control);

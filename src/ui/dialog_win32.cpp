@@ -1,0 +1,385 @@
+#include "ui/dialog_win32.h"
+
+#include <windows.h>
+// The common controls need windows.h before them.
+#include <commctrl.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "ui/control_kind_win32.h"
+#include "ui/fixed_font_win32.h"
+#include "ui/unsigned_number.h"
+
+namespace {
+
+std::optional<ControlEvent> eventOf(ControlKind kind, WORD notification) {
+  switch (kind) {
+    case ControlKind::button:
+      if (notification == BN_CLICKED) return ControlEvent::clicked;
+      break;
+    case ControlKind::edit:
+      if (notification == EN_CHANGE) return ControlEvent::textChanged;
+      if (notification == EN_SETFOCUS) return ControlEvent::gotFocus;
+      if (notification == EN_KILLFOCUS) return ControlEvent::lostFocus;
+      break;
+    case ControlKind::list:
+      if (notification == LBN_SELCHANGE) return ControlEvent::selectionChanged;
+      break;
+    case ControlKind::combo:
+      if (notification == CBN_SELCHANGE) return ControlEvent::selectionChanged;
+      break;
+    case ControlKind::other:
+      break;
+  }
+  return std::nullopt;
+}
+
+LPARAM textParameter(const std::string& text) {
+  return reinterpret_cast<LPARAM>(text.c_str());
+}
+
+// One modal dialog: carries its messages to the behaviour and the behaviour's wishes to its
+// controls.
+class NativeDialog final : public Dialog {
+ public:
+  explicit NativeDialog(DialogBehaviour& behaviour) : behaviour_(behaviour) {}
+
+  // Messages. Each gives what the dialog procedure is to return.
+  INT_PTR initialize(HWND window);
+  INT_PTR command(ControlId id, WORD notification);
+  INT_PTR closeBox();
+  void linkedListMoved(HWND list);
+
+  Answer ask(const Message& message) override { return askOver(window_, message); }
+  std::optional<std::string> chooseFile(const FileQuestion& question) override {
+    return chooseFileOver(window_, question);
+  }
+  int runDialog(int resourceId, DialogBehaviour& behaviour) override {
+    return runDialogOver(window_, resourceId, behaviour);
+  }
+  [[nodiscard]] std::string text(ControlId id) const override;
+  void setText(ControlId id, std::string_view text) override;
+  [[nodiscard]] std::optional<std::uint32_t> number(ControlId id) const override {
+    return unsignedNumber(text(id));
+  }
+  [[nodiscard]] bool isChecked(ControlId id) const override;
+  void setChecked(ControlId id, bool checked) override;
+  [[nodiscard]] int lineCount(ControlId id) const override;
+  [[nodiscard]] std::string line(ControlId id, int index) const override;
+  int addLine(ControlId id, std::string_view line) override;
+  void insertLine(ControlId id, int index, std::string_view line) override;
+  void removeLine(ControlId id, int index) override;
+  void clearLines(ControlId id) override;
+  void setLines(ControlId id, const std::vector<std::string>& lines) override;
+  [[nodiscard]] std::optional<int> selection(ControlId id) const override;
+  void select(ControlId id, std::optional<int> index) override;
+  [[nodiscard]] std::vector<int> selections(ControlId id) const override;
+  void setSelected(ControlId id, int index, bool selected) override;
+  [[nodiscard]] int topLine(ControlId id) const override;
+  void setTopLine(ControlId id, int index) override;
+  void linkScrolling(std::vector<ControlId> ids) override;
+  void setEnabled(ControlId id, bool enabled) override;
+  void focus(ControlId id) override;
+  void selectText(ControlId id) override;
+  void setDefaultButton(ControlId id) override;
+  void end(int result) override;
+
+ private:
+  [[nodiscard]] HWND control(ControlId id) const { return GetDlgItem(window_, id); }
+  LRESULT send(ControlId id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+  [[nodiscard]] const LineMessages& lineMessages(ControlId id) const;
+  [[nodiscard]] bool hasLine(ControlId id, int index) const;
+  void useColumnFont();
+  void drawDefaultButtons();
+
+  DialogBehaviour& behaviour_;
+  HWND window_ = nullptr;
+  bool focused_ = false;
+  bool ended_ = false;
+  GraphicsObject columnFont_;
+  std::vector<std::vector<HWND>> linkedLists_;
+};
+
+// The timer by which a list scrolls while the mouse is dragged out of it.
+constexpr UINT kListTimer = 0x0118;
+
+// Watches the lists that scroll together. Whatever the operator does to one of them, its first
+// line is what tells whether the others have to follow.
+LRESULT CALLBACK linkedListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam,
+                                     UINT_PTR /*id*/, DWORD_PTR dialog) {
+  const LRESULT result = DefSubclassProc(list, message, wParam, lParam);
+  switch (message) {
+    case WM_VSCROLL:
+    case WM_MOUSEWHEEL:
+    case WM_KEYDOWN:
+    case WM_CHAR:
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+    case WM_MOUSEMOVE:
+    case WM_TIMER:
+      reinterpret_cast<NativeDialog*>(dialog)->linkedListMoved(list);
+      break;
+    default:
+      break;
+  }
+  return result;
+}
+
+INT_PTR NativeDialog::initialize(HWND window) {
+  window_ = window;
+  useColumnFont();
+  behaviour_.opened(*this);
+  drawDefaultButtons();
+  // FALSE keeps the focus where the behaviour put it.
+  return focused_ ? FALSE : TRUE;
+}
+
+INT_PTR NativeDialog::command(ControlId id, WORD notification) {
+  if (ended_) return FALSE;
+  HWND sender = control(id);
+  if (sender == nullptr) {
+    // Enter and Escape send their ids whether or not there is such a button.
+    if (notification != BN_CLICKED) return FALSE;
+    behaviour_.onEvent(*this, id, ControlEvent::clicked);
+    return TRUE;
+  }
+  const std::optional<ControlEvent> event = eventOf(controlKind(sender), notification);
+  if (!event) return FALSE;
+  // Enter reaches a default button even while it is disabled.
+  if (*event == ControlEvent::clicked && IsWindowEnabled(sender) == FALSE) return TRUE;
+  behaviour_.onEvent(*this, id, *event);
+  return TRUE;
+}
+
+INT_PTR NativeDialog::closeBox() {
+  if (!ended_) behaviour_.closed(*this);
+  return TRUE;
+}
+
+// Lines of lists are laid out in columns by blanks; in a proportional font they would not align.
+void NativeDialog::useColumnFont() {
+  const auto dialogFont = reinterpret_cast<HFONT>(SendMessageA(window_, WM_GETFONT, 0, 0));
+  LOGFONTA font{};
+  if (dialogFont == nullptr || GetObjectA(dialogFont, sizeof font, &font) == 0) return;
+  columnFont_ = makeFixedFont(std::abs(static_cast<int>(font.lfHeight)));
+  for (HWND child = GetWindow(window_, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    if (controlKind(child) != ControlKind::list) continue;
+    SendMessageA(child, WM_SETFONT, reinterpret_cast<WPARAM>(columnFont_.get()), FALSE);
+  }
+}
+
+// Draws the border of the default button where Enter will act: on the push button that has the
+// focus, else on the default one.
+void NativeDialog::drawDefaultButtons() {
+  HWND focus = GetFocus();
+  const bool onButton = isPushButton(focus) && IsChild(window_, focus) != FALSE;
+  const int defaultId = LOWORD(SendMessageA(window_, DM_GETDEFID, 0, 0));
+  HWND marked = onButton ? focus : control(defaultId);
+  for (HWND child = GetWindow(window_, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    if (!isPushButton(child)) continue;
+    const bool drawn = (GetWindowLongA(child, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
+    if (drawn == (child == marked)) continue;
+    SendMessageA(child, BM_SETSTYLE, drawn ? BS_PUSHBUTTON : BS_DEFPUSHBUTTON, TRUE);
+  }
+}
+
+LRESULT NativeDialog::send(ControlId id, UINT message, WPARAM wParam, LPARAM lParam) const {
+  return SendDlgItemMessageA(window_, id, message, wParam, lParam);
+}
+
+const LineMessages& NativeDialog::lineMessages(ControlId id) const {
+  return lineMessagesOf(control(id));
+}
+
+bool NativeDialog::hasLine(ControlId id, int index) const {
+  return index >= 0 && index < lineCount(id);
+}
+
+std::string NativeDialog::text(ControlId id) const {
+  HWND field = control(id);
+  if (field == nullptr) return {};
+  std::string text(static_cast<std::size_t>(GetWindowTextLengthA(field)), '\0');
+  const int length = GetWindowTextA(field, text.data(), static_cast<int>(text.size()) + 1);
+  text.resize(static_cast<std::size_t>(std::max(length, 0)));
+  return text;
+}
+
+void NativeDialog::setText(ControlId id, std::string_view text) {
+  HWND field = control(id);
+  if (field == nullptr) return;
+  SetWindowTextA(field, std::string(text).c_str());
+  // Only fields of one line report a text set by the program.
+  if (controlKind(field) == ControlKind::edit &&
+      (GetWindowLongA(field, GWL_STYLE) & ES_MULTILINE) != 0) {
+    command(id, EN_CHANGE);
+  }
+}
+
+bool NativeDialog::isChecked(ControlId id) const {
+  return send(id, BM_GETCHECK) == BST_CHECKED;
+}
+
+void NativeDialog::setChecked(ControlId id, bool checked) {
+  send(id, BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED);
+}
+
+int NativeDialog::lineCount(ControlId id) const {
+  return std::max(0, static_cast<int>(send(id, lineMessages(id).count)));
+}
+
+std::string NativeDialog::line(ControlId id, int index) const {
+  if (!hasLine(id, index)) return {};
+  const LineMessages& messages = lineMessages(id);
+  const auto at = static_cast<WPARAM>(index);
+  const LRESULT reserved = send(id, messages.lineLength, at);
+  if (reserved < 0) return {};
+  std::string line(static_cast<std::size_t>(reserved) + 1, '\0');
+  const LRESULT length = send(id, messages.line, at, reinterpret_cast<LPARAM>(line.data()));
+  line.resize(static_cast<std::size_t>(std::max<LRESULT>(length, 0)));
+  return line;
+}
+
+int NativeDialog::addLine(ControlId id, std::string_view line) {
+  return static_cast<int>(send(id, lineMessages(id).add, 0, textParameter(std::string(line))));
+}
+
+void NativeDialog::insertLine(ControlId id, int index, std::string_view line) {
+  if (index < 0 || index > lineCount(id)) return;
+  send(id, lineMessages(id).insert, static_cast<WPARAM>(index), textParameter(std::string(line)));
+}
+
+void NativeDialog::removeLine(ControlId id, int index) {
+  if (hasLine(id, index)) send(id, lineMessages(id).remove, static_cast<WPARAM>(index));
+}
+
+void NativeDialog::clearLines(ControlId id) {
+  send(id, lineMessages(id).clear);
+}
+
+void NativeDialog::setLines(ControlId id, const std::vector<std::string>& lines) {
+  const LineMessages& messages = lineMessages(id);
+  std::size_t bytes = 0;
+  for (const std::string& line : lines) bytes += line.size() + 1;
+  send(id, WM_SETREDRAW, FALSE);
+  send(id, messages.clear);
+  send(id, messages.reserve, lines.size(), static_cast<LPARAM>(bytes));
+  for (const std::string& line : lines) send(id, messages.add, 0, textParameter(line));
+  send(id, WM_SETREDRAW, TRUE);
+  InvalidateRect(control(id), nullptr, TRUE);
+}
+
+std::optional<int> NativeDialog::selection(ControlId id) const {
+  const LRESULT index = send(id, lineMessages(id).selection);
+  if (!hasLine(id, static_cast<int>(index))) return std::nullopt;
+  return static_cast<int>(index);
+}
+
+void NativeDialog::select(ControlId id, std::optional<int> index) {
+  const int line = index && hasLine(id, *index) ? *index : -1;
+  if (isMultipleSelection(control(id))) {
+    send(id, LB_SETSEL, FALSE, -1);
+    setSelected(id, line, true);
+    return;
+  }
+  send(id, lineMessages(id).select, static_cast<WPARAM>(line));
+}
+
+std::vector<int> NativeDialog::selections(ControlId id) const {
+  std::vector<int> chosen;
+  for (int i = 0; i < lineCount(id); ++i) {
+    if (send(id, LB_GETSEL, static_cast<WPARAM>(i)) > 0) chosen.push_back(i);
+  }
+  return chosen;
+}
+
+void NativeDialog::setSelected(ControlId id, int index, bool selected) {
+  if (!hasLine(id, index)) return;
+  send(id, LB_SETSEL, selected ? TRUE : FALSE, index);
+}
+
+int NativeDialog::topLine(ControlId id) const {
+  return static_cast<int>(send(id, LB_GETTOPINDEX));
+}
+
+void NativeDialog::setTopLine(ControlId id, int index) {
+  send(id, LB_SETTOPINDEX, static_cast<WPARAM>(index));
+  linkedListMoved(control(id));
+}
+
+void NativeDialog::linkScrolling(std::vector<ControlId> ids) {
+  std::vector<HWND> lists;
+  for (const ControlId id : ids) {
+    HWND list = control(id);
+    if (list == nullptr) continue;
+    lists.push_back(list);
+    SetWindowSubclass(list, linkedListProcedure, 1, reinterpret_cast<DWORD_PTR>(this));
+  }
+  linkedLists_.push_back(std::move(lists));
+}
+
+void NativeDialog::linkedListMoved(HWND list) {
+  const LRESULT top = SendMessageA(list, LB_GETTOPINDEX, 0, 0);
+  for (const std::vector<HWND>& linked : linkedLists_) {
+    if (std::find(linked.begin(), linked.end(), list) == linked.end()) continue;
+    for (HWND other : linked) {
+      if (SendMessageA(other, LB_GETTOPINDEX, 0, 0) == top) continue;
+      SendMessageA(other, LB_SETTOPINDEX, static_cast<WPARAM>(top), 0);
+    }
+  }
+}
+
+void NativeDialog::setEnabled(ControlId id, bool enabled) {
+  HWND target = control(id);
+  if (target == nullptr) return;
+  // A disabled control that keeps the focus would swallow the keyboard.
+  if (!enabled && GetFocus() == target) SendMessageA(window_, WM_NEXTDLGCTL, 0, FALSE);
+  EnableWindow(target, enabled ? TRUE : FALSE);
+}
+
+void NativeDialog::focus(ControlId id) {
+  HWND target = control(id);
+  if (target == nullptr) return;
+  focused_ = true;
+  SetFocus(target);
+  drawDefaultButtons();
+}
+
+void NativeDialog::selectText(ControlId id) {
+  send(id, EM_SETSEL, 0, -1);
+}
+
+void NativeDialog::setDefaultButton(ControlId id) {
+  if (control(id) == nullptr) return;
+  SendMessageA(window_, DM_SETDEFID, static_cast<WPARAM>(id), 0);
+  drawDefaultButtons();
+}
+
+void NativeDialog::end(int result) {
+  ended_ = true;
+  EndDialog(window_, result);
+}
+
+INT_PTR CALLBACK dialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_INITDIALOG) {
+    SetWindowLongPtrA(window, DWLP_USER, lParam);
+    return reinterpret_cast<NativeDialog*>(lParam)->initialize(window);
+  }
+  auto* dialog = reinterpret_cast<NativeDialog*>(GetWindowLongPtrA(window, DWLP_USER));
+  // Controls report their first texts before the dialog is initialized.
+  if (dialog == nullptr) return FALSE;
+  if (message == WM_COMMAND) return dialog->command(LOWORD(wParam), HIWORD(wParam));
+  if (message == WM_CLOSE) return dialog->closeBox();
+  return FALSE;
+}
+
+}  // namespace
+
+int runDialogOver(NativeWindow owner, int resourceId, DialogBehaviour& behaviour) {
+  NativeDialog dialog(behaviour);
+  const INT_PTR result = DialogBoxParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(resourceId),
+                                         owner, dialogProcedure, reinterpret_cast<LPARAM>(&dialog));
+  return static_cast<int>(result);
+}

@@ -1,0 +1,14 @@
+// A fixed-pitch font for text that is laid out in columns.
+#pragma once
+
+#include <memory>
+
+/// Releases a graphics object of the system.
+struct GraphicsObjectDeleter {
+  void operator()(void* object) const;
+};
+using GraphicsObject = std::unique_ptr<void, GraphicsObjectDeleter>;
+
+/// A font of `height` pixels from the top of a capital to the bottom of a descender, every
+/// character equally wide.
+[[nodiscard]] GraphicsObject makeFixedFont(int height);

@@ -1,0 +1,11 @@
+#include "ui/unsigned_number.h"
+
+#include <charconv>
+
+std::optional<std::uint32_t> unsignedNumber(std::string_view digits) {
+  std::uint32_t value = 0;
+  const char* end = digits.data() + digits.size();
+  const auto [stop, error] = std::from_chars(digits.data(), end, value);
+  if (error != std::errc() || stop != end) return std::nullopt;
+  return value;
+}
