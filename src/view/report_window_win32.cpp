@@ -1,0 +1,250 @@
+#include "view/report_window_win32.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <optional>
+
+#include "ui/resolution_win32.h"
+#include "view/report_text.h"
+
+namespace {
+
+constexpr int kPictureResource = 162;
+constexpr int kPicturePlace = 50;
+constexpr int kPictureDotsPerInch = 192;  // the bitmap is drawn for this resolution
+constexpr int kFontPoints = 10;
+
+ViewSize clientSize(HWND window) {
+  RECT client{};
+  GetClientRect(window, &client);
+  return {client.right, client.bottom};
+}
+
+// The vertical bar follows its thumb while it is dragged and ignores where it is dropped; the
+// horizontal bar does the reverse.
+std::optional<ScrollMove> moveOf(int bar, unsigned request) {
+  switch (request) {
+    case SB_LINEUP:
+      return ScrollMove::lineBack;
+    case SB_LINEDOWN:
+      return ScrollMove::lineForward;
+    case SB_PAGEUP:
+      return ScrollMove::pageBack;
+    case SB_PAGEDOWN:
+      return ScrollMove::pageForward;
+    case SB_THUMBTRACK:
+      if (bar == SB_VERT) return ScrollMove::track;
+      break;
+    case SB_THUMBPOSITION:
+      if (bar == SB_HORZ) return ScrollMove::track;
+      break;
+    case SB_TOP:
+      if (bar == SB_VERT) return ScrollMove::start;
+      break;
+    case SB_BOTTOM:
+      if (bar == SB_VERT) return ScrollMove::end;
+      break;
+    default:
+      break;
+  }
+  return std::nullopt;
+}
+
+// The message carries only 16 bits of the thumb's place; the bar knows all of them.
+int thumbPlace(HWND window, int bar, WORD reported) {
+  SCROLLINFO info{};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_TRACKPOS;
+  const bool known = GetScrollInfo(window, bar, &info) != FALSE;
+  return known && LOWORD(info.nTrackPos) == reported ? info.nTrackPos : reported;
+}
+
+void setBar(HWND window, int bar, const ScrollBar& values) {
+  SCROLLINFO info{};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_ALL | SIF_DISABLENOSCROLL;
+  info.nMin = 0;
+  info.nMax = values.maximum;
+  info.nPage = static_cast<UINT>(values.page);
+  info.nPos = values.position;
+  SetScrollInfo(window, bar, &info, TRUE);
+}
+
+}  // namespace
+
+ReportWindow::ReportWindow(NativeWindow window) : window_(window) {
+  loadFont();
+  loadPicture();
+  view_.open(reportText(), measureFont());
+}
+
+void ReportWindow::loadFont() {
+  dotsPerInch_ = resolutionOf(window_);
+  font_ = makeFixedFont(MulDiv(kFontPoints, dotsPerInch_, 72));
+}
+
+void ReportWindow::loadPicture() {
+  picture_.reset(LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(kPictureResource),
+                            IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
+  BITMAP bitmap{};
+  if (picture_ == nullptr || GetObjectA(picture_.get(), sizeof bitmap, &bitmap) == 0) return;
+  pictureSize_ = {bitmap.bmWidth, bitmap.bmHeight};
+}
+
+ViewMetrics ReportWindow::measureFont() const {
+  HDC context = GetDC(window_);
+  const HGDIOBJ previous = SelectObject(context, font_.get());
+  TEXTMETRICA measures{};
+  GetTextMetricsA(context, &measures);
+  SelectObject(context, previous);
+  ReleaseDC(window_, context);
+  return {std::max<int>(1, measures.tmAveCharWidth),
+          std::max<int>(1, measures.tmHeight + measures.tmExternalLeading)};
+}
+
+void ReportWindow::refresh() {
+  view_.refresh(reportText(), measureFont(), clientSize(window_));
+  setBars();
+  InvalidateRect(window_, nullptr, TRUE);
+  UpdateWindow(window_);
+}
+
+void ReportWindow::changeResolution() {
+  const int position = view_.vertical().position;
+  loadFont();
+  view_.refresh(reportText(), measureFont(), clientSize(window_));
+  view_.scrollVertically(ScrollMove::track, position);
+  setBars();
+  InvalidateRect(window_, nullptr, TRUE);
+}
+
+void ReportWindow::setBars() {
+  setBar(window_, SB_VERT, view_.vertical());
+  setBar(window_, SB_HORZ, view_.horizontal());
+}
+
+bool ReportWindow::handle(unsigned message, std::uintptr_t wParam, std::intptr_t lParam) {
+  switch (message) {
+    case WM_SIZE:
+      view_.resize({LOWORD(lParam), HIWORD(lParam)});
+      setBars();
+      return true;
+    case WM_ERASEBKGND:
+      return true;  // painting covers everything, at once and without flicker
+    case WM_PAINT:
+      paint();
+      return true;
+    case WM_VSCROLL:
+      scroll(SB_VERT, LOWORD(wParam), HIWORD(wParam));
+      return true;
+    case WM_HSCROLL:
+      scroll(SB_HORZ, LOWORD(wParam), HIWORD(wParam));
+      return true;
+    case WM_MOUSEWHEEL:
+      shift(0, view_.turnWheel(GET_WHEEL_DELTA_WPARAM(wParam)));
+      return true;
+    case WM_KEYDOWN:
+      return scrollByKey(static_cast<unsigned>(wParam));
+    default:
+      return false;
+  }
+}
+
+void ReportWindow::scroll(int bar, unsigned request, int thumb) {
+  const std::optional<ScrollMove> move = moveOf(bar, request);
+  if (!move) return;
+  const int place = thumbPlace(window_, bar, static_cast<WORD>(thumb));
+  if (bar == SB_VERT) {
+    shift(0, view_.scrollVertically(*move, place));
+  } else {
+    shift(view_.scrollHorizontally(*move, place), 0);
+  }
+}
+
+bool ReportWindow::scrollByKey(unsigned key) {
+  std::optional<ScrollMove> move;
+  switch (key) {
+    case VK_PRIOR:
+      move = ScrollMove::pageBack;
+      break;
+    case VK_NEXT:
+      move = ScrollMove::pageForward;
+      break;
+    case VK_HOME:
+      move = ScrollMove::start;
+      break;
+    case VK_END:
+      move = ScrollMove::end;
+      break;
+    case VK_UP:
+      move = ScrollMove::lineBack;
+      break;
+    case VK_DOWN:
+      move = ScrollMove::lineForward;
+      break;
+    default:
+      return false;
+  }
+  shift(0, view_.scrollVertically(*move));
+  return true;
+}
+
+// Moves what is shown and paints it anew. The painting draws from the left edge whatever the
+// horizontal position, so that a move across has no lasting effect; that is deliberate.
+void ReportWindow::shift(int across, int down) {
+  setBars();
+  if (across == 0 && down == 0) return;
+  ScrollWindowEx(window_, across, down, nullptr, nullptr, nullptr, nullptr, SW_INVALIDATE);
+  InvalidateRect(window_, nullptr, TRUE);
+  UpdateWindow(window_);
+}
+
+void ReportWindow::paint() {
+  // Lines are always drawn from the top of the window, so a part of it cannot be repainted alone.
+  InvalidateRect(window_, nullptr, FALSE);
+  PAINTSTRUCT request{};
+  HDC screen = BeginPaint(window_, &request);
+  const ViewSize size = clientSize(window_);
+  HDC memory = CreateCompatibleDC(screen);
+  const GraphicsObject canvas(CreateCompatibleBitmap(screen, size.width, size.height));
+  const HGDIOBJ previous = SelectObject(memory, canvas.get());
+  const RECT all = {0, 0, size.width, size.height};
+  FillRect(memory, &all, GetSysColorBrush(COLOR_WINDOW));
+  if (reportText() == kWelcomeText) drawPicture(memory);
+  drawLines(memory, size);
+  BitBlt(screen, 0, 0, size.width, size.height, memory, 0, 0, SRCCOPY);
+  SelectObject(memory, previous);
+  DeleteDC(memory);
+  EndPaint(window_, &request);
+}
+
+void ReportWindow::drawPicture(void* context) const {
+  auto* target = static_cast<HDC>(context);
+  HDC source = CreateCompatibleDC(target);
+  const HGDIOBJ previous = SelectObject(source, picture_.get());
+  SetStretchBltMode(target, HALFTONE);
+  SetBrushOrgEx(target, 0, 0, nullptr);
+  StretchBlt(target, kPicturePlace, kPicturePlace,
+             MulDiv(pictureSize_.width, dotsPerInch_, kPictureDotsPerInch),
+             MulDiv(pictureSize_.height, dotsPerInch_, kPictureDotsPerInch), source, 0, 0,
+             pictureSize_.width, pictureSize_.height, SRCCOPY);
+  SelectObject(source, previous);
+  DeleteDC(source);
+}
+
+void ReportWindow::drawLines(void* context, const ViewSize& size) {
+  auto* target = static_cast<HDC>(context);
+  const HGDIOBJ previous = SelectObject(target, font_.get());
+  SetTextColor(target, GetSysColor(COLOR_WINDOWTEXT));
+  SetBkMode(target, TRANSPARENT);
+  const ViewMetrics& metrics = view_.metrics();
+  const auto columns = static_cast<std::size_t>(size.width / metrics.charWidth + 1);
+  const ReportView::Lines lines = view_.linesAt(0, size.height);
+  for (int index = lines.first; index <= lines.last; ++index) {
+    const std::string_view line = view_.line(reportText(), index).substr(0, columns);
+    TabbedTextOutA(target, 0, (index - lines.first) * metrics.lineHeight, line.data(),
+                   static_cast<int>(line.size()), 0, nullptr, 0);
+  }
+  SelectObject(target, previous);
+}
