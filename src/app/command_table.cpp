@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <array>
 
+#include "app/contest_file_commands.h"
 #include "app/reasons_commands.h"
 #include "app/results_commands.h"
 #include "app/round_commands.h"
 #include "app/shown_report.h"
+#include "app/window_commands.h"
 #include "reports/class_reports.h"
 #include "reports/letter_report.h"
 #include "reports/roster_reports.h"
@@ -35,16 +37,16 @@ void printReport(MainWindow& window) {
 }
 
 constexpr std::array kCommands = {
-    Command{32771, "File", "New Contest"},
-    Command{32772, "File", "Open Contest"},
-    Command{32773, "File", "Save Contest"},
-    Command{32774, "File", "Save Contest As"},
+    Command{32771, "File", "New Contest", newContestCommand},
+    Command{32772, "File", "Open Contest", openContestCommand},
+    Command{32773, "File", "Save Contest", saveContestCommand},
+    Command{32774, "File", "Save Contest As", saveContestAsCommand},
     Command{32805, "File", "Print", printReport<false>},
     Command{32811, "File", "Print Small Font", printReport<true>},
     Command{32832, "File", "Save Report To File"},
-    Command{105, "File", "Exit"},
+    Command{105, "File", "Exit", exitCommand},
 
-    Command{32777, "Edit", "Copy"},
+    Command{32777, "Edit", "Copy", copyReportCommand},
 
     Command{32787, "Setup", "Setup Contest"},
     Command{32788, "Setup", "Setup Classes"},
@@ -105,11 +107,11 @@ constexpr std::array kCommands = {
     Command{32851, "Verification Reports", "Zero Questions Report", nullptr,
             plain<zeroQuestionsReport>},
 
-    Command{32857, "Help", "Scorvane Help"},
-    Command{104, "Help", "About ..."},
+    Command{32857, "Help", "Scorvane Help", helpCommand},
+    Command{104, "Help", "About ...", aboutCommand},
 
     // In no menu: shows what the system's font chooser gives.
-    Command{32809, "", ""},
+    Command{32809, "", "", fontCommand},
 };
 
 }  // namespace
@@ -124,12 +126,17 @@ const Command* findCommand(int id) {
   return found == kCommands.end() ? nullptr : &*found;
 }
 
+bool isAvailable(const Command& command) {
+  return command.run != nullptr ||
+         (command.report != nullptr && command.question == ReportQuestion::nothing);
+}
+
 void runCommand(int id, MainWindow& window) {
   const Command* command = findCommand(id);
-  if (command == nullptr) return;
+  if (command == nullptr || !isAvailable(*command)) return;
   if (command->run != nullptr) {
     command->run(window);
-  } else if (command->report != nullptr && command->question == ReportQuestion::nothing) {
+  } else {
     showReport(window, command->report(currentContest(), {}));
   }
 }

@@ -34,5 +34,8 @@ struct Command {
 /// The command of an id; null when there is none.
 [[nodiscard]] const Command* findCommand(int id);
 
+/// Whether the menu can offer the command.
+[[nodiscard]] bool isAvailable(const Command& command);
+
 /// Runs a command of the menu; an unknown or unavailable one does nothing.
 void runCommand(int id, MainWindow& window);

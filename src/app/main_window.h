@@ -1,9 +1,19 @@
 // The main window as the commands see it.
 #pragma once
 
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include "ui/window.h"
+
+/// What the system's font chooser tells of a font; sizes in its logical units.
+struct FontFields {
+  long height = 0, width = 0, escapement = 0, orientation = 0, weight = 0;
+  int italic = 0, underline = 0, strikeOut = 0, charSet = 0;
+  int outPrecision = 0, clipPrecision = 0, quality = 0, pitchAndFamily = 0;
+  std::string faceName;
+};
 
 class MainWindow : public Window {
  public:
@@ -18,8 +28,8 @@ class MainWindow : public Window {
   virtual void print(bool small) = 0;
   /// Opens the user's manual in the web browser; false when it cannot be started.
   virtual bool openManual() = 0;
-  /// Runs the system's font chooser and shows the fields of the font chosen.
-  virtual void showFontFields() = 0;
+  /// Runs the font chooser of the system; nothing when cancelled.
+  virtual std::optional<FontFields> chooseFont() = 0;
   /// Ends the program.
   virtual void destroy() = 0;
 };

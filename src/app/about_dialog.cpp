@@ -1,0 +1,20 @@
+#include "app/about_dialog.h"
+
+namespace {
+
+constexpr ControlId kVersionText = 1001;
+
+}  // namespace
+
+void AboutDialog::opened(Dialog& dialog) {
+  dialog.setText(kVersionText, "Version " SCORVANE_VERSION);
+}
+
+void AboutDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
+  if (event != ControlEvent::clicked) return;
+  if (id == kOkId || id == kCancelId) dialog.end(id);
+}
+
+void AboutDialog::closed(Dialog& dialog) {
+  dialog.end(kCancelId);
+}

@@ -1,0 +1,12 @@
+// Plain text on the clipboard.
+#pragma once
+
+#include <string_view>
+
+#include "app/main_window.h"
+
+using NativeWindow = struct HWND__*;
+
+/// Puts the text on the clipboard in the name of `owner`. A clipboard that another program keeps
+/// open counts as memory that cannot be locked.
+MainWindow::CopyResult putOnClipboard(NativeWindow owner, std::string_view text);

@@ -1,0 +1,98 @@
+#include "app/contest_file_commands.h"
+
+#include <utility>
+
+#include "app/shown_report.h"
+#include "model/contest.h"
+#include "model/new_contest.h"
+#include "model/numbering.h"
+#include "storage/contest_commands.h"
+#include "text/format.h"
+#include "view/report_text.h"
+
+namespace {
+
+std::string& programTitle() {
+  static std::string title = "Scorvane";
+  return title;
+}
+
+std::string cutTitle(std::string title) {
+  if (title.size() > kMaxTitle) title.resize(kMaxTitle);
+  return title;
+}
+
+}  // namespace
+
+void setProgramTitle(std::string title) {
+  programTitle() = cutTitle(std::move(title));
+}
+
+void showContestTitle(MainWindow& window) {
+  window.setTitle(
+      cutTitle(formatText("%s - %s - %s", programTitle().c_str(), currentFileName().c_str(),
+                          currentContest().settings.contestName.c_str())));
+}
+
+void prepareContest() {
+  currentContest() = newContest();
+  currentContest().groupLetters = makeGroupLetters(currentContest().settings.numGroups);
+  currentFileName().clear();
+  reportText() = kWelcomeText;
+}
+
+std::string contestPath(std::string_view commandLine) {
+  constexpr std::string_view kBlanks = " \t";
+  const std::size_t begin = commandLine.find_first_not_of(kBlanks);
+  if (begin == std::string_view::npos) return {};
+  commandLine.remove_prefix(begin);
+  if (commandLine.front() == '"') {
+    commandLine.remove_prefix(1);
+    commandLine = commandLine.substr(0, commandLine.find('"'));
+  } else {
+    commandLine = commandLine.substr(0, commandLine.find_last_not_of(kBlanks) + 1);
+  }
+  return std::string(commandLine.substr(0, kMaxPathLength));
+}
+
+void openContestOfCommandLine(MainWindow& window, std::string_view commandLine) {
+  const std::string path = contestPath(commandLine);
+  if (!path.empty()) openContestFile(window, path);
+}
+
+void openContestFile(MainWindow& window, const std::string& path) {
+  currentFileName() = path.substr(0, kMaxPathLength);
+  if (!loadContest(window, true)) {
+    newContestCommand(window);
+    return;
+  }
+  showContestTitle(window);
+  showReport(window, kWelcomeText);
+}
+
+void newContestCommand(MainWindow& window) {
+  resetContest();
+  currentFileName().clear();
+  window.setTitle(programTitle());
+  showReport(window, kWelcomeText);
+}
+
+// The title is set even when nothing was opened: cancelling leaves a new contest, and the title
+// then names that one, without a path.
+void openContestCommand(MainWindow& window) {
+  loadContest(window, false);
+  showContestTitle(window);
+  showReport(window, kWelcomeText);
+}
+
+void saveContestCommand(MainWindow& window) {
+  saveCurrent(window);
+  showContestTitle(window);
+  window.refreshReportView();
+}
+
+void saveContestAsCommand(MainWindow& window) {
+  saveContest(window, true);
+  showContestTitle(window);
+  window.refreshReportView();
+}

@@ -1,0 +1,151 @@
+#include "app/desktop_window_win32.h"
+
+#include <windows.h>
+// The common dialogs and the shell need windows.h before them.
+#include <commdlg.h>
+#include <shellapi.h>
+
+#include <array>
+
+#include "app/clipboard_win32.h"
+#include "app/command_table.h"
+#include "app/contest_file_commands.h"
+#include "model/contest.h"
+#include "output/printer_win32.h"
+#include "ui/dialog_win32.h"
+#include "view/report_text.h"
+
+namespace {
+
+constexpr int kHelpCommand = 32857;
+constexpr UINT kResolutionChanged = 0x02E0;  // WM_DPICHANGED, which older headers lack
+
+}  // namespace
+
+DesktopWindow::DesktopWindow(NativeWindow window) : window_(window), report_(window) {
+  disableUnavailableCommands();
+  DragAcceptFiles(window_, TRUE);
+}
+
+void DesktopWindow::disableUnavailableCommands() {
+  HMENU menu = GetMenu(window_);
+  for (const Command& command : commandTable()) {
+    if (isAvailable(command)) continue;
+    EnableMenuItem(menu, static_cast<UINT>(command.id), MF_BYCOMMAND | MF_GRAYED);
+  }
+}
+
+std::optional<std::intptr_t> DesktopWindow::handle(unsigned message, std::uintptr_t wParam,
+                                                   std::intptr_t lParam) {
+  switch (message) {
+    case WM_COMMAND:
+      // Other programs can send commands while a dialog is open; the contest is the dialog's then.
+      if (IsWindowEnabled(window_) != FALSE) runCommand(LOWORD(wParam), *this);
+      return 0;
+    case WM_KEYDOWN:
+      if (wParam == VK_F1 || wParam == VK_HELP) {
+        runCommand(kHelpCommand, *this);
+        return 0;
+      }
+      break;
+    case WM_DROPFILES:
+      openDroppedFile(wParam);
+      return 0;
+    case kResolutionChanged:
+      changeResolution(lParam);
+      return 0;
+    case WM_DESTROY:
+      PostQuitMessage(0);
+      return 0;
+    default:
+      break;
+  }
+  if (!report_.handle(message, wParam, lParam)) return std::nullopt;
+  return message == WM_ERASEBKGND ? 1 : 0;
+}
+
+void DesktopWindow::openDroppedFile(std::uintptr_t drop) {
+  auto* files = reinterpret_cast<HDROP>(drop);
+  std::array<char, kMaxPathLength + 1> path{};
+  const UINT length = DragQueryFileA(files, 0, path.data(), static_cast<UINT>(path.size()));
+  DragFinish(files);
+  if (length == 0 || IsWindowEnabled(window_) == FALSE) return;
+  SetForegroundWindow(window_);
+  openContestFile(*this, path.data());
+}
+
+void DesktopWindow::changeResolution(std::intptr_t suggestedPlace) {
+  const auto* place = reinterpret_cast<const RECT*>(suggestedPlace);
+  SetWindowPos(window_, nullptr, place->left, place->top, place->right - place->left,
+               place->bottom - place->top, SWP_NOZORDER | SWP_NOACTIVATE);
+  report_.changeResolution();
+}
+
+Answer DesktopWindow::ask(const Message& message) {
+  return askOver(window_, message);
+}
+
+std::optional<std::string> DesktopWindow::chooseFile(const FileQuestion& question) {
+  return chooseFileOver(window_, question);
+}
+
+int DesktopWindow::runDialog(int resourceId, DialogBehaviour& behaviour) {
+  return runDialogOver(window_, resourceId, behaviour);
+}
+
+void DesktopWindow::setTitle(std::string_view title) {
+  SetWindowTextA(window_, std::string(title).c_str());
+}
+
+void DesktopWindow::refreshReportView() {
+  report_.refresh();
+}
+
+MainWindow::CopyResult DesktopWindow::copyToClipboard(std::string_view text) {
+  return putOnClipboard(window_, text);
+}
+
+void DesktopWindow::print(bool small) {
+  const ContestSettings& settings = currentContest().settings;
+  printReport(window_, GetModuleHandleA(nullptr), reportText(),
+              {settings.contestName, settings.contestDate, settings.divisionName, ""},
+              small ? PrintFont::small : PrintFont::normal);
+}
+
+// The program's own folder may have any name, hence wide characters here.
+bool DesktopWindow::openManual() {
+  std::wstring path(32768, L'\0');
+  const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+  path.resize(length);
+  const std::size_t folderEnd = path.rfind(L'\\');
+  if (folderEnd == std::wstring::npos) return false;
+  path.replace(folderEnd + 1, std::wstring::npos, L"ScorvaneUsersManual.htm");
+  if (GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES) return false;
+  SHELLEXECUTEINFOW start{};
+  start.cbSize = sizeof start;
+  start.fMask = SEE_MASK_FLAG_NO_UI;  // a failure is told by the program itself
+  start.hwnd = window_;
+  start.lpVerb = L"open";
+  start.lpFile = path.c_str();
+  start.nShow = SW_SHOWNORMAL;
+  return ShellExecuteExW(&start) != FALSE;
+}
+
+std::optional<FontFields> DesktopWindow::chooseFont() {
+  LOGFONTA font{};
+  CHOOSEFONTA dialog{};
+  dialog.lStructSize = sizeof dialog;
+  dialog.hwndOwner = window_;
+  dialog.lpLogFont = &font;
+  dialog.Flags = CF_SCREENFONTS;
+  if (ChooseFontA(&dialog) == FALSE) return std::nullopt;
+  return FontFields{font.lfHeight,         font.lfWidth,         font.lfEscapement,
+                    font.lfOrientation,    font.lfWeight,        font.lfItalic,
+                    font.lfUnderline,      font.lfStrikeOut,     font.lfCharSet,
+                    font.lfOutPrecision,   font.lfClipPrecision, font.lfQuality,
+                    font.lfPitchAndFamily, font.lfFaceName};
+}
+
+void DesktopWindow::destroy() {
+  DestroyWindow(window_);
+}

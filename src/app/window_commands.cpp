@@ -1,0 +1,62 @@
+#include "app/window_commands.h"
+
+#include "app/about_dialog.h"
+#include "text/format.h"
+#include "view/report_text.h"
+
+void copyReportCommand(MainWindow& window) {
+  switch (window.copyToClipboard(reportText())) {
+    case MainWindow::CopyResult::noMemory:
+      window.show("Could not allocate the memory for the clipboard.", "Error");
+      return;
+    case MainWindow::CopyResult::noLock:
+      window.show("Could not lock the memory for the clipboard.", "Error");
+      return;
+    case MainWindow::CopyResult::copied:
+      break;
+  }
+  Message copied{"The currently visible report was copied to the clipboard.", "Information"};
+  copied.informationIcon = true;
+  window.ask(copied);
+  window.refreshReportView();
+}
+
+void exitCommand(MainWindow& window) {
+  window.destroy();
+}
+
+void helpCommand(MainWindow& window) {
+  if (window.openManual()) return;
+  window.show("Unable to spawn help.  Please select Scorvane Help from the start menu.", "Error");
+}
+
+void aboutCommand(MainWindow& window) {
+  AboutDialog about;
+  window.runDialog(kAboutDialog, about);
+}
+
+void fontCommand(MainWindow& window) {
+  const std::optional<FontFields> font = window.chooseFont();
+  if (font) window.show(fontFieldsText(*font), "Information");
+}
+
+std::string fontFieldsText(const FontFields& font) {
+  return formatText(
+      "lfHeight:          %ld\n"
+      "lfWidth:           %ld\n"
+      "lfEscapement:      %ld\n"
+      "lfOrientation:     %ld\n"
+      "lfWeight:          %ld\n"
+      "lfItalic:          %d\n"
+      "lfUnderline:       %d\n"
+      "lfStrikeOut:       %d\n"
+      "lfCharSet:         %d\n"
+      "lfOutPrecision:    %d\n"
+      "lfClipPrecision:   %d\n"
+      "lfQuality:         %d\n"
+      "lfPitchAndFamily:  %d\n"
+      "lfFaceName:        %s\n",
+      font.height, font.width, font.escapement, font.orientation, font.weight, font.italic,
+      font.underline, font.strikeOut, font.charSet, font.outPrecision, font.clipPrecision,
+      font.quality, font.pitchAndFamily, font.faceName.c_str());
+}
