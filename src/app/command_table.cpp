@@ -7,6 +7,7 @@
 #include "app/reasons_commands.h"
 #include "app/results_commands.h"
 #include "app/round_commands.h"
+#include "app/setup_commands.h"
 #include "app/shown_report.h"
 #include "app/window_commands.h"
 #include "reports/class_reports.h"
@@ -48,12 +49,12 @@ constexpr std::array kCommands = {
 
     Command{32777, "Edit", "Copy", copyReportCommand},
 
-    Command{32787, "Setup", "Setup Contest"},
-    Command{32788, "Setup", "Setup Classes"},
-    Command{32789, "Setup", "Setup Teams"},
+    Command{32787, "Setup", "Setup Contest", runSetupContest},
+    Command{32788, "Setup", "Setup Classes", runSetupClasses},
+    Command{32789, "Setup", "Setup Teams", runSetupTeams},
     Command{32867, "Setup", "Generate Reasons Order"},
     Command{32864, "Setup", "Edit Reasons Order"},
-    Command{32856, "Setup", "Edit Contestants"},
+    Command{32856, "Setup", "Edit Contestants", runEditContestants},
 
     Command{32837, "Admin Reports", "Classes Report", nullptr, plain<classesReport>},
     Command{32838, "Admin Reports", "Group Assignments", nullptr, plain<groupAssignmentsReport>},
