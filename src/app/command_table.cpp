@@ -26,8 +26,8 @@ std::optional<std::string> plain(const Contest& contest, const ReportRequest& /*
   return build(contest);
 }
 
-std::optional<std::string> tieBreakerRules(const Contest& /*contest*/,
-                                           const ReportRequest& /*request*/) {
+std::optional<std::string> tieBreakers(const Contest& /*contest*/,
+                                       const ReportRequest& /*request*/) {
   return tieBreakerReport();
 }
 
@@ -52,8 +52,8 @@ constexpr std::array kCommands = {
     Command{32787, "Setup", "Setup Contest", runSetupContest},
     Command{32788, "Setup", "Setup Classes", runSetupClasses},
     Command{32789, "Setup", "Setup Teams", runSetupTeams},
-    Command{32867, "Setup", "Generate Reasons Order"},
-    Command{32864, "Setup", "Edit Reasons Order"},
+    Command{32867, "Setup", "Generate Reasons Order", runGenerateReasonsOrder},
+    Command{32864, "Setup", "Edit Reasons Order", runEditReasonsOrder},
     Command{32856, "Setup", "Edit Contestants", runEditContestants},
 
     Command{32837, "Admin Reports", "Classes Report", nullptr, plain<classesReport>},
@@ -64,9 +64,9 @@ constexpr std::array kCommands = {
     Command{32853, "Admin Reports", "Contestants Report", nullptr, plain<contestantsReport>},
     Command{32841, "Admin Reports", "Reasons Order", nullptr, plainReasonsOrder},
     Command{32869, "Admin Reports", "Contestant Reasons Report", nullptr, roomReasonsOrder},
-    Command{32843, "Admin Reports", "Reasons Score Sheets", nullptr, reasonsOrderSheet,
-            ReportQuestion::reasonsClass},
-    Command{32855, "Admin Reports", "Tie Breakers Report", nullptr, tieBreakerRules},
+    Command{32843, "Admin Reports", "Reasons Score Sheets", showReasonsOrderSheet,
+            reasonsOrderSheet, ReportQuestion::reasonsClass},
+    Command{32855, "Admin Reports", "Tie Breakers Report", nullptr, tieBreakers},
 
     Command{32791, "Score", "Lookup/Edit Individual Scores"},
     Command{32822, "Score", "Input Scores By Group"},
@@ -98,7 +98,7 @@ constexpr std::array kCommands = {
             plain<verifyPlacingsReport>},
     Command{32848, "Verification Reports", "Verify Questions Scores", nullptr,
             plain<verifyQuestionsScoresReport>},
-    Command{32844, "Verification Reports", "Verify Reasons Scores", nullptr,
+    Command{32844, "Verification Reports", "Verify Reasons Scores", showReasonsVerificationSheet,
             reasonsVerificationSheet, ReportQuestion::reasonsClass},
     Command{32845, "Verification Reports", "Reasons Scores By Team", nullptr,
             plain<reasonsByTeamReport>},

@@ -1,7 +1,14 @@
 #include "app/reasons_commands.h"
 
+#include <ctime>
+
+#include "app/shown_report.h"
+#include "setup/reasons_class_dialog.h"
+#include "setup/reasons_order_edit_dialog.h"
+#include "setup/reasons_order_generation.h"
 #include "setup/reasons_order_report.h"
 #include "setup/reasons_sheets.h"
+#include "storage/contest_commands.h"
 
 namespace {
 
@@ -11,7 +18,44 @@ std::optional<std::string> sheetAskedFor(const Contest& contest, const ReportReq
   return reasonsSheet(contest, sheet, *request.classIndex);
 }
 
+void askForClassAndShowSheet(MainWindow& window, ReasonsSheet sheet) {
+  ReasonsClassDialog dialog(currentContest());
+  window.runDialog(ReasonsClassDialog::kResourceId, dialog);
+  if (const auto chosen = dialog.chosenClass()) {
+    showReport(window, reasonsSheet(currentContest(), sheet, *chosen));
+  }
+}
+
 }  // namespace
+
+void runGenerateReasonsOrder(MainWindow& window) {
+  const Answer answer = window.ask(
+      {"This will auto generate a new Reasons Order and overwrite any previous edits to Reasons "
+       "Order.  Continue?",
+       "Warning", Buttons::okCancel, Answer::cancel});
+  if (answer != Answer::ok) return;
+  const auto seed = static_cast<std::uint32_t>(std::time(nullptr));
+  if (const auto refusal = generateReasonsOrder(currentContest(), seed)) {
+    window.show(*refusal, "Error");
+    return;
+  }
+  saveCurrent(window);
+  showReport(window, plainReasonsOrder(currentContest(), {}));
+}
+
+void runEditReasonsOrder(MainWindow& window) {
+  ReasonsOrderEditDialog dialog;
+  runDialogOverWelcome(window, ReasonsOrderEditDialog::kResourceId, dialog);
+  showReport(window, plainReasonsOrder(currentContest(), {}));
+}
+
+void showReasonsOrderSheet(MainWindow& window) {
+  askForClassAndShowSheet(window, ReasonsSheet::order);
+}
+
+void showReasonsVerificationSheet(MainWindow& window) {
+  askForClassAndShowSheet(window, ReasonsSheet::verification);
+}
 
 std::optional<std::string> plainReasonsOrder(const Contest& contest,
                                              const ReportRequest& /*request*/) {

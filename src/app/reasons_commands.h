@@ -8,6 +8,15 @@
 #include "app/report_request.h"
 #include "model/contest.h"
 
+/// Asks, deals the reasons order out anew with the clock as seed, saves and shows the order. When
+/// the operator declines or no order can be made, nothing changes and the report on screen stays.
+void runGenerateReasonsOrder(MainWindow& window);
+/// Runs the editor, then shows the order.
+void runEditReasonsOrder(MainWindow& window);
+/// Ask for a reasons class and show its sheet; the report on screen stays when there is none.
+void showReasonsOrderSheet(MainWindow& window);
+void showReasonsVerificationSheet(MainWindow& window);
+
 std::optional<std::string> plainReasonsOrder(const Contest& contest, const ReportRequest& request);
 std::optional<std::string> roomReasonsOrder(const Contest& contest, const ReportRequest& request);
 
