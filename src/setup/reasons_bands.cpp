@@ -1,6 +1,7 @@
 #include "setup/reasons_bands.h"
 
 #include <algorithm>
+#include <cstddef>
 
 #include "view/report_text.h"
 
@@ -10,6 +11,7 @@ std::vector<ReasonsBand> reasonsBands(std::int32_t groups) {
   const std::int32_t count = std::max((shown + kWidest - 1) / kWidest, 1);
   const std::int32_t width = (shown + count - 1) / count;
   std::vector<ReasonsBand> bands;
+  bands.reserve(static_cast<std::size_t>(count));
   for (std::int32_t b = 0; b < count; ++b) {
     bands.push_back({b * width, std::min((b + 1) * width, shown)});
   }

@@ -6,6 +6,7 @@
 #include "storage/contest_commands.h"
 #include "tests/setup/reasons_contest.h"
 #include "tests/ui/memory_dialog.h"
+#include "text/format.h"
 
 namespace {
 
@@ -36,8 +37,7 @@ class ReasonsOrderEdit : public testing::Test {
   static Lines lines(const std::vector<ContestantNumber>& numbers) {
     Lines lines;
     for (const ContestantNumber number : numbers) {
-      const std::string text = std::to_string(number);
-      lines.push_back("     " + text + " - Taker " + text);
+      lines.push_back(formatText("     %d - Taker %d", number, number));
     }
     return lines;
   }

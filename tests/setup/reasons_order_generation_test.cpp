@@ -87,7 +87,7 @@ TEST(ReasonsOrderGeneration, RefusesAndChangesNothing) {
   const auto refusal = [](Contest contest) {
     placeGroup(contest, 0, {102, 101});
     const Contest before = contest;
-    const std::string message = generateReasonsOrder(contest, 1).value_or("");
+    std::string message = generateReasonsOrder(contest, 1).value_or("");
     EXPECT_EQ(contest, before) << message;
     return message;
   };
