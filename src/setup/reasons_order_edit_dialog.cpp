@@ -1,7 +1,6 @@
 #include "setup/reasons_order_edit_dialog.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -9,16 +8,12 @@
 #include "setup/reasons_compaction.h"
 #include "storage/contest_commands.h"
 #include "text/format.h"
+#include "text/number.h"
 
 namespace {
 
 std::string lineOf(const Contest& contest, ContestantNumber number) {
   return formatText("     %d - %s", number, contestantName(contest, number).c_str());
-}
-
-ContestantNumber numberInLine(const std::string& line) {
-  ContestantNumber number = kNobody;
-  return std::sscanf(line.c_str(), "%d", &number) == 1 ? number : kNobody;
 }
 
 std::vector<std::string> groupLines(const Contest& contest) {
@@ -170,7 +165,7 @@ void ReasonsOrderEditDialog::assign(Dialog& dialog) {
     dialog.select(kGroups, std::nullopt);
     return;
   }
-  const ContestantNumber number = numberInLine(dialog.line(kUnassigned, *line));
+  const ContestantNumber number = leadingNumber(dialog.line(kUnassigned, *line));
   const bool stoodElsewhere = clearCellsOf(contest, number);
   putInto(contest, row, *group, number);
   compactReasonsOrder(contest);
