@@ -90,6 +90,24 @@ LRESULT send(HWND window, UINT message, WPARAM w, LPARAM l) {
   return static_cast<LRESULT>(result);
 }
 
+// Wine hands a list's lines to another process as wide characters, even when asked for 8-bit ones.
+LRESULT sendWide(HWND window, UINT message, WPARAM w, LPARAM l) {
+  DWORD_PTR result = 0;
+  if (SendMessageTimeoutW(window, message, w, l, SMTO_ABORTIFHUNG, kPatience, &result) == 0) {
+    throw Failure{"the window does not answer"};
+  }
+  return static_cast<LRESULT>(result);
+}
+
+std::string narrow(const std::wstring& wide) {
+  const int length = static_cast<int>(wide.size());
+  std::string text(wide.size(), '\0');
+  const int got =
+      WideCharToMultiByte(CP_ACP, 0, wide.data(), length, text.data(), length, nullptr, nullptr);
+  text.resize(static_cast<std::size_t>(got));
+  return text;
+}
+
 std::string textOf(HWND window) {
   const LRESULT length = send(window, WM_GETTEXTLENGTH, 0, 0);
   std::string text(static_cast<std::size_t>(length) + 1, '\0');
@@ -226,10 +244,11 @@ Fields lines(const Fields& f) {
   for (LRESULT i = 0; i < count; ++i) {
     const auto index = static_cast<WPARAM>(i);
     const LRESULT length = send(control, combo ? CB_GETLBTEXTLEN : LB_GETTEXTLEN, index, 0);
-    std::string line(static_cast<std::size_t>(length) + 1, '\0');
-    send(control, combo ? CB_GETLBTEXT : LB_GETTEXT, index, reinterpret_cast<LPARAM>(line.data()));
-    line.resize(static_cast<std::size_t>(length));
-    found.push_back(line);
+    std::wstring wide(static_cast<std::size_t>(length) + 1, L'\0');
+    const LRESULT got = sendWide(control, combo ? CB_GETLBTEXT : LB_GETTEXT, index,
+                                 reinterpret_cast<LPARAM>(wide.data()));
+    wide.resize(static_cast<std::size_t>(got));
+    found.push_back(narrow(wide));
   }
   return found;
 }
