@@ -26,10 +26,11 @@ def main():
         if contest and not boxes:
             window.command(HIGH_INDIVIDUAL_OVERALL)
             window.settle()
-        print(window.title())
-        print(app.report())
+        window.settle()
         picture = desktop.BUILD / "run.png"
         virtual.screenshot(picture)
+        print(window.title())
+        print(app.report())
         print(f"Screenshot: {picture}")
         app.close()
     finally:

@@ -318,8 +318,8 @@ class DesktopTest(unittest.TestCase):
         """A copy of a sample contest that the test may change."""
         return pathlib.Path(shutil.copy(ROOT / "samples" / name, self.folder / name))
 
-    def expected_report(self, contest, *arguments):
-        """What scorvane-report prints of a contest."""
-        done = subprocess.run([NATIVE / "scorvane-report", contest, *map(str, arguments)], check=True,
+    def expected_report(self, *arguments):
+        """What scorvane-report prints for these arguments."""
+        done = subprocess.run([NATIVE / "scorvane-report", *map(str, arguments)], check=True,
                               stdout=subprocess.PIPE)
         return done.stdout.decode("latin-1")
