@@ -1,7 +1,36 @@
 // scorvane-report: prints any report of a contest file without a window.
 #include <cstdio>
+#include <string_view>
+#include <vector>
 
-int main() {
-  std::puts("scorvane-report " SCORVANE_VERSION);
-  return 0;
+#include "cli/options.h"
+#include "cli/runner.h"
+#include "cli/system.h"
+
+namespace {
+
+CliResult answer(const std::vector<std::string_view>& arguments) {
+  const auto parsed = parseOptions(arguments);
+  if (const auto* error = std::get_if<UsageError>(&parsed)) return refuseUsage(*error);
+  const auto& options = std::get<CliOptions>(parsed);
+  if (options.action == CliOptions::Action::allReports) makeFolder(options.folder);
+  return runCli(options, systemFiles());
+}
+
+bool print(std::string_view text) {
+  const bool written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
+  return std::fflush(stdout) == 0 && written;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  makeStandardOutputBinary();
+  CliResult result = answer({argv + (argc > 0 ? 1 : 0), argv + argc});
+  if (!print(result.output)) {
+    result.status = kFailed;
+    result.error += "scorvane-report: the report cannot be written to standard output\n";
+  }
+  std::fputs(result.error.c_str(), stderr);
+  return result.status;
 }

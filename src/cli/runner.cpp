@@ -1,0 +1,157 @@
+#include "cli/runner.h"
+
+#include <algorithm>
+#include <variant>
+
+#include "storage/contest_reader.h"
+#include "storage/safe_save.h"
+#include "text/line_ends.h"
+
+namespace {
+
+using Action = CliOptions::Action;
+
+CliResult failed(const std::string& reason) {
+  return {kFailed, "", "scorvane-report: " + reason + "\n"};
+}
+
+std::variant<Contest, std::string> openContest(const std::string& path, FileSystem& files) {
+  const std::optional<std::string> bytes = files.readWhole(path);
+  if (!bytes) return "cannot read '" + path + "': it does not exist or cannot be opened";
+  std::variant<Contest, ContestFault> contest = readContest(*bytes);
+  if (auto* read = std::get_if<Contest>(&contest)) return std::move(*read);
+  if (std::get<ContestFault>(contest) == ContestFault::scoreCountMismatch) {
+    return "cannot read '" + path + "': the number of scores in the file is not correct";
+  }
+  return "cannot read '" + path + "': it is not a contest file, or is damaged";
+}
+
+std::string noSuchClass(std::int32_t number, const Contest& contest) {
+  return "there is no class " + std::to_string(number) + "; the contest has " +
+         std::to_string(contest.classes.count());
+}
+
+// "" when the contest has the class, the round and the category that are asked for.
+std::string missingPart(const Contest& contest, const CliOptions& options) {
+  std::vector<std::int32_t> numbers = options.classNumbers.value_or(std::vector<std::int32_t>());
+  if (options.classNumber) numbers.push_back(*options.classNumber);
+  for (const std::int32_t number : numbers) {
+    if (number > contest.classes.count()) return noSuchClass(number, contest);
+  }
+  if (options.classNumber) {
+    const std::string number = std::to_string(*options.classNumber);
+    if (!contest.classes.hasReasons(*options.classNumber - 1)) {
+      return "class " + number + " has no reasons";
+    }
+    if (contest.reasonsOrder.empty()) return "the contest has no reasons order";
+  }
+  if (options.round && *options.round > contest.classes.count()) {
+    return "there is no round " + std::to_string(*options.round) + "; the contest has " +
+           std::to_string(contest.classes.count());
+  }
+  const auto& names = contest.categories;
+  if (options.category && std::find(names.begin(), names.end(), *options.category) == names.end()) {
+    return "the contest has no category '" + *options.category + "'";
+  }
+  return {};
+}
+
+std::vector<std::int32_t> classesOf(const Contest& contest, const std::string& category) {
+  const auto& names = contest.categories;
+  const auto index = std::find(names.begin(), names.end(), category) - names.begin();
+  std::vector<std::int32_t> classes;
+  for (std::int32_t k = 0; k < contest.classes.count(); ++k) {
+    if (contest.classes.category(k) == index) classes.push_back(k);
+  }
+  return classes;
+}
+
+// Class indexes as the dialog's list gives them: ascending, each once.
+std::vector<std::int32_t> classIndexes(std::vector<std::int32_t> numbers) {
+  std::sort(numbers.begin(), numbers.end());
+  numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+  for (std::int32_t& number : numbers) --number;
+  return numbers;
+}
+
+ReportRequest requestOf(const Contest& contest, const CliOptions& options) {
+  ReportRequest request;
+  if (options.classNumber) request.classIndex = *options.classNumber - 1;
+  if (options.round) request.round = *options.round - 1;
+  CustomReportRequest& custom = request.custom;
+  // A category proposes title and classes, as in the dialog; what is named besides replaces them.
+  if (options.category) custom.classes = classesOf(contest, *options.category);
+  if (options.classNumbers) custom.classes = classIndexes(*options.classNumbers);
+  custom.title = options.title.value_or(options.category.value_or(""));
+  custom.kind = static_cast<int>(options.kind);
+  custom.numToReport = options.number;
+  if (options.percent) custom.percent = true;
+  custom.team = options.team;
+  return request;
+}
+
+CliResult printReport(const Contest& contest, const CliOptions& options) {
+  const std::string missing = missingPart(contest, options);
+  if (!missing.empty()) return failed(missing);
+  std::optional<std::string> report = options.command->report(contest, requestOf(contest, options));
+  if (report) return {0, std::move(*report), ""};
+  return failed("the contest lacks what '" + std::string(options.command->caption) + "' needs");
+}
+
+std::string fileNameOf(const Command& command) {
+  std::string name(command.caption);
+  std::replace(name.begin(), name.end(), '/', '-');
+  return name + ".txt";
+}
+
+CliResult writeAllReports(const Contest& contest, const std::string& folder, FileSystem& files) {
+  CliResult result;
+  for (const Command& command : commandTable()) {
+    if (command.report == nullptr || command.question != ReportQuestion::nothing) continue;
+    const std::optional<std::string> report = command.report(contest, {});
+    const std::string caption(command.caption);
+    if (!report) {
+      result.error += "scorvane-report: no '" + caption + "': the contest lacks what it needs\n";
+      continue;
+    }
+    const std::string path = folder + "/" + fileNameOf(command);
+    if (!saveSafely(files, path, withWindowsLineEnds(*report))) {
+      return failed("cannot write '" + path + "'");
+    }
+  }
+  return result;
+}
+
+std::string reportList() {
+  std::string list;
+  for (const Command& command : commandTable()) {
+    if (command.report == nullptr) continue;
+    list += std::to_string(command.id) + "\t" + std::string(command.caption) + "\n";
+  }
+  return list;
+}
+
+}  // namespace
+
+CliResult runCli(const CliOptions& options, FileSystem& files) {
+  switch (options.action) {
+    case Action::help:
+      return {0, std::string(usageText()), ""};
+    case Action::version:
+      return {0, "scorvane-report " SCORVANE_VERSION "\n", ""};
+    case Action::list:
+      return {0, reportList(), ""};
+    case Action::oneReport:
+    case Action::allReports:
+      break;
+  }
+  const auto opened = openContest(options.contest, files);
+  if (const auto* fault = std::get_if<std::string>(&opened)) return failed(*fault);
+  const auto& contest = std::get<Contest>(opened);
+  if (options.action == Action::allReports) return writeAllReports(contest, options.folder, files);
+  return printReport(contest, options);
+}
+
+CliResult refuseUsage(const UsageError& error) {
+  return {kWrongUsage, "", "scorvane-report: " + error.reason + "\n\n" + std::string(usageText())};
+}

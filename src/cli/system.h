@@ -1,0 +1,10 @@
+// The little that scorvane-report needs of the operating system besides files.
+#pragma once
+
+#include <string>
+
+/// Keeps the system from changing line ends on standard output.
+void makeStandardOutputBinary();
+
+/// Makes a folder; one that is there already is fine. What cannot be made shows when it is used.
+void makeFolder(const std::string& path);

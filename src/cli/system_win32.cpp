@@ -1,0 +1,15 @@
+#include <fcntl.h>
+#include <io.h>
+#include <windows.h>
+
+#include <cstdio>
+
+#include "cli/system.h"
+
+void makeStandardOutputBinary() {
+  _setmode(_fileno(stdout), _O_BINARY);
+}
+
+void makeFolder(const std::string& path) {
+  CreateDirectoryA(path.c_str(), nullptr);
+}
