@@ -135,6 +135,7 @@ void SetupContestDialog::opened(Dialog& dialog) {
     dialog.setEnabled(kTotalPerTeam, false);
   }
   dialog.focus(kContestName);
+  dialog.selectText(kContestName);
 }
 
 void SetupContestDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {

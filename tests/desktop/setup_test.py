@@ -1,0 +1,103 @@
+"""Sets up a contest in the real dialogs, with the keyboard alone, and reads the file they save."""
+
+import unittest
+
+from desktop import DesktopTest
+
+SETUP_CONTEST, SETUP_CLASSES, SETUP_TEAMS, EDIT_CONTESTANTS = 32787, 32788, 32789, 32856
+
+EXPECTED = (
+    "contestName:\tFair", "divisionName:\tJunior Division", "contestDate:\tMay 1", "startNum:\t201",
+    "numPerTeam:\t2", "numToScore:\t2", "reportPercent:\t0", "numToReport:\t20", "numGroups:\t3",
+    "totalNumPerTeam:\t3", "numReasonsGroups:\t1", "categories:\tBeef\tSheep",
+    "~~~~~Classes~~~~~", "2",
+    "Steers\tYes\tNo\tD\t2,4,3\t0",
+    "Ewes\tNo\tNo\tA\t1,1,1\t1",
+    "~~~~~Contestants~~~~~", "6",
+    "201\tAnn Lee\t-1\t-1", "202\tBob\t-1\t-1", "203\t",
+    "204\tCy\t-1\t-1", "205\tDee\t-1\t-1", "206\tEve\t-1\t-1",
+    "~~~~~Teams~~~~~", "2",
+    "Ash\t \t204\t205\t206",
+    "Elm\tOak\t201\t202\t203",
+    "~~~~~Scores~~~~~", "12",
+    *(f"{number}\t{k}\t \t0\t0\t0" for number in range(201, 207) for k in (0, 1)),
+    "0000-0000-0000-0000", "0000-0000-0000-0000")
+
+
+class Setup(DesktopTest):
+    def open(self, command, title):
+        self.main.command(command)
+        return self.app.window(title)
+
+    def done(self, dialog):
+        self.app.wait_closed(dialog)
+        self.assertEqual(self.main.title(), f"Scorvane - {self.windows_file} - Fair")
+
+    def fill_in_contest(self):
+        dialog = self.open(SETUP_CONTEST, "Setup Contest")
+        for text in ("Fair", None, "May 1", "201", None, None, "3", None, "2", "2", "3"):
+            dialog.type(text or "")
+            dialog.press("Tab")
+        for category in ("Beef", "Sheep"):
+            dialog.type(category)
+            dialog.press("Return")
+        dialog.press(*["Tab"] * 5, "Return")
+        self.app.choose_file(self.file, "Save As")
+        self.done(dialog)
+
+    def fill_in_classes(self):
+        dialog = self.open(SETUP_CLASSES, "Setup Classes")
+        dialog.type("Steers")
+        dialog.press("Tab", "Space", "Tab", "Tab")
+        dialog.type("d243")
+        dialog.press("Return")
+        dialog.type("Ewes")
+        dialog.press("Tab", "Tab", "Tab")
+        dialog.type("a111")
+        dialog.press("Down", "Return")
+        self.assertEqual(dialog.lines(1016), [" 1.  Steers", " 2.  Ewes"])
+        self.assertEqual(dialog.lines(1018), ["   D (1,3,4,2)", "   A (1,2,3,4)"])
+        dialog.close()
+        self.done(dialog)
+
+    def fill_in_teams(self):
+        dialog = self.open(SETUP_TEAMS, "Setup Teams")
+        for name, coach, members in (("Elm", "Oak", ("Ann", "Bob")), ("Ash", "", ("Cy", "Dee", "Eve"))):
+            dialog.type(name)
+            dialog.press("Tab")
+            dialog.type(coach)
+            dialog.press("Tab")
+            for member in members:
+                dialog.type(member)
+                dialog.press("Return")
+            self.desktop.keys("alt+e", "alt+t")
+            dialog.settle()
+        self.assertEqual(dialog.lines(1019), ["Ash", "Elm"])
+        dialog.choose(1019, "Ash")
+        self.assertEqual(dialog.lines(1060), ["204 - Cy   A", "205 - Dee   B", "206 - Eve   C (alternate)"])
+        dialog.close()
+        self.done(dialog)
+
+    def correct_a_name(self):
+        dialog = self.open(EDIT_CONTESTANTS, "Edit Contestants")
+        dialog.press("Space", "End")
+        dialog.type(" Lee")
+        dialog.press("Return")
+        self.assertEqual(dialog.lines(1069)[0], "201 - Ann Lee - A")
+        dialog.close()
+        self.done(dialog)
+
+    def test_a_contest_is_set_up_with_the_keyboard_alone(self):
+        self.app = self.start()
+        self.main = self.app.main()
+        self.file = self.folder / "fair.scv"
+        self.windows_file = "Z:" + str(self.file).replace("/", "\\")
+        self.fill_in_contest()
+        self.fill_in_classes()
+        self.fill_in_teams()
+        self.correct_a_name()
+        self.assertEqual(self.file.read_bytes().decode("ascii"), "\r\n".join(EXPECTED) + "\r\n")
+
+
+if __name__ == "__main__":
+    unittest.main()
