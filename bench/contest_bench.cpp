@@ -1,0 +1,71 @@
+// Whole contests of 12 classes: reading and writing the file, ranking and the results reports. None
+// may grow faster than n log n in contestants.
+#include <benchmark/benchmark.h>
+
+#include <map>
+#include <string>
+
+#include "app/command_table.h"
+#include "storage/contest_reader.h"
+#include "storage/contest_writer.h"
+#include "tools/contest_maker.h"
+
+namespace {
+
+const Contest& contestOf(std::int64_t contestants) {
+  static std::map<std::int64_t, Contest> contests;
+  const auto [place, isNew] = contests.try_emplace(contestants);
+  if (isNew) {
+    ContestPlan plan;
+    plan.contestants = static_cast<std::int32_t>(contestants);
+    place->second = makeContest(plan);
+  }
+  return place->second;
+}
+
+void load(benchmark::State& state) {
+  const std::string bytes = writeContest(contestOf(state.range(0)));
+  for ([[maybe_unused]] auto step : state) {
+    const auto contest = readContest(bytes);
+    benchmark::DoNotOptimize(&contest);
+  }
+  state.SetComplexityN(state.range(0));
+  state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(bytes.size()));
+}
+
+void save(benchmark::State& state) {
+  const Contest& contest = contestOf(state.range(0));
+  for ([[maybe_unused]] auto step : state) {
+    const std::string bytes = writeContest(contest);
+    benchmark::DoNotOptimize(bytes.data());
+  }
+  state.SetComplexityN(state.range(0));
+}
+
+void report(benchmark::State& state, int commandId) {
+  const Contest& contest = contestOf(state.range(0));
+  const Command* command = findCommand(commandId);
+  for ([[maybe_unused]] auto step : state) {
+    const auto text = command->report(contest, {});
+    benchmark::DoNotOptimize(&text);
+  }
+  state.SetComplexityN(state.range(0));
+}
+
+void overSizes(benchmark::internal::Benchmark* bench) {
+  bench->RangeMultiplier(10)->Range(100, 100000)->Unit(benchmark::kMicrosecond)->Complexity();
+}
+
+BENCHMARK(load)->Apply(overSizes);
+BENCHMARK(save)->Apply(overSizes);
+
+// Every results report.
+const bool kRegistered = [] {
+  for (const int id : {32796, 32799, 32798, 32827, 32801, 32804, 32803, 32830, 32800, 32810}) {
+    const std::string name = "results/" + std::string(findCommand(id)->caption);
+    overSizes(benchmark::RegisterBenchmark(name.c_str(), report, id));
+  }
+  return true;
+}();
+
+}  // namespace
