@@ -1,5 +1,5 @@
-// A main window in memory: what it shows is recorded, what it asks is answered from a script, and the
-// dialogs it runs are operated as a test says.
+// A main window in memory: what it shows is recorded, what it asks is answered from a script, and
+// the dialogs it runs are operated as a test says.
 #pragma once
 
 #include <functional>
