@@ -1,0 +1,94 @@
+#include "entry/entry_choice.h"
+
+#include <numeric>
+#include <utility>
+
+#include "storage/contest_commands.h"
+#include "text/format.h"
+
+std::vector<std::string> classLines(const JudgingClasses& classes,
+                                    const std::vector<std::int32_t>& indexes) {
+  std::vector<std::string> lines;
+  for (const std::int32_t index : indexes) {
+    lines.push_back(formatText("%2d.  %s", index + 1, classes.name(index).c_str()));
+  }
+  return lines;
+}
+
+std::vector<std::int32_t> allClasses(const JudgingClasses& classes) {
+  std::vector<std::int32_t> indexes(static_cast<std::size_t>(classes.count()));
+  std::iota(indexes.begin(), indexes.end(), 0);
+  return indexes;
+}
+
+std::vector<std::int32_t> classesWith(const JudgingClasses& classes,
+                                      bool (JudgingClasses::*carries)(std::int32_t) const) {
+  std::vector<std::int32_t> indexes = allClasses(classes);
+  std::erase_if(indexes, [&](std::int32_t index) { return !(classes.*carries)(index); });
+  return indexes;
+}
+
+void EntryChoice::open(Dialog& dialog, const JudgingClasses& classes,
+                       std::vector<std::int32_t> listed,
+                       const std::vector<std::string>& groupLines) {
+  listed_ = std::move(listed);
+  dialog.setLines(kEntryClassList, classLines(classes, listed_));
+  dialog.setLines(kEntryGroupList, groupLines);
+}
+
+bool EntryChoice::take(const Dialog& dialog, ControlId id, ControlEvent event) {
+  if (event != ControlEvent::selectionChanged) return false;
+  const std::optional<int> line = dialog.selection(id);
+  if (id == kEntryClassList) {
+    classIndex_ = line ? listed_.at(static_cast<std::size_t>(*line)) : kNone;
+  } else if (id == kEntryGroupList) {
+    groupIndex_ = line.value_or(kNone);
+  } else {
+    return false;
+  }
+  return classIndex_ != kNone && groupIndex_ != kNone;
+}
+
+bool EntryChoice::isMade(Dialog& dialog, const char* groupName) const {
+  if (classIndex_ == kNone) {
+    dialog.show("You must select a class before entering a score.", "Error");
+    return false;
+  }
+  if (groupIndex_ == kNone) {
+    dialog.show(formatText("You must select a %s before entering a score.", groupName), "Error");
+    return false;
+  }
+  return true;
+}
+
+void EntryChoice::showContestant(Dialog& dialog, std::optional<ContestantNumber> number) {
+  contestant_ = number;
+  dialog.setText(kContestantField, number ? std::to_string(*number) : "");
+}
+
+void EntryChoice::clear(Dialog& dialog) {
+  classIndex_ = kNone;
+  groupIndex_ = kNone;
+  dialog.select(kEntryClassList, std::nullopt);
+  dialog.select(kEntryGroupList, std::nullopt);
+  showContestant(dialog, std::nullopt);
+}
+
+bool mayEnterScores(Window& owner, const EnteredCount& count, const char* kind) {
+  if (count.entered == 0) return true;
+  const std::string found =
+      formatText("This group has %d (out of %d) %s scores that have already been entered.",
+                 count.entered, count.entered + count.missing, kind);
+  const std::string question =
+      formatText("%s\n\n\nWould you like to re-enter scores for this group?", found.c_str());
+  return owner.ask({question, "Information", Buttons::yesNo, Answer::yes}) != Answer::no;
+}
+
+void saveIfNamed(Window& owner) {
+  if (!currentFileName().empty()) saveCurrent(owner);
+}
+
+void saveAndEnd(Dialog& dialog) {
+  saveIfNamed(dialog);
+  dialog.end(kEntryDone);
+}

@@ -1,0 +1,43 @@
+#include "entry/questions_dialog.h"
+
+#include "entry/last_score.h"
+#include "entry/score_card.h"
+
+namespace {
+
+constexpr ScoreCard kCard = {"Questions", 1056, &ScoreRecord::questionsScore,
+                             "Error:  no member number available."};
+
+}  // namespace
+
+QuestionsDialog::QuestionsDialog() : entry_({"questions", kCard.score, kCard.field}) {}
+
+void QuestionsDialog::opened(Dialog& dialog) {
+  const JudgingClasses& classes = currentContest().classes;
+  entry_.open(dialog, classesWith(classes, &JudgingClasses::hasQuestions));
+}
+
+void QuestionsDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
+  entry_.onEvent(dialog, id, event);
+  if (event != ControlEvent::clicked) return;
+  if (id == kEntryScoreButton) {
+    score(dialog);
+    dialog.focus(kCard.field);
+  } else if (id == kEntryDoneButton || id == kOkId) {
+    saveAndEnd(dialog);
+  } else if (id == kCancelId) {
+    dialog.end(kEntryCancelled);
+  }
+}
+
+void QuestionsDialog::closed(Dialog& dialog) {
+  saveAndEnd(dialog);
+}
+
+void QuestionsDialog::score(Dialog& dialog) {
+  const EntryChoice& choice = entry_.choice();
+  if (!choice.isMade(dialog, "group") || !enterScore(dialog, kCard, choice)) return;
+  showLastContestant(dialog, *choice.contestant());
+  showLastQuestions(dialog, currentContest(), *choice.contestant(), choice.classIndex());
+  entry_.advance(dialog);
+}

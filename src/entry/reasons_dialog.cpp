@@ -1,0 +1,96 @@
+#include "entry/reasons_dialog.h"
+
+#include "entry/last_score.h"
+#include "entry/score_card.h"
+#include "text/format.h"
+
+namespace {
+
+constexpr ScoreCard kCard = {"Reasons", 1028, &ScoreRecord::reasonsScore,
+                             "Error:  no member number entered."};
+
+std::vector<std::string> reasonsGroupLines(std::int32_t groups) {
+  std::vector<std::string> lines;
+  for (std::int32_t group = 1; group <= groups; ++group) {
+    lines.push_back(formatText("   %d   ", group));
+  }
+  return lines;
+}
+
+}  // namespace
+
+EnteredCount countReasonsEntered(const Contest& contest, std::int32_t reasonsGroup,
+                                 std::int32_t classIndex) {
+  const ReasonsOrder::Cells& cells = contest.reasonsOrder.cells();
+  EnteredCount count;
+  auto cell = cells.lowerBound({reasonsGroup, 0});
+  for (; cell != cells.end() && cell->first.first == reasonsGroup; ++cell) {
+    const ContestantNumber number = cell->second;
+    if (contestantName(contest, number).empty()) continue;
+    count.add(scoreRecord(contest, number, classIndex).reasonsScore);
+  }
+  return count;
+}
+
+void ReasonsDialog::opened(Dialog& dialog) {
+  const Contest& contest = currentContest();
+  choice_.open(dialog, contest.classes, classesWith(contest.classes, &JudgingClasses::hasReasons),
+               reasonsGroupLines(contest.reasonsOrder.columnCount()));
+  dialog.focus(kCard.field);
+}
+
+void ReasonsDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
+  if (choice_.take(dialog, id, event)) start(dialog);
+  if (event != ControlEvent::clicked) return;
+  if (id == kEntryScoreButton) {
+    score(dialog);
+    dialog.focus(kCard.field);
+  } else if (id == kEntryDoneButton || id == kOkId) {
+    saveAndEnd(dialog);
+  } else if (id == kCancelId) {
+    dialog.end(kEntryCancelled);
+  }
+}
+
+void ReasonsDialog::closed(Dialog& dialog) {
+  saveAndEnd(dialog);
+}
+
+std::optional<ContestantNumber> ReasonsDialog::speaker() const {
+  const ContestantNumber number =
+      currentContest().reasonsOrder.cell(position_, choice_.groupIndex());
+  return number == kNobody ? std::nullopt : std::optional<ContestantNumber>(number);
+}
+
+// A single empty cell at the top of the column is passed over; a second one leaves the group
+// without a contestant to start with.
+void ReasonsDialog::start(Dialog& dialog) {
+  position_ = 0;
+  if (!speaker()) position_ = 1;
+  choice_.setContestant(speaker());
+  const EnteredCount count =
+      countReasonsEntered(currentContest(), choice_.groupIndex(), choice_.classIndex());
+  if (mayEnterScores(dialog, count, "reasons")) {
+    choice_.showContestant(dialog, choice_.contestant());
+  } else {
+    choice_.clear(dialog);
+  }
+  dialog.focus(kCard.field);
+}
+
+void ReasonsDialog::score(Dialog& dialog) {
+  if (!choice_.isMade(dialog, "reasons group") || !enterScore(dialog, kCard, choice_)) return;
+  showLastContestant(dialog, *choice_.contestant());
+  showLastReasons(dialog, currentContest(), *choice_.contestant(), choice_.classIndex());
+  advance(dialog);
+}
+
+// Past the top, an empty cell ends the group even when more contestants stand below it.
+void ReasonsDialog::advance(Dialog& dialog) {
+  ++position_;
+  if (const std::optional<ContestantNumber> next = speaker()) {
+    choice_.showContestant(dialog, next);
+  } else {
+    choice_.clear(dialog);
+  }
+}
