@@ -4,6 +4,7 @@
 #include <array>
 
 #include "app/contest_file_commands.h"
+#include "app/entry_commands.h"
 #include "app/reasons_commands.h"
 #include "app/results_commands.h"
 #include "app/round_commands.h"
@@ -68,10 +69,10 @@ constexpr std::array kCommands = {
             reasonsOrderSheet, ReportQuestion::reasonsClass},
     Command{32855, "Admin Reports", "Tie Breakers Report", nullptr, tieBreakers},
 
-    Command{32791, "Score", "Lookup/Edit Individual Scores"},
-    Command{32822, "Score", "Input Scores By Group"},
-    Command{32823, "Score", "Input Reasons Scores"},
-    Command{32826, "Score", "Input Questions Scores By Group"},
+    Command{32791, "Score", "Lookup/Edit Individual Scores", lookUpScores},
+    Command{32822, "Score", "Input Scores By Group", inputPlacings},
+    Command{32823, "Score", "Input Reasons Scores", inputReasons},
+    Command{32826, "Score", "Input Questions Scores By Group", inputQuestions},
 
     Command{32796, "Results Reports", "High Individual Overall", nullptr,
             highIndividual<ScoreKind::overall>},

@@ -1,5 +1,7 @@
 #include "entry/reasons_dialog.h"
 
+#include <algorithm>
+
 #include "entry/last_score.h"
 #include "entry/score_card.h"
 #include "text/format.h"
@@ -10,8 +12,9 @@ constexpr ScoreCard kCard = {"Reasons", 1028, &ScoreRecord::reasonsScore,
                              "Error:  no member number entered."};
 
 std::vector<std::string> reasonsGroupLines(std::int32_t groups) {
+  const std::int32_t shown = std::min(groups, kMostReasonsGroupsShown);
   std::vector<std::string> lines;
-  for (std::int32_t group = 1; group <= groups; ++group) {
+  for (std::int32_t group = 1; group <= shown; ++group) {
     lines.push_back(formatText("   %d   ", group));
   }
   return lines;

@@ -10,6 +10,10 @@
 /// A cell without a contestant, and either part of a place that is not assigned.
 inline constexpr std::int32_t kNobody = -1;
 
+/// More reasons groups than this are neither listed nor printed: nobody has so many officials, but
+/// a slip of the finger or a damaged file can ask for billions.
+inline constexpr std::int32_t kMostReasonsGroupsShown = 10000;
+
 /// Where a contestant stands in the reasons order: reasons group and speaking position (row),
 /// both from 0; both kNobody when unassigned.
 struct ReasonsPlace {

@@ -5,16 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "model/reasons_order.h"
+
 /// The groups `first` up to, but not including, `end`, counted from 0.
 struct ReasonsBand {
   std::int32_t first = 0;
   std::int32_t end = 0;
   [[nodiscard]] std::int32_t width() const { return end - first; }
 };
-
-/// More reasons groups than this are neither listed nor printed: nobody has so many officials, but
-/// a slip of the finger or a damaged file can ask for billions.
-inline constexpr std::int32_t kMostReasonsGroupsShown = 10000;
 
 /// Splits the groups into as few bands of at most eight as will do, evenly, the last band taking
 /// what is left: 10 gives 5 and 5, 17 gives 6, 6 and 5. Always at least one band, an empty one

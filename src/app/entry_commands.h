@@ -1,0 +1,10 @@
+// The commands of the Score menu.
+#pragma once
+
+#include "app/main_window.h"
+
+void lookUpScores(MainWindow& window);
+void inputPlacings(MainWindow& window);
+/// Needs a reasons order; without one it only says so.
+void inputReasons(MainWindow& window);
+void inputQuestions(MainWindow& window);
