@@ -24,9 +24,11 @@ void empty(Dialog& dialog, std::initializer_list<ControlId> fields) {
   for (const ControlId field : fields) dialog.setText(field, "");
 }
 
-// Shows why a press is refused and goes to where that can be put right.
-void refuse(Dialog& dialog, const std::string& message, ControlId place) {
+// Shows why a press is refused, empties fields and goes to where that can be put right.
+void refuse(Dialog& dialog, const std::string& message, std::initializer_list<ControlId> fields,
+            ControlId place) {
   dialog.show(message, "Warning");
+  empty(dialog, fields);
   dialog.focus(place);
 }
 
@@ -66,21 +68,20 @@ struct Entry {
 bool readScores(Dialog& dialog, Entry& entry) {
   entry.reasons = typedNumber(dialog.text(kReasonsField));
   if (!isInRange(entry.reasons)) {
-    empty(dialog, {kReasonsField});
-    refuse(dialog, "Error:  Reasons score must be between 0 and 50.", kReasonsField);
+    refuse(dialog, "Error:  Reasons score must be between 0 and 50.", {kReasonsField},
+           kReasonsField);
     return false;
   }
   entry.questions = typedNumber(dialog.text(kQuestionsField));
   if (!isInRange(entry.questions)) {
-    empty(dialog, {kQuestionsField});
-    refuse(dialog, "Error:  Questions score must be between 0 and 50.", kQuestionsField);
+    refuse(dialog, "Error:  Questions score must be between 0 and 50.", {kQuestionsField},
+           kQuestionsField);
     return false;
   }
   entry.letter = dialog.text(kLetterField);
   if (const auto error = letterError(entry.letter)) {
     // The reasons score deliberately goes too.
-    empty(dialog, {kLetterField, kReasonsField});
-    refuse(dialog, *error, kLetterField);
+    refuse(dialog, *error, {kLetterField, kReasonsField}, kLetterField);
     return false;
   }
   return true;
@@ -90,19 +91,19 @@ bool readScores(Dialog& dialog, Entry& entry) {
 bool readPlace(Dialog& dialog, Entry& entry) {
   const std::optional<int> line = dialog.selection(kEntryClassList);
   if (!line) {
-    refuse(dialog, "Error:  no class selected.", kEntryClassList);
+    refuse(dialog, "Error:  no class selected.", {}, kEntryClassList);
     return false;
   }
   entry.classIndex = *line;
   const std::optional<std::int64_t> typed = typedNumber(dialog.text(kNumberField));
   if (!typed) {
-    refuse(dialog, "Error:  no member number entered.", kNumberField);
+    refuse(dialog, "Error:  no member number entered.", {}, kNumberField);
     return false;
   }
   const auto number = existing(currentContest(), *typed);
   if (!number) {
-    empty(dialog, {kNumberField, kLetterField, kReasonsField, kQuestionsField});
-    refuse(dialog, kNoSuchContestant, kNumberField);
+    refuse(dialog, kNoSuchContestant, {kNumberField, kLetterField, kReasonsField, kQuestionsField},
+           kNumberField);
     return false;
   }
   entry.number = *number;
@@ -131,13 +132,12 @@ void lookUp(Dialog& dialog) {
   const std::int64_t typed = typedNumber(dialog.text(kNumberField)).value_or(0);
   const auto number = existing(currentContest(), typed);
   if (!number) {
-    empty(dialog, {kNumberField});
-    refuse(dialog, kNoSuchContestant, kNumberField);
+    refuse(dialog, kNoSuchContestant, {kNumberField}, kNumberField);
     return;
   }
   const std::optional<int> line = dialog.selection(kEntryClassList);
   if (!line) {
-    refuse(dialog, "Error:  A class must be selected.", kEntryClassList);
+    refuse(dialog, "Error:  A class must be selected.", {}, kEntryClassList);
     return;
   }
   showLastScore(dialog, *number, *line);

