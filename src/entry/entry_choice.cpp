@@ -9,6 +9,7 @@
 std::vector<std::string> classLines(const JudgingClasses& classes,
                                     const std::vector<std::int32_t>& indexes) {
   std::vector<std::string> lines;
+  lines.reserve(indexes.size());
   for (const std::int32_t index : indexes) {
     lines.push_back(formatText("%2d.  %s", index + 1, classes.name(index).c_str()));
   }

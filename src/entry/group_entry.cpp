@@ -11,6 +11,7 @@ constexpr std::size_t kLetterColumn = 3;
 
 std::vector<std::string> groupLines(const std::vector<char>& letters) {
   std::vector<std::string> lines;
+  lines.reserve(letters.size());
   for (const char letter : letters) lines.push_back(formatText("   %c   ", letter));
   return lines;
 }
