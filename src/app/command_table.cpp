@@ -11,6 +11,7 @@
 #include "app/setup_commands.h"
 #include "app/shown_report.h"
 #include "app/window_commands.h"
+#include "output/save_report.h"
 #include "reports/class_reports.h"
 #include "reports/letter_report.h"
 #include "reports/roster_reports.h"
@@ -38,6 +39,10 @@ void printReport(MainWindow& window) {
   window.refreshReportView();
 }
 
+void saveReportToFile(MainWindow& window) {
+  saveReport(window, systemFiles());
+}
+
 constexpr std::array kCommands = {
     Command{32771, "File", "New Contest", newContestCommand},
     Command{32772, "File", "Open Contest", openContestCommand},
@@ -45,7 +50,7 @@ constexpr std::array kCommands = {
     Command{32774, "File", "Save Contest As", saveContestAsCommand},
     Command{32805, "File", "Print", printReport<false>},
     Command{32811, "File", "Print Small Font", printReport<true>},
-    Command{32832, "File", "Save Report To File"},
+    Command{32832, "File", "Save Report To File", saveReportToFile},
     Command{105, "File", "Exit", exitCommand},
 
     Command{32777, "Edit", "Copy", copyReportCommand},

@@ -8,6 +8,7 @@
 #include "entry/questions_dialog.h"
 #include "entry/reasons_dialog.h"
 #include "tests/entry/entry_fixture.h"
+#include "tests/support/temporary_folder.h"
 
 namespace {
 
@@ -37,7 +38,8 @@ constexpr std::array kDialogs = {
 using AllEntryDialogs = EntryTest;
 
 TEST_F(AllEntryDialogs, SaveAContestThatHasAFileUnlessCancelled) {
-  const std::string path = testing::TempDir() + "closed_entry.scv";
+  const TemporaryFolder folder;
+  const std::string path = folder.file("fair.scv");
   enum Way { done, ok, escape, closeBox };
   for (const EntryDialog& entry : kDialogs) {
     for (const Way way : {done, ok, escape, closeBox}) {
