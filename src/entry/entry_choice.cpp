@@ -1,33 +1,10 @@
 #include "entry/entry_choice.h"
 
-#include <numeric>
 #include <utility>
 
+#include "model/class_lists.h"
 #include "storage/contest_commands.h"
 #include "text/format.h"
-
-std::vector<std::string> classLines(const JudgingClasses& classes,
-                                    const std::vector<std::int32_t>& indexes) {
-  std::vector<std::string> lines;
-  lines.reserve(indexes.size());
-  for (const std::int32_t index : indexes) {
-    lines.push_back(formatText("%2d.  %s", index + 1, classes.name(index).c_str()));
-  }
-  return lines;
-}
-
-std::vector<std::int32_t> allClasses(const JudgingClasses& classes) {
-  std::vector<std::int32_t> indexes(static_cast<std::size_t>(classes.count()));
-  std::iota(indexes.begin(), indexes.end(), 0);
-  return indexes;
-}
-
-std::vector<std::int32_t> classesWith(const JudgingClasses& classes,
-                                      bool (JudgingClasses::*carries)(std::int32_t) const) {
-  std::vector<std::int32_t> indexes = allClasses(classes);
-  std::erase_if(indexes, [&](std::int32_t index) { return !(classes.*carries)(index); });
-  return indexes;
-}
 
 void EntryChoice::open(Dialog& dialog, const JudgingClasses& classes,
                        std::vector<std::int32_t> listed,

@@ -17,18 +17,6 @@ inline constexpr ControlId kEntryGroupList = 1053;
 inline constexpr ControlId kEntryScoreButton = 1004;
 inline constexpr ControlId kEntryDoneButton = 1003;
 
-/// The lines of class lists: each class's number, counted from 1 among all classes, and its name.
-[[nodiscard]] std::vector<std::string> classLines(const JudgingClasses& classes,
-                                                  const std::vector<std::int32_t>& indexes);
-
-/// Indexes (from 0) of the classes that carry something, in contest order.
-[[nodiscard]] std::vector<std::int32_t> classesWith(const JudgingClasses& classes,
-                                                    bool (JudgingClasses::*carries)(std::int32_t)
-                                                        const);
-
-/// Indexes of all classes.
-[[nodiscard]] std::vector<std::int32_t> allClasses(const JudgingClasses& classes);
-
 /// The class, the group and the contestant that scores are being entered for; none at first.
 class EntryChoice {
  public:

@@ -9,6 +9,7 @@
 #include "entry/score_card.h"
 #include "entry/typed_letter.h"
 #include "entry/typed_number.h"
+#include "model/class_lists.h"
 
 namespace {
 

@@ -2,6 +2,7 @@
 
 #include "entry/last_score.h"
 #include "entry/typed_letter.h"
+#include "model/class_lists.h"
 
 namespace {
 

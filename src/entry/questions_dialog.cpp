@@ -2,6 +2,7 @@
 
 #include "entry/last_score.h"
 #include "entry/score_card.h"
+#include "model/class_lists.h"
 
 namespace {
 
@@ -13,8 +14,7 @@ constexpr ScoreCard kCard = {"Questions", 1056, &ScoreRecord::questionsScore,
 QuestionsDialog::QuestionsDialog() : entry_({"questions", kCard.score, kCard.field}) {}
 
 void QuestionsDialog::opened(Dialog& dialog) {
-  const JudgingClasses& classes = currentContest().classes;
-  entry_.open(dialog, classesWith(classes, &JudgingClasses::hasQuestions));
+  entry_.open(dialog, questionsClasses(currentContest().classes));
 }
 
 void QuestionsDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {

@@ -4,6 +4,7 @@
 
 #include "entry/last_score.h"
 #include "entry/score_card.h"
+#include "model/class_lists.h"
 #include "text/format.h"
 
 namespace {
@@ -37,7 +38,7 @@ EnteredCount countReasonsEntered(const Contest& contest, std::int32_t reasonsGro
 
 void ReasonsDialog::opened(Dialog& dialog) {
   const Contest& contest = currentContest();
-  choice_.open(dialog, contest.classes, classesWith(contest.classes, &JudgingClasses::hasReasons),
+  choice_.open(dialog, contest.classes, reasonsClasses(contest.classes),
                reasonsGroupLines(contest.reasonsOrder.columnCount()));
   dialog.focus(kCard.field);
 }

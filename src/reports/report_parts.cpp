@@ -5,15 +5,6 @@
 
 namespace {
 
-template <typename Condition>
-std::vector<std::int32_t> classesWith(const JudgingClasses& classes, Condition condition) {
-  std::vector<std::int32_t> found;
-  for (std::int32_t k = 0; k < classes.count(); ++k) {
-    if (condition(k)) found.push_back(k);
-  }
-  return found;
-}
-
 const ClassScores kNoScores;
 
 }  // namespace
@@ -22,14 +13,6 @@ const char* kindTag(const JudgingClasses& classes, std::int32_t classIndex) {
   const bool questions = classes.hasQuestions(classIndex);
   if (classes.hasReasons(classIndex)) return questions ? " (Rsn/Qst) " : " (Reasons) ";
   return questions ? "(Questions)" : "           ";
-}
-
-std::vector<std::int32_t> allClasses(const JudgingClasses& classes) {
-  return classesWith(classes, [](std::int32_t) { return true; });
-}
-
-std::vector<std::int32_t> questionsClasses(const JudgingClasses& classes) {
-  return classesWith(classes, [&](std::int32_t k) { return classes.hasQuestions(k); });
 }
 
 std::string makeRule(const JudgingClasses& classes, std::size_t fixedPart, std::size_t perClass) {

@@ -6,16 +6,12 @@
 #include <string_view>
 #include <vector>
 
+#include "model/class_lists.h"
 #include "model/contest.h"
-#include "model/reasons_classes.h"
 #include "view/report_text.h"
 
 /// The kind of a class in eleven characters: " (Reasons) ", " (Rsn/Qst) ", "(Questions)" or blank.
 [[nodiscard]] const char* kindTag(const JudgingClasses& classes, std::int32_t classIndex);
-
-/// The indexes of the classes that a grid has columns for, ascending.
-[[nodiscard]] std::vector<std::int32_t> allClasses(const JudgingClasses& classes);
-[[nodiscard]] std::vector<std::int32_t> questionsClasses(const JudgingClasses& classes);
 
 /// A line of fixedPart + perClass * (number of all classes) hyphens.
 [[nodiscard]] std::string makeRule(const JudgingClasses& classes, std::size_t fixedPart,

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "model/class_lists.h"
 #include "reports/round_reports.h"
 #include "text/format.h"
 #include "view/report_text.h"
@@ -14,15 +15,13 @@ void RoundVerificationDialog::opened(Dialog& dialog) {
   rotation_ = roundGroups(contest);
   std::vector<std::string> rounds;
   std::vector<std::string> groups;
-  std::vector<std::string> classes;
   for (std::int32_t k = 0; k < contest.classes.count(); ++k) {
     rounds.push_back(formatText("%10d", k + 1));
-    classes.push_back(formatText("%2d.  %s", k + 1, contest.classes.name(k).c_str()));
   }
   for (const char letter : contest.groupLetters) groups.push_back(formatText("%8c", letter));
   dialog.setLines(kRounds, rounds);
   dialog.setLines(kGroups, groups);
-  dialog.setLines(kClasses, classes);
+  dialog.setLines(kClasses, classLines(contest.classes, allClasses(contest.classes)));
 }
 
 void RoundVerificationDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {

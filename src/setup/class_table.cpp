@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <vector>
 
+#include "model/class_lists.h"
 #include "setup/setup_classes_controls.h"
 #include "text/format.h"
 
@@ -23,7 +24,7 @@ std::array<std::string, 5> classLines(const Contest& contest, std::int32_t index
   const PlacingLetter official = classes.official(index);
   const auto order = orderOfLetter(official);
   const Cuts cuts = classes.cuts(index);
-  return {formatText("%2d.  %s", index + 1, classes.name(index).c_str()),
+  return {classLine(classes, index),
           flagsLine(classes.hasReasons(index), classes.hasQuestions(index)),
           formatText("   %c (%d,%d,%d,%d)", official, order[0], order[1], order[2], order[3]),
           formatText("  (%d,%d,%d)", cuts.cut1, cuts.cut2, cuts.cut3),

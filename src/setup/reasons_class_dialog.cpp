@@ -1,18 +1,12 @@
 #include "setup/reasons_class_dialog.h"
 
 #include <cstddef>
-#include <string>
 
-#include "model/reasons_classes.h"
-#include "text/format.h"
+#include "model/class_lists.h"
 
 void ReasonsClassDialog::opened(Dialog& dialog) {
   offered_ = reasonsClasses(contest_.classes);
-  std::vector<std::string> lines;
-  for (const std::int32_t k : offered_) {
-    lines.push_back(formatText("%2d.  %s", k + 1, contest_.classes.name(k).c_str()));
-  }
-  dialog.setLines(kClasses, lines);
+  dialog.setLines(kClasses, classLines(contest_.classes, offered_));
 }
 
 void ReasonsClassDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {

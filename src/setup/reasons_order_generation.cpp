@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "model/reasons_classes.h"
+#include "model/class_lists.h"
 #include "setup/reasons_compaction.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "model/reasons_classes.h"
+#include "model/class_lists.h"
 #include "setup/reasons_bands.h"
 #include "text/format.h"
 #include "view/report_text.h"

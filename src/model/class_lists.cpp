@@ -1,0 +1,40 @@
+#include "model/class_lists.h"
+
+#include "text/format.h"
+
+namespace {
+
+template <typename Condition>
+std::vector<std::int32_t> classesWith(const JudgingClasses& classes, Condition condition) {
+  std::vector<std::int32_t> indexes;
+  for (std::int32_t k = 0; k < classes.count(); ++k) {
+    if (condition(k)) indexes.push_back(k);
+  }
+  return indexes;
+}
+
+}  // namespace
+
+std::vector<std::int32_t> allClasses(const JudgingClasses& classes) {
+  return classesWith(classes, [](std::int32_t) { return true; });
+}
+
+std::vector<std::int32_t> reasonsClasses(const JudgingClasses& classes) {
+  return classesWith(classes, [&](std::int32_t k) { return classes.hasReasons(k); });
+}
+
+std::vector<std::int32_t> questionsClasses(const JudgingClasses& classes) {
+  return classesWith(classes, [&](std::int32_t k) { return classes.hasQuestions(k); });
+}
+
+std::string classLine(const JudgingClasses& classes, std::int32_t index) {
+  return formatText("%2d.  %s", index + 1, classes.name(index).c_str());
+}
+
+std::vector<std::string> classLines(const JudgingClasses& classes,
+                                    const std::vector<std::int32_t>& indexes) {
+  std::vector<std::string> lines;
+  lines.reserve(indexes.size());
+  for (const std::int32_t index : indexes) lines.push_back(classLine(classes, index));
+  return lines;
+}

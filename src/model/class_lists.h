@@ -1,0 +1,20 @@
+// Which classes there are, and the lines that lists show them in.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "model/contest.h"
+
+/// Indexes (from 0, ascending) of all classes, of those with reasons and of those with questions.
+[[nodiscard]] std::vector<std::int32_t> allClasses(const JudgingClasses& classes);
+[[nodiscard]] std::vector<std::int32_t> reasonsClasses(const JudgingClasses& classes);
+[[nodiscard]] std::vector<std::int32_t> questionsClasses(const JudgingClasses& classes);
+
+/// A class as lists show it: its number, counted from 1 among all classes, and its name.
+[[nodiscard]] std::string classLine(const JudgingClasses& classes, std::int32_t index);
+
+/// The lines of several classes.
+[[nodiscard]] std::vector<std::string> classLines(const JudgingClasses& classes,
+                                                  const std::vector<std::int32_t>& indexes);
