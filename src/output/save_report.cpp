@@ -1,17 +1,8 @@
 #include "output/save_report.h"
 
 #include "storage/safe_save.h"
+#include "text/line_ends.h"
 #include "view/report_text.h"
-
-std::string withWindowsLineEnds(std::string_view text) {
-  std::string converted;
-  converted.reserve(text.size() + text.size() / 32);
-  for (const char c : text) {
-    if (c == '\n') converted += '\r';
-    converted += c;
-  }
-  return converted;
-}
 
 void saveReport(Window& owner, FileSystem& files) {
   FileQuestion question;
