@@ -39,7 +39,7 @@ std::optional<std::int32_t> readRecordCount(LineScanner& lines) {
 /// Room worth making for `count` promised lines: no more than the rest of the file can hold.
 std::size_t plausibleCount(const LineScanner& lines, std::int32_t count) {
   constexpr std::size_t kShortestUsualLine = 8;
-  return std::min(static_cast<std::size_t>(count), lines.remaining() / kShortestUsualLine);
+  return std::min(static_cast<std::size_t>(count), lines.rest().size() / kShortestUsualLine);
 }
 
 Cuts parseCuts(std::string_view field) {

@@ -167,17 +167,35 @@ void appendTeams(std::string& out, const Contest& contest) {
   }
 }
 
-void appendScore(std::string& out, ContestantNumber number, std::int32_t classIndex,
-                 const ScoreRecord& record) {
-  appendNumber(out, number);
-  appendField(out, classIndex);
-  out += '\t';
-  out += record.letter;
-  appendField(out, record.placingScore);
-  appendField(out, record.reasonsScore);
-  appendField(out, record.questionsScore);
-  out += kLineEnd;
-}
+/// Puts a score line together in one piece; they make up nearly all of a large file.
+class ScoreLine {
+ public:
+  std::string_view make(ContestantNumber number, std::int32_t classIndex,
+                        const ScoreRecord& record) {
+    end_ = text_.data();
+    put(number);
+    putField(classIndex);
+    *end_++ = '\t';
+    *end_++ = record.letter;
+    putField(record.placingScore);
+    putField(record.reasonsScore);
+    putField(record.questionsScore);
+    end_ = std::copy(kLineEnd.begin(), kLineEnd.end(), end_);
+    return {text_.data(), static_cast<std::size_t>(end_ - text_.data())};
+  }
+
+ private:
+  void put(std::int32_t number) {
+    end_ = std::to_chars(end_, text_.data() + text_.size(), number).ptr;
+  }
+  void putField(std::int32_t number) {
+    *end_++ = '\t';
+    put(number);
+  }
+
+  std::array<char, 80> text_{};  // five numbers of at most 11 characters, a letter, TABs, CR LF
+  char* end_ = nullptr;
+};
 
 void appendScores(std::string& out, const Contest& contest) {
   const std::int32_t classCount = contest.classes.count();
@@ -185,13 +203,14 @@ void appendScores(std::string& out, const Contest& contest) {
       out, kScoresMarker,
       std::int64_t{classCount} * static_cast<std::int64_t>(contest.contestantNames.size()));
   static const ClassScores noScores;
+  ScoreLine line;
   for (const auto& entry : contest.contestantNames) {
     const ClassScores* known = contest.scores.find(entry.first);
     const ClassScores& records = known == nullptr ? noScores : *known;
     auto record = records.lowerBound(0);
     for (std::int32_t k = 0; k < classCount; ++k) {
       const bool entered = record != records.end() && record->first == k;
-      appendScore(out, entry.first, k, entered ? record->second : ScoreRecord{});
+      out += line.make(entry.first, k, entered ? record->second : ScoreRecord{});
       if (entered) ++record;
     }
   }

@@ -27,8 +27,10 @@ class LineScanner {
     return line && !line->empty() ? line : std::nullopt;
   }
 
-  /// Bytes not read yet: an upper bound for what counts in the file can still promise.
-  [[nodiscard]] std::size_t remaining() const { return bytes_.size() - position_; }
+  /// The bytes not read yet: no count in the file can promise more records than that.
+  [[nodiscard]] std::string_view rest() const { return bytes_.substr(position_); }
+  /// Passes over bytes of the rest that the caller took itself.
+  void skip(std::size_t count) { position_ += count; }
 
  private:
   [[nodiscard]] std::optional<std::string_view> nextPiecewise();
