@@ -11,6 +11,11 @@ if(SCORVANE_SANITIZE)
   target_compile_options(scorvane_settings INTERFACE ${sanitizers})
   target_link_options(scorvane_settings INTERFACE ${sanitizers})
 endif()
+if(SCORVANE_FUZZ)
+  # Lets the fuzzer see which branches its inputs reach.
+  target_compile_options(scorvane_settings INTERFACE -fsanitize=fuzzer-no-link)
+  target_link_options(scorvane_settings INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 if(WIN32)
   # Statically linked: the program ships without a DLL of its own.
   target_link_options(scorvane_settings INTERFACE -static)

@@ -142,6 +142,8 @@ TEST(ContestReader, RefusesWhatIsNoContest) {
                 kNotAContest},
            Case{"~~~~~Teams~~~~~\r\n1", "~~~~~Teams~~~~~\r\n-1", kNotAContest},
            Case{"totalNumPerTeam:\t3", "totalNumPerTeam:\t2147483647", kNotAContest},
+           Case{"totalNumPerTeam:\t3", "totalNumPerTeam:\t1500", kRead},
+           Case{"totalNumPerTeam:\t3", "totalNumPerTeam:\t1501", kNotAContest},
            Case{"totalNumPerTeam:\t3", "totalNumPerTeam:\t-3", kRead},
            Case{"numReasonsGroups:\t2", "numReasonsGroups:\t2147483647", kRead},
            Case{"numGroups:\t3", "numGroups:\t0", kRead},
@@ -149,6 +151,14 @@ TEST(ContestReader, RefusesWhatIsNoContest) {
        }) {
     EXPECT_EQ(faultWith(from, to), fault) << from << " -> " << to;
   }
+}
+
+// Nothing is wrong with a number of slots, however large, that no team has been given yet.
+TEST(ContestReader, BelievesTeamSizesWithoutTeams) {
+  const std::string bytes =
+      replaced(replaced(smallFile(), "totalNumPerTeam:\t3", "totalNumPerTeam:\t2147483647"),
+               "Teams~~~~~\r\n1\r\nClover\t \t101\t102\t103", "Teams~~~~~\r\n0");
+  EXPECT_EQ(read(bytes).settings.totalNumPerTeam, 2147483647);
 }
 
 // Cut off anywhere, a file is refused, or only its trailer was lost.
