@@ -69,11 +69,12 @@ class WrittenScoreLine {
     if (negative) ++at_;
     const char* first = at_;
     std::uint32_t value = 0;
-    while (*at_ >= '0' && *at_ <= '9' && at_ - first <= kSafeDigits) {
+    while (*at_ >= '0' && *at_ <= '9' && at_ - first < kSafeDigits) {
       value = value * 10 + static_cast<std::uint32_t>(*at_++ - '0');
     }
     number = negative ? -static_cast<std::int32_t>(value) : static_cast<std::int32_t>(value);
-    return at_ > first && at_ - first <= kSafeDigits;
+    // Of a longer number a digit is left where the field should end, and the line is not taken.
+    return at_ > first;
   }
 
   const char* at_;

@@ -105,6 +105,8 @@ TEST(ContestReader, ReadsLinesThatLackFields) {
   EXPECT_EQ(recordOf("101\t0\t\t5"), ScoreRecord{});
   EXPECT_EQ(recordOf("101\t0\tBad\t41"), (ScoreRecord{'B', 41, 0, 0}));
   EXPECT_EQ(recordOf("101\t0\tB\tx\t 7\t-3z"), (ScoreRecord{'B', 0, 7, -3}));
+  EXPECT_EQ(recordOf("101\t0\tB\t-2147483648\t4294967298\t123456789"),
+            (ScoreRecord{'B', INT32_MIN, INT32_MAX, 123456789}));
 
   const Contest shortTeam = read(replaced(smallFile(), "\t102\t103\r\n", "\r\n"));
   EXPECT_EQ(shortTeam.teams.at("Clover").members, (std::vector<ContestantNumber>{101, 0, 0}));
