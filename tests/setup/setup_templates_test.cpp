@@ -1,8 +1,6 @@
 // The templates of the setup dialogs: what each control is, and what stands beside it.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <set>
 #include <string>
 
 #include "tests/support/approved.h"
@@ -43,20 +41,6 @@ TEST(SetupTemplates, HoldTheControlsTheDialogsWorkWith) {
     text += outline(*dialog) + "\n";
   }
   expectApproved(text, "setup/setup_templates.txt");
-}
-
-TEST(SetupTemplates, HaveAMnemonicOnceOnly) {
-  for (const int id : {134, 135, 136, 163}) {
-    std::multiset<char> mnemonics;
-    for (const TemplateControl& control : findDialogTemplate(id)->controls) {
-      const std::size_t mark = control.caption.find('&');
-      if (mark == std::string::npos) continue;
-      mnemonics.insert(
-          static_cast<char>(std::toupper(static_cast<unsigned char>(control.caption[mark + 1]))));
-    }
-    EXPECT_GT(mnemonics.size(), 3U);
-    for (const char letter : mnemonics) EXPECT_EQ(mnemonics.count(letter), 1U) << id << letter;
-  }
 }
 
 }  // namespace
