@@ -19,6 +19,7 @@
 #include "reports/team_score_reports.h"
 #include "reports/zero_reports.h"
 #include "results/tie_breaker_report.h"
+#include "results/total_summary_report.h"
 
 namespace {
 
@@ -94,7 +95,7 @@ constexpr std::array kCommands = {
             highTeam<ScoreKind::questions>},
     Command{32800, "Results Reports", "Custom/Category Report", runCustomReport,
             customReportAskedFor, ReportQuestion::custom},
-    Command{32810, "Results Reports", "Total Summary Report"},
+    Command{32810, "Results Reports", "Total Summary Report", nullptr, plain<totalSummaryReport>},
 
     Command{32862, "Verification Reports", "Round Verification Report", runRoundVerification,
             roundVerification, ReportQuestion::round},

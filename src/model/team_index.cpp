@@ -15,6 +15,11 @@ TeamIndex::TeamIndex(const Contest& contest)
 
 const std::string& TeamIndex::teamOf(ContestantNumber number) const {
   static const std::string none;
+  const std::string* team = find(number);
+  return team == nullptr ? none : *team;
+}
+
+const std::string* TeamIndex::find(ContestantNumber number) const {
   const std::size_t position = contest_.contestantNames.positionOf(number);
-  return position == teams_.size() || teams_[position] == nullptr ? none : *teams_[position];
+  return position == teams_.size() ? nullptr : teams_[position];
 }

@@ -15,7 +15,12 @@ class TeamIndex {
   /// name order when there are several, "" when there is none or the contestant does not exist.
   [[nodiscard]] const std::string& teamOf(ContestantNumber number) const;
 
+  /// Whether some team has the number; false when the contestant does not exist.
+  [[nodiscard]] bool hasTeam(ContestantNumber number) const { return find(number) != nullptr; }
+
  private:
+  [[nodiscard]] const std::string* find(ContestantNumber number) const;
+
   const Contest& contest_;
   std::vector<const std::string*> teams_;  ///< by position in contestantNames, null without a team
 };

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/approved.h"
 #include "tests/support/contest_builder.h"
 
 namespace {
@@ -123,6 +124,16 @@ TEST(HighIndividualReport, NamesNoTeamForContestantsWithoutOne) {
                         "  0       0     50\n"),
             std::string::npos)
       << report;
+}
+
+TEST(HighIndividualReport, OfTheCountySampleIsAsApproved) {
+  const Contest contest = contestOfFile("samples/county.scv");
+  HighReportRequest beef = wholeContestRequest(contest, ScoreKind::overall);
+  beef.classes = {0, 3, 6};
+  beef.title = "Beef";
+  expectApproved(highIndividualReport(contest, wholeContestRequest(contest, ScoreKind::overall)) +
+                     highIndividualReport(contest, beef),
+                 "results/county_high_individuals.txt");
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/approved.h"
 #include "tests/support/contest_builder.h"
 
 namespace {
@@ -88,6 +89,12 @@ TEST(HighTeamReport, ShowsEveryTieBreakerWhenNobodyCounts) {
   const std::string category =
       teamRowsOf(highTeamReport(builder.contest, overClasses(ScoreKind::overall, {})));
   EXPECT_NE(category.find("(   0)     0       0      0      0\n"), std::string::npos) << category;
+}
+
+TEST(HighTeamReport, OfTheCountySampleIsAsApproved) {
+  const Contest contest = contestOfFile("samples/county.scv");
+  expectApproved(highTeamReport(contest, wholeContestRequest(contest, ScoreKind::overall)),
+                 "results/county_high_team_overall.txt");
 }
 
 }  // namespace

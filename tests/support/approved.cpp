@@ -6,6 +6,9 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <variant>
+
+#include "storage/contest_reader.h"
 
 namespace {
 
@@ -46,4 +49,13 @@ void expectApproved(std::string_view report, const std::string& name) {
   const std::string approved((std::istreambuf_iterator<char>(file)), {});
   const std::string difference = firstDifference(approved, report);
   EXPECT_TRUE(difference.empty()) << name << ", " << difference;
+}
+
+Contest contestOfFile(const std::string& name) {
+  std::ifstream file(SOURCE_DIR "/" + name, std::ios::binary);
+  const std::string bytes((std::istreambuf_iterator<char>(file)), {});
+  auto reading = readContest(bytes);
+  if (auto* contest = std::get_if<Contest>(&reading)) return std::move(*contest);
+  ADD_FAILURE() << "no contest in " << name;
+  return {};
 }

@@ -1,0 +1,182 @@
+#include "results/total_summary_layout.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstring>
+#include <numeric>
+#include <utility>
+
+#include "text/format.h"
+
+namespace {
+
+constexpr std::string_view kBar = " | ";
+constexpr std::size_t kLongestTitle = 16;
+constexpr std::size_t kLeastNumberWidth = 5;
+constexpr std::size_t kNameWidth = 21;  // with the blank before it
+
+class Digits {
+ public:
+  explicit Digits(std::int32_t value)
+      : end_(std::to_chars(text_.data(), text_.data() + text_.size(), value).ptr) {}
+  [[nodiscard]] std::string_view text() const {
+    return {text_.data(), static_cast<std::size_t>(end_ - text_.data())};
+  }
+
+ private:
+  std::array<char, 12> text_{};
+  const char* end_;
+};
+
+void appendRight(std::string& out, std::string_view text, std::size_t width) {
+  if (text.size() < width) out.append(width - text.size(), ' ');
+  out += text;
+}
+
+std::size_t widestOf(std::int32_t least, std::int32_t most) {
+  return std::max(Digits(least).text().size(), Digits(most).text().size());
+}
+
+// Each column's widest number, or its heading if that is wider.
+std::vector<std::size_t> columnWidthsOf(const SummaryTable& table) {
+  const std::size_t count = table.columns().count();
+  std::vector<std::pair<std::int32_t, std::int32_t>> extremes(count);
+  const auto measure = [&](std::size_t firstCell) {
+    const auto cells = table.cells(firstCell);
+    for (std::size_t column = 0; column < count; ++column) {
+      auto& [least, most] = extremes[column];
+      least = std::min(least, cells[column]);
+      most = std::max(most, cells[column]);
+    }
+  };
+  for (const SummaryRow& row : table.rows()) measure(row.firstCell);
+  for (const SummaryTeam& team : table.teams()) {
+    if (team.coach != nullptr) measure(team.firstTotal);
+  }
+  std::vector<std::size_t> widths;
+  widths.reserve(count);
+  for (const SummaryBlock& block : table.columns().blocks()) {
+    for (const char* heading : block.headings) {
+      const auto& [least, most] = extremes[widths.size()];
+      widths.push_back(std::max(std::strlen(heading), widestOf(least, most)));
+    }
+  }
+  return widths;
+}
+
+std::size_t numberWidthOf(const SummaryTable& table) {
+  std::size_t width = kLeastNumberWidth;
+  for (const SummaryRow& row : table.rows()) {
+    width = std::max(width, Digits(row.number).text().size());
+  }
+  return width;
+}
+
+bool isClass(const SummaryBlock& block) {
+  return block.kind == SummaryBlock::Kind::judgingClass;
+}
+
+}  // namespace
+
+SummaryLayout::SummaryLayout(const SummaryTable& table) {
+  const std::size_t numberWidth = numberWidthOf(table);
+  numberWidth_ = static_cast<int>(numberWidth);
+  prefixWidth_ = numberWidth + kNameWidth;
+  const std::vector<std::size_t> widths = columnWidthsOf(table);
+  std::vector<PlacedBlock> blocks;
+  for (const SummaryBlock& content : table.columns().blocks()) {
+    PlacedBlock block;
+    block.content = &content;
+    block.width = content.headings.size() - 1;  // blanks between the columns
+    for (std::size_t column = 0; column < content.headings.size(); ++column) {
+      block.columnWidths.push_back(widths[content.firstColumn + column]);
+      block.width += block.columnWidths.back();
+    }
+    const std::size_t titleWidth = std::min(content.title.size(), kLongestTitle);
+    block.padding = titleWidth > block.width ? titleWidth - block.width : 0;
+    block.width += block.padding;
+    blocks.push_back(std::move(block));
+  }
+  makeBands(std::move(blocks));
+  for (Band& band : bands_) band.heading = makeHeading(band);
+}
+
+void SummaryLayout::makeBands(std::vector<PlacedBlock> blocks) {
+  const auto widthUpTo = [&](auto first, auto last) {
+    return std::accumulate(first, last, std::size_t{0}, [](std::size_t sum, const PlacedBlock& b) {
+      return sum + kBar.size() + b.width;
+    });
+  };
+  const auto totals = std::find_if(blocks.begin(), blocks.end(),
+                                   [](const PlacedBlock& b) { return !isClass(*b.content); });
+  const std::size_t totalsWidth = widthUpTo(totals, blocks.end());
+  std::size_t lineWidth = kWidestSummaryLine;
+  for (auto block = blocks.begin(); block != blocks.end(); ++block) {
+    // The totals begin in a band of their own when they do not all fit behind the classes.
+    const std::size_t needed = block == totals ? totalsWidth : kBar.size() + block->width;
+    if (bands_.empty() || lineWidth + needed > kWidestSummaryLine) {
+      bands_.emplace_back();
+      lineWidth = prefixWidth_;
+    }
+    lineWidth += kBar.size() + block->width;
+    bands_.back().blocks.push_back(std::move(*block));
+  }
+}
+
+bool SummaryLayout::hasClasses(std::size_t band) const {
+  return isClass(*bands_[band].blocks.front().content);  // classes come before all totals
+}
+
+std::string SummaryLayout::makeHeading(const Band& band) const {
+  std::string titles;
+  std::string headings(prefixWidth_, ' ');
+  appendRight(titles, isClass(*band.blocks.front().content) ? "Class" : "", prefixWidth_);
+  for (const PlacedBlock& block : band.blocks) {
+    const std::string_view title = std::string_view(block.content->title).substr(0, kLongestTitle);
+    titles += kBar;
+    // A class number stands over the placing scores.
+    const std::size_t left =
+        isClass(*block.content) ? block.padding + block.columnWidths.front() : title.size();
+    appendRight(titles, title, left);
+    titles.append(block.width - left, ' ');
+    headings.append(kBar).append(block.padding, ' ');
+    for (std::size_t column = 0; column < block.columnWidths.size(); ++column) {
+      if (column > 0) headings += ' ';
+      appendRight(headings, block.content->headings[column], block.columnWidths[column]);
+    }
+  }
+  const std::string rule(headings.size(), '-');
+  titles.erase(titles.find_last_not_of(' ') + 1);
+  return titles + "\n" + headings + "\n" + rule + "\n";
+}
+
+void SummaryLayout::appendMember(std::string& out, const SummaryRow& row) const {
+  if (row.isAlternate) {
+    appendFormat(out, "%*d %-16.16s alt", numberWidth_, row.number, row.name->c_str());
+  } else {
+    appendFormat(out, "%*d %-20.20s", numberWidth_, row.number, row.name->c_str());
+  }
+}
+
+void SummaryLayout::appendLabel(std::string& out, const char* label) const {
+  appendFormat(out, "%*s %-20.20s", numberWidth_, "", label);
+}
+
+void SummaryLayout::appendCells(std::string& out, std::size_t band,
+                                std::span<const std::int32_t> cells, Totals totals) const {
+  for (const PlacedBlock& block : bands_[band].blocks) {
+    out += kBar;
+    if (totals == Totals::blank && !isClass(*block.content)) {
+      out.append(block.width, ' ');
+      continue;
+    }
+    out.append(block.padding, ' ');
+    for (std::size_t column = 0; column < block.columnWidths.size(); ++column) {
+      if (column > 0) out += ' ';
+      appendRight(out, Digits(cells[block.content->firstColumn + column]).text(),
+                  block.columnWidths[column]);
+    }
+  }
+  out += '\n';
+}
