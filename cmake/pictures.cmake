@@ -24,12 +24,13 @@ endfunction()
 scorvane_icon(scorvane icon.svg 16 20 24 32 40 48 64 128 256)
 scorvane_icon(scorvane_small icon_small.svg 16 20 24 32)
 
-# Twice the size it is shown at on a display of 96 dots per inch.
+# Twice the size it is shown at on a display of 96 dots per inch. Not every Windows draws compressed
+# bitmaps.
 add_custom_command(
   OUTPUT ${pictures}/welcome.bmp DEPENDS ${drawings}/welcome.svg
   COMMAND ${RSVG_CONVERT} -w 1280 -h 800 -o ${pictures}/welcome.png ${drawings}/welcome.svg
   COMMAND ${IMAGEMAGICK_CONVERT} ${pictures}/welcome.png -alpha off +dither -colors 256 -type
-          palette BMP3:${pictures}/welcome.bmp)
+          palette -compress none BMP3:${pictures}/welcome.bmp)
 
 set(scorvane_pictures ${pictures}/scorvane.ico ${pictures}/scorvane_small.ico
     ${pictures}/welcome.bmp)

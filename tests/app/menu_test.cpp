@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <map>
 #include <regex>
@@ -91,4 +92,17 @@ TEST(Menu, AcceleratorsNameCommands) {
   }
   EXPECT_EQ(keys, (std::map<std::string, int>{{"?", 104}, {"/", 104}}));
   EXPECT_NE(findCommand(104), nullptr);
+}
+
+TEST(Program, CarriesEveryDialog) {
+  const std::filesystem::path source = std::string(SOURCE_DIR) + "/src";
+  const std::string script = fileText("scorvane.rc");
+  int dialogs = 0;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(source)) {
+    if (!entry.path().filename().string().ends_with("_dialog.rc")) continue;
+    ++dialogs;
+    const std::string name = entry.path().lexically_relative(source).generic_string();
+    EXPECT_NE(script.find("#include \"" + name + "\""), std::string::npos) << name;
+  }
+  EXPECT_GT(dialogs, 0);
 }
