@@ -1,0 +1,47 @@
+"""Saving through the Windows side of the file port: attributes, links, files in use, kills."""
+
+import random
+import subprocess
+import time
+import unittest
+
+import desktop
+
+
+class Files(desktop.DesktopTest):
+    PROGRAM = desktop.BUILD / "file_check.exe"
+
+    def test_saving_where_windows_is_peculiar(self):
+        done = self.desktop.wine(self.PROGRAM, desktop.windows_path(self.folder), check=False)
+        self.assertEqual(done.stdout.decode(), "")
+        self.assertEqual(done.returncode, 0)
+
+    def test_killed_saves_leave_a_whole_file(self):
+        wholes = {b"a" * 9000, b"b" * 300000}
+        path = self.folder / "contest.scv"
+        path.write_bytes(b"a" * 9000)
+        seen, spares = set(), 0
+        seed = random.randrange(1 << 30)
+        moments = random.Random(seed)
+        for kill in range(30):
+            before = path.stat()
+            saver = subprocess.Popen(
+                ["wine", self.PROGRAM, desktop.windows_path(self.folder), "save"],
+                env=self.desktop.environment, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                stderr=subprocess.DEVNULL)
+            desktop.wait_for(lambda: path.stat() != before, "the first save")
+            time.sleep(moments.uniform(0, 0.02))
+            saver.kill()
+            self.assertEqual(saver.wait(), -9, "it saved until it was killed")
+            content = path.read_bytes()
+            self.assertIn(content, wholes, f"kill {kill + 1} of seed {seed}")
+            seen.add(content)
+            for spare in self.folder.glob("*.tmp"):
+                spares += 1
+                spare.unlink()
+        self.assertEqual(seen, wholes)
+        self.assertGreater(spares, 0, "no kill met a save")
+
+
+if __name__ == "__main__":
+    unittest.main()
