@@ -1,0 +1,136 @@
+"""Types the cards of a contest into the real entry dialogs, with the keyboard alone, and reads what they save."""
+
+import os
+import unittest
+
+from desktop import IDNO, IDYES, VK, DesktopTest, wait_for
+
+LOOKUP, PLACINGS, REASONS, QUESTIONS = 32791, 32822, 32823, 32826
+NUMBER, LETTER, REASONS_SCORE, QUESTIONS_SCORE, CLASSES, GROUPS = 1054, 1027, 1028, 1056, 1016, 1053
+
+HEAD = (
+    "contestName:\tFair", "divisionName:\tJunior Division", "contestDate:\tMay 1", "startNum:\t101",
+    "numPerTeam:\t5", "numToScore:\t3", "reportPercent:\t0", "numToReport:\t20", "numGroups:\t2",
+    "totalNumPerTeam:\t5", "numReasonsGroups:\t1", "categories:\tBeef",
+    "~~~~~Classes~~~~~", "2",
+    "Steers\tNo\tYes\tA\t2,3,4\t0", "Ewes\tYes\tNo\tX\t5,5,5\t0",
+    "~~~~~Contestants~~~~~", "5",
+    "101\tAnn\t0\t1", "102\tBob\t-1\t-1", "103\tCy\t0\t0", "104\tDee\t-1\t-1", "105\tEve\t-1\t-1",
+    "~~~~~Teams~~~~~", "1", "Elm\tOak\t101\t102\t103\t104\t105",
+    "~~~~~Scores~~~~~", "10")
+TRAILER = ("0000-0000-0000-0000", "0000-0000-0000-0000")
+
+
+class Entry(DesktopTest):
+    def setUp(self):
+        super().setUp()
+        self.file = self.folder / "fair.scv"
+        self.records = {(n, k): " \t0\t0\t0" for n in range(101, 106) for k in (0, 1)}
+        self.file.write_bytes(self.content())
+        self.app = self.start(self.file)
+        self.main = self.app.main()
+
+    def content(self):
+        scores = (f"{n}\t{k}\t{record}" for (n, k), record in self.records.items())
+        return b"".join(line.encode() + b"\r\n" for line in (*HEAD, *scores, *TRAILER))
+
+    def open(self, command, title):
+        self.main.command(command)
+        return self.app.window(title)
+
+    def choose(self, dialog, class_line, group_line):
+        """Takes the first or last line of both lists; the focus returns to the score field by itself."""
+        self.go_to(dialog, "alt+c", CLASSES)
+        dialog.press("Home", *["End"] * class_line, "Tab", "Home")
+        if group_line:
+            self.go_to(dialog, "alt+g", GROUPS)
+            dialog.press("End")
+
+    def go_to(self, dialog, key, control):
+        self.desktop.keys(key)
+        wait_for(lambda: dialog.focused() == control, f"the focus in {control}")
+
+    def enter(self, dialog, field, *cards):
+        for number, typed in cards:
+            self.assertEqual((dialog.text(NUMBER), dialog.focused()), (number, field))
+            dialog.type(typed)
+            dialog.press("Return")
+        self.assertEqual((dialog.text(NUMBER), dialog.focused()), ("", field))
+        self.assertEqual(dialog.selection(CLASSES) + dialog.selection(GROUPS), [])
+
+    def escape(self, dialog):
+        dialog._tell("key", "virtual", VK["Escape"])
+        self.app.wait_closed(dialog)
+
+    def picture(self, name):
+        folder = os.environ.get("SCORVANE_PICTURES")
+        if folder:
+            self.desktop.screenshot(f"{folder}/{name}.png")
+
+    def test_cards_typed_by_group_are_in_the_file(self):
+        dialog = self.open(PLACINGS, "Input Placings Scores By Group")
+        self.assertEqual(dialog.focused(), LETTER)
+        self.choose(dialog, 0, 0)
+        dialog.type("b")
+        self.picture("placings")
+        self.enter(dialog, LETTER, ("101", ""), ("103", "Z"), ("105", "x"))
+        self.choose(dialog, 1, 1)
+        self.enter(dialog, LETTER, ("102", "x"), ("104", ""))
+        self.escape(dialog)
+        self.records.update({(101, 0): "B\t46\t0\t0", (103, 0): "Z\t0\t0\t0", (105, 0): "X\t20\t0\t0",
+                             (102, 1): "X\t50\t0\t0"})
+        self.assertEqual(self.file.read_bytes(), self.content())
+
+        dialog = self.open(REASONS, "Input Reasons Scores By Group")
+        self.assertEqual(dialog.lines(CLASSES), [" 2.  Ewes"])
+        self.choose(dialog, 0, 0)
+        self.picture("reasons")
+        self.enter(dialog, REASONS_SCORE, ("103", "41"), ("101", "50"))
+        dialog.close()
+        self.app.wait_closed(dialog)
+
+        dialog = self.open(QUESTIONS, "Input Questions Scores By Group")
+        self.choose(dialog, 0, 1)
+        dialog.type("a7")
+        self.picture("questions")
+        self.enter(dialog, QUESTIONS_SCORE, ("102", ""), ("104", "0"))
+        self.desktop.keys("alt+d")
+        self.app.wait_closed(dialog)
+        self.records.update({(103, 1): " \t0\t41\t0", (101, 1): " \t0\t50\t0", (102, 0): " \t0\t0\t7"})
+        self.assertEqual(self.file.read_bytes(), self.content())
+
+    def test_cancelled_corrections_stay_in_the_contest_but_not_in_the_file(self):
+        dialog = self.open(LOOKUP, "Lookup/Edit Individual Scores")
+        dialog.choose(CLASSES, 1)
+        self.assertEqual([dialog.is_enabled(f) for f in (REASONS_SCORE, QUESTIONS_SCORE)], [True, False])
+        dialog.type("104")
+        dialog.press("Tab")
+        dialog.type("x")
+        dialog.press("Return")
+        dialog.type("104")
+        self.assertEqual(dialog.text(1032), "X")
+        self.desktop.keys("alt+l")
+        wait_for(lambda: dialog.default_button() == 1004 and dialog.focused() == 1026, "the look-up")
+        self.picture("lookup")
+        self.assertEqual([dialog.text(i) for i in (1031, 1032, 1033, 1034, 1030, 1035, 1036)],
+                         ["104", "X", "X", "(5,5,5)", "50", "0", "---"])
+        self.escape(dialog)
+        self.assertEqual(self.file.read_bytes(), self.content())
+
+        # The stored letter raises the question before its group is entered again.
+        dialog = self.open(PLACINGS, "Input Placings Scores By Group")
+        dialog.choose(CLASSES, 1)
+        for answer, number in ((IDNO, ""), (IDYES, "102")):
+            dialog.choose(GROUPS, 1)
+            self.assertIn("This group has 1 (out of 2) placings scores", self.app.answer(answer, "Information"))
+            self.assertEqual((dialog.text(NUMBER), dialog.focused()), (number, LETTER))
+            if answer == IDNO:
+                dialog.choose(CLASSES, 1)
+        dialog.close()
+        self.app.wait_closed(dialog)
+        self.records[(104, 1)] = "X\t50\t0\t0"
+        self.assertEqual(self.file.read_bytes(), self.content())
+
+
+if __name__ == "__main__":
+    unittest.main()
