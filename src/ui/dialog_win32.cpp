@@ -50,6 +50,9 @@ class NativeDialog final : public Dialog {
   INT_PTR command(ControlId id, WORD notification);
   INT_PTR closeBox();
   void linkedListMoved(HWND list);
+  /// The list that takes the mouse wheel for `list`: of linked ones, the one with a scroll bar,
+  /// since a list without one ignores the wheel.
+  [[nodiscard]] HWND scrollerFor(HWND list) const;
 
   Answer ask(const Message& message) override { return askOver(window_, message); }
   std::optional<std::string> chooseFile(const FileQuestion& question) override {
@@ -107,7 +110,12 @@ constexpr UINT kListTimer = 0x0118;
 // Watches the lists that scroll together. Whatever the operator does to one of them, its first
 // line is what tells whether the others have to follow.
 LRESULT CALLBACK linkedListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam,
-                                     UINT_PTR /*id*/, DWORD_PTR dialog) {
+                                     UINT_PTR /*id*/, DWORD_PTR data) {
+  auto* dialog = reinterpret_cast<NativeDialog*>(data);
+  if (message == WM_MOUSEWHEEL) {
+    HWND scroller = dialog->scrollerFor(list);
+    if (scroller != list) return SendMessageA(scroller, message, wParam, lParam);
+  }
   const LRESULT result = DefSubclassProc(list, message, wParam, lParam);
   switch (message) {
     case WM_VSCROLL:
@@ -118,7 +126,7 @@ LRESULT CALLBACK linkedListProcedure(HWND list, UINT message, WPARAM wParam, LPA
     case WM_LBUTTONUP:
     case WM_MOUSEMOVE:
     case WM_TIMER:
-      reinterpret_cast<NativeDialog*>(dialog)->linkedListMoved(list);
+      dialog->linkedListMoved(list);
       break;
     default:
       break;
@@ -318,6 +326,17 @@ void NativeDialog::linkScrolling(std::vector<ControlId> ids) {
     SetWindowSubclass(list, linkedListProcedure, 1, reinterpret_cast<DWORD_PTR>(this));
   }
   linkedLists_.push_back(std::move(lists));
+}
+
+HWND NativeDialog::scrollerFor(HWND list) const {
+  for (const std::vector<HWND>& linked : linkedLists_) {
+    if (std::find(linked.begin(), linked.end(), list) == linked.end()) continue;
+    const auto scroller = std::find_if(linked.begin(), linked.end(), [](HWND other) {
+      return (GetWindowLongA(other, GWL_STYLE) & WS_VSCROLL) != 0;
+    });
+    if (scroller != linked.end()) return *scroller;
+  }
+  return list;
 }
 
 void NativeDialog::linkedListMoved(HWND list) {
