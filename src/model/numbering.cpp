@@ -19,15 +19,18 @@ std::vector<char> makeGroupLetters(std::int32_t numGroups) {
   return letters;
 }
 
-void updateNextContestant(Contest& contest) {
+std::int32_t updateNextContestant(Contest& contest) {
   ContestSettings& settings = contest.settings;
   if (contest.contestantNames.empty()) {
     settings.nextContestantNum = settings.startNum;
     settings.nextGroupLetter = 'A';
-    return;
+    return 0;
   }
   const ContestantNumber largest = std::max(contest.contestantNames.back().first, 0);
   settings.nextContestantNum =
       static_cast<ContestantNumber>(static_cast<std::uint32_t>(largest) + 1U);
   settings.nextGroupLetter = groupOfNumber(settings, settings.nextContestantNum);
+  if (settings.numGroups == 0) return 0;
+  const std::int64_t distance = std::int64_t{settings.nextContestantNum} - settings.startNum;
+  return static_cast<std::int32_t>(distance / settings.numGroups);
 }

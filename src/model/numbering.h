@@ -33,4 +33,6 @@ inline constexpr std::int32_t kMaxGroupLetters = 256 - 'A';
 
 /// Sets nextContestantNum and nextGroupLetter: startNum and "A" without contestants, otherwise one
 /// more than the largest number present (numbers not above 0 do not count) and its group letter.
-void updateNextContestant(Contest& contest);
+/// Gives how many whole rounds of groups lie between startNum and the next number; 0 when numGroups
+/// is 0.
+std::int32_t updateNextContestant(Contest& contest);
