@@ -92,19 +92,18 @@ TEST_F(ReasonsCommands, SheetsAreMadeForTheClassChosen) {
 }
 
 TEST_F(ReasonsCommands, SheetsLeaveTheReportWhenCancelledOrWithoutRows) {
-  using Operator = std::function<void(MemoryDialog&)>;
-  const Operator cancel = [](MemoryDialog& dialog) {
-    dialog.choose(ReasonsClassDialog::kClasses, 0);
-    dialog.pressEscape();
-  };
-  const Operator close = [](MemoryDialog& dialog) { dialog.pressCloseBox(); };
-  const Operator chooseWithoutRows = [](MemoryDialog& dialog) {
-    currentContest().reasonsOrder.reset(0, 3);
-    dialog.choose(ReasonsClassDialog::kClasses, 0);
-    dialog.click(kOkId);
-  };
-  for (const Operator& operate : {cancel, close, chooseWithoutRows}) {
-    window.operate = operate;
+  const std::vector<std::function<void(MemoryDialog&)>> endings = {
+      [](MemoryDialog& dialog) { dialog.pressEscape(); },
+      [](MemoryDialog& dialog) { dialog.pressCloseBox(); },
+      [](MemoryDialog& dialog) {
+        currentContest().reasonsOrder.reset(0, 3);
+        dialog.click(kOkId);
+      }};
+  for (const auto& ending : endings) {
+    window.operate = [&](MemoryDialog& dialog) {
+      dialog.choose(ReasonsClassDialog::kClasses, 0);
+      ending(dialog);
+    };
     runCommand(kOrderSheet, window);
     EXPECT_EQ(reportText(), "Report before\n");
   }

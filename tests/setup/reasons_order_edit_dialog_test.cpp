@@ -139,16 +139,16 @@ TEST_F(ReasonsOrderEdit, NobodySpeaksTwice) {
 }
 
 TEST_F(ReasonsOrderEdit, SavesOnDoneAndOnTheCloseBoxOnly) {
-  const auto savesAfter = [&](auto act) {
+  using Act = void (*)(MemoryDialog&);
+  const Act escape = [](MemoryDialog& d) { d.pressEscape(); };
+  for (const Act act : {Act([](MemoryDialog& d) { d.click(Edit::kDone); }),
+                        Act([](MemoryDialog& d) { d.pressEnter(); }),
+                        Act([](MemoryDialog& d) { d.pressCloseBox(); }), escape}) {
     MemoryDialog dialog(Edit::kResourceId, edit);
     act(dialog);
-    EXPECT_EQ(dialog.result().has_value(), !dialog.desktop.fileQuestions.empty());
-    return dialog.desktop.fileQuestions.size();
-  };
-  EXPECT_EQ(savesAfter([](MemoryDialog& d) { d.click(Edit::kDone); }), 1U);
-  EXPECT_EQ(savesAfter([](MemoryDialog& d) { d.pressEnter(); }), 1U);
-  EXPECT_EQ(savesAfter([](MemoryDialog& d) { d.pressCloseBox(); }), 1U);
-  EXPECT_EQ(savesAfter([](MemoryDialog& d) { d.pressEscape(); }), 0U);
+    EXPECT_EQ(dialog.result().has_value(), act != escape);
+    EXPECT_EQ(dialog.desktop.fileQuestions.size(), act != escape ? 1U : 0U);
+  }
 }
 
 }  // namespace
