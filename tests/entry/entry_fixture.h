@@ -3,13 +3,15 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
+
 #include "storage/contest_commands.h"
 #include "tests/support/contest_builder.h"
 #include "tests/ui/memory_dialog.h"
 
-/// Groups A (101, 103, 105) and B (102, 104, 106), where nobody stands behind 103 and 104, and C
-/// without anybody; three classes, of which the first and third have questions and the second and
-/// third reasons.
+/// Groups A (101, 105) and B (102, 106), with nobody behind 103 and 104, and C without anybody.
+/// Of three classes the first and third have questions, the second and third reasons. Reasons
+/// groups: 105, 101, a hole, 102; a hole, 106; two holes, 102.
 class EntryTest : public testing::Test {
  protected:
   EntryTest() {
@@ -21,7 +23,9 @@ class EntryTest : public testing::Test {
     builder.addClass({.name = "Gilts", .reasons = true, .questions = true, .official = ' '});
     builder.team("Avon", "", {"Ann", "Bob", "", "", "Eve", "Fay"});
     contest() = builder.contest;
-    contest().reasonsOrder.reset(6, 3);
+    ReasonsOrder& order = contest().reasonsOrder;
+    order.reset(6, 3);
+    order.setCells({{{0, 0}, 105}, {{0, 1}, 101}, {{0, 3}, 102}, {{1, 1}, 106}, {{2, 2}, 102}});
     currentFileName().clear();
   }
   ~EntryTest() override {
@@ -35,7 +39,14 @@ class EntryTest : public testing::Test {
   }
 };
 
-/// Text and caption of the last message box.
+/// The texts of controls, each followed by a bar.
+inline std::string textsOf(const MemoryDialog& dialog, std::initializer_list<ControlId> ids) {
+  std::string texts;
+  for (const ControlId id : ids) texts += dialog.text(id) + '|';
+  return texts;
+}
+
+/// Caption and text of the last message box.
 inline std::string lastMessage(const MemoryDialog& dialog) {
   if (dialog.desktop.messages.empty()) return "";
   const Message& message = dialog.desktop.messages.back();

@@ -19,67 +19,47 @@ class Lookup : public EntryTest {
   LookupDialog behaviour_;
   MemoryDialog dialog_{kLookupDialog, behaviour_};
 
-  void type(const char* number, const char* letter, const char* reasons, const char* questions) {
-    dialog_.paste(kNumber, number);
-    dialog_.paste(kLetter, letter);
-    dialog_.paste(kReasons, reasons);
-    dialog_.paste(kQuestions, questions);
+  // Fills number, letter, reasons and questions, where they can be reached, and presses a button;
+  // gives what is shown as the last score.
+  std::string press(ControlId button, const std::array<const char*, 4>& typed) {
+    const std::array fields = {kNumber, kLetter, kReasons, kQuestions};
+    for (std::size_t i = 0; i < fields.size(); ++i) dialog_.paste(fields[i], typed[i]);
+    dialog_.click(button);
+    return lastScore();
   }
-  std::string fields() {
-    return dialog_.text(kNumber) + "|" + dialog_.text(kLetter) + "|" + dialog_.text(kReasons) +
-           "|" + dialog_.text(kQuestions);
-  }
-  std::string lastScore() {
-    std::string shown;
-    for (const ControlId id : {1031, 1032, 1033, 1034, 1030, 1035, 1036}) {
-      shown += dialog_.text(id) + '|';
-    }
-    return shown;
-  }
+  std::string fields() { return textsOf(dialog_, {kNumber, kLetter, kReasons, kQuestions}); }
+  std::string lastScore() { return textsOf(dialog_, {1031, 1032, 1033, 1034, 1030, 1035, 1036}); }
 };
 
-TEST_F(Lookup, OpensOnTheNumberWithScoresOutOfReach) {
+TEST_F(Lookup, ReachesOnlyTheScoresThatTheClassCarries) {
   EXPECT_EQ(dialog_.lines(kClasses),
             (std::vector<std::string>{" 1.  Steers", " 2.  Ewes", " 3.  Gilts"}));
   EXPECT_EQ(lastScore(), "|||(-,-,-)||||");
   EXPECT_EQ(dialog_.focused(), kNumber);
-  EXPECT_EQ(dialog_.defaultButton(), kScore);
   EXPECT_FALSE(dialog_.isEnabled(kReasons));
   EXPECT_FALSE(dialog_.isEnabled(kQuestions));
-}
-
-TEST_F(Lookup, TakesOnlyTheScoresThatTheClassCarries) {
   dialog_.choose(kClasses, 2);
-  EXPECT_TRUE(dialog_.isEnabled(kReasons));
-  EXPECT_TRUE(dialog_.isEnabled(kQuestions));
-  type("101", "A", "30", "20");
+  dialog_.fill(kReasons, "30");
+  dialog_.fill(kQuestions, "20");
   dialog_.choose(kClasses, 1);
   EXPECT_FALSE(dialog_.isEnabled(kQuestions));
-  EXPECT_EQ(fields(), "101|A|30|") << "a score out of reach must not be stored";
+  EXPECT_EQ(fields(), "||30||") << "a score out of reach must not be stored";
   dialog_.choose(kClasses, 0);
   EXPECT_TRUE(dialog_.isEnabled(kQuestions));
-  EXPECT_EQ(fields(), "101|A||");
+  EXPECT_EQ(fields(), "||||");
 }
 
 TEST_F(Lookup, StoresWhatIsGivenAndLeavesTheRest) {
-  dialog_.choose(kClasses, 2);
   contest().classes.officialLetter[2] = 'A';
-  type("101", "b", "50", "0");
-  dialog_.pressEnter();
-  EXPECT_EQ(record(101, 2), (ScoreRecord{'B', 46, 50, 0}));
-  EXPECT_EQ(lastScore(), "101|B|A|(2,3,4)|46|50|0|");
-  EXPECT_EQ(fields(), "|||");
+  dialog_.choose(kClasses, 2);
+  EXPECT_EQ(press(kScore, {"101", "b", "50", "0"}), "101|B|A|(2,3,4)|46|50|0|");
+  EXPECT_EQ(fields(), "||||");
   EXPECT_EQ(dialog_.focused(), kNumber);
-
-  type("101", "", "", "31");
-  dialog_.click(kScore);
+  press(kScore, {"101", "", "", "31"});
   EXPECT_EQ(record(101, 2), (ScoreRecord{'B', 46, 50, 31}));
-  EXPECT_EQ(dialog_.focused(), kNumber);
-  type("101", "Z", "", "");
-  dialog_.pressEnter();
+  press(kScore, {"101", "Z", "", ""});
   EXPECT_EQ(record(101, 2), (ScoreRecord{'Z', 0, 50, 31}));
-  type("103", "", "7", "");
-  dialog_.pressEnter();
+  press(kScore, {"103", "", "7", ""});
   EXPECT_EQ(record(103, 2), (ScoreRecord{' ', 0, 7, 0})) << "a number without a name exists";
   EXPECT_TRUE(dialog_.desktop.messages.empty());
 }
@@ -89,23 +69,17 @@ TEST_F(Lookup, ShowsDashesForScoresThatTheClassDoesNotCarry) {
   contest().scores[101][1] = {'A', 20, 7, 6};
   const Contest before = contest();
   dialog_.choose(kClasses, 0);
-  type("101", "", "", "");
-  dialog_.pressEnter();
-  EXPECT_EQ(lastScore(), "101|A|A|(2,3,4)|50|---|8|");
+  EXPECT_EQ(press(kScore, {"101", "", "", ""}), "101|A|A|(2,3,4)|50|---|8|");
   dialog_.choose(kClasses, 1);
-  dialog_.fill(kNumber, "101");
-  dialog_.click(kLookup);
-  EXPECT_EQ(lastScore(), "101|A|X|(5,5,5)|20|7|---|");
-  dialog_.fill(kNumber, "102");
-  dialog_.click(kLookup);
-  EXPECT_EQ(lastScore(), "102| |X|(5,5,5)|0|0|---|");
+  EXPECT_EQ(press(kLookup, {"101", "", "", ""}), "101|A|X|(5,5,5)|20|7|---|");
+  EXPECT_EQ(press(kLookup, {"102", "", "", ""}), "102| |X|(5,5,5)|0|0|---|");
   EXPECT_EQ(contest(), before);
 }
 
 // Each press is refused for the first thing wrong with it; the fields are what is left of them.
 TEST_F(Lookup, RefusesAScoreForTheFirstThingWrong) {
   struct Case {
-    std::optional<int> classLine;
+    bool classChosen;
     std::array<const char*, 4> typed;
     const char* message;
     const char* left;
@@ -116,49 +90,44 @@ TEST_F(Lookup, RefusesAScoreForTheFirstThingWrong) {
   const char* letters = "too many letters entered for score.";
   const char* absent = "Contestant Number doesn't exist.";
   const Case cases[] = {
-      {2, {"", "AB", "51", "51"}, reasons, "|AB||51", kReasons},
-      {2, {"101", "A", "-1", ""}, reasons, "101|A||", kReasons},
-      {2, {"101", "A", "99999999999999999999999", ""}, reasons, "101|A||", kReasons},
-      {2, {"", "AB", "50", "51"}, questions, "|AB|50|", kQuestions},
-      {2, {"", "AB", "50", "50"}, letters, "|||50", kLetter},
-      {2, {"", "Y", "5", "5"}, "score must be between A and X <Y> (Z=zero).", "|||5", kLetter},
-      {{}, {"", "A", "", ""}, "no class selected.", "|A||", kClasses},
-      {2, {"", "A", "5", "6"}, "no member number entered.", "|A|5|6", kNumber},
-      {2, {"107", "A", "5", "6"}, absent, "|||", kNumber},
-      {2, {"4294967397", "A", "5", "6"}, absent, "|||", kNumber},
+      {true, {"", "AB", "51", "51"}, reasons, "|AB||51|", kReasons},
+      {true, {"101", "A", "-1", ""}, reasons, "101|A|||", kReasons},
+      {true, {"101", "A", "99999999999999999999999", ""}, reasons, "101|A|||", kReasons},
+      {true, {"", "AB", "50", "51"}, questions, "|AB|50||", kQuestions},
+      {true, {"", "AB", "50", "50"}, letters, "|||50|", kLetter},
+      {true, {"", "Y", "5", "5"}, "score must be between A and X <Y> (Z=zero).", "|||5|", kLetter},
+      {false, {"", "A", "", ""}, "no class selected.", "|A|||", kClasses},
+      {true, {"", "A", "5", "6"}, "no member number entered.", "|A|5|6|", kNumber},
+      {true, {"107", "A", "5", "6"}, absent, "||||", kNumber},
+      {true, {"4294967397", "A", "5", "6"}, absent, "||||", kNumber},
   };
   for (const Case& c : cases) {
-    dialog_.click(kClasses);
-    dialog_.select(kClasses, std::nullopt);
-    if (c.classLine) dialog_.choose(kClasses, *c.classLine);
-    type(c.typed[0], c.typed[1], c.typed[2], c.typed[3]);
-    dialog_.click(kScore);
+    dialog_.choose(kClasses, 2);
+    press(kLookup, {"", "", "", ""});
+    if (!c.classChosen) dialog_.select(kClasses, std::nullopt);
+    press(kScore, c.typed);
     EXPECT_EQ(lastMessage(dialog_), std::string("Warning: Error:  ") + c.message);
     EXPECT_EQ(fields(), c.left) << c.message;
     EXPECT_EQ(dialog_.focused(), c.focused) << c.message;
   }
   EXPECT_TRUE(contest().scores.empty());
-  EXPECT_EQ(lastScore(), "|||(-,-,-)||||");
 }
 
 TEST_F(Lookup, RefusesALookupForTheNumberFirst) {
   const std::string absent = "Warning: Error:  Contestant Number doesn't exist.";
   dialog_.choose(kClasses, 2);
-  type("107", "A", "5", "6");
+  dialog_.fill(kQuestions, "6");
   dialog_.select(kClasses, std::nullopt);
-  dialog_.click(kLookup);
+  press(kLookup, {"107", "A", "5", "6"});
   EXPECT_EQ(lastMessage(dialog_), absent);
-  EXPECT_EQ(fields(), "|||6") << "the questions score stays";
+  EXPECT_EQ(fields(), "|||6|") << "the questions score stays";
   EXPECT_EQ(dialog_.focused(), kNumber);
-  dialog_.click(kLookup);
-  EXPECT_EQ(lastMessage(dialog_), absent) << "an empty field reads as 0";
   contest().contestantNames[0] = "Zoe";
-  dialog_.click(kLookup);
-  EXPECT_EQ(lastMessage(dialog_), "Warning: Error:  A class must be selected.");
+  press(kLookup, {"", "", "", ""});
+  EXPECT_EQ(lastMessage(dialog_), "Warning: Error:  A class must be selected.")
+      << "an empty field reads as 0";
   dialog_.choose(kClasses, 2);
-  dialog_.click(kLookup);
-  EXPECT_EQ(dialog_.text(1031), "0");
-  EXPECT_EQ(dialog_.focused(), kNumber);
+  EXPECT_EQ(press(kLookup, {"", "", "", ""}), "0| | |(2,3,4)|0|0|0|");
 }
 
 }  // namespace
