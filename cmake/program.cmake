@@ -14,6 +14,7 @@ set_source_files_properties(
 add_executable(scorvane WIN32 src/app/main_win32.cpp ${script})
 target_include_directories(scorvane PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_BINARY_DIR})
 target_link_libraries(ui PUBLIC comctl32 comdlg32 shell32 gdi32)
+target_link_libraries(app PUBLIC shlwapi)
 target_link_libraries(scorvane PRIVATE app)
 target_link_options(scorvane PRIVATE -s)
 set_target_properties(scorvane PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})

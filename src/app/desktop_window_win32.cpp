@@ -10,6 +10,7 @@
 #include "app/clipboard_win32.h"
 #include "app/command_table.h"
 #include "app/contest_file_commands.h"
+#include "app/manual_win32.h"
 #include "model/contest.h"
 #include "output/printer_win32.h"
 #include "ui/dialog_win32.h"
@@ -112,23 +113,8 @@ void DesktopWindow::print(bool small) {
               small ? PrintFont::small : PrintFont::normal);
 }
 
-// The program's own folder may have any name, hence wide characters here.
 bool DesktopWindow::openManual() {
-  std::wstring path(32768, L'\0');
-  const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-  path.resize(length);
-  const std::size_t folderEnd = path.rfind(L'\\');
-  if (folderEnd == std::wstring::npos) return false;
-  path.replace(folderEnd + 1, std::wstring::npos, L"ScorvaneUsersManual.htm");
-  if (GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES) return false;
-  SHELLEXECUTEINFOW start{};
-  start.cbSize = sizeof start;
-  start.fMask = SEE_MASK_FLAG_NO_UI;  // a failure is told by the program itself
-  start.hwnd = window_;
-  start.lpVerb = L"open";
-  start.lpFile = path.c_str();
-  start.nShow = SW_SHOWNORMAL;
-  return ShellExecuteExW(&start) != FALSE;
+  return openManualInBrowser(window_);
 }
 
 std::optional<FontFields> DesktopWindow::chooseFont() {
