@@ -79,27 +79,27 @@ TEST_F(Lookup, ShowsDashesForScoresThatTheClassDoesNotCarry) {
 // Each press is refused for the first thing wrong with it; the fields are what is left of them.
 TEST_F(Lookup, RefusesAScoreForTheFirstThingWrong) {
   struct Case {
-    bool classChosen;
     std::array<const char*, 4> typed;
     const char* message;
     const char* left;
     ControlId focused;
+    bool classChosen = true;
   };
   const char* reasons = "Reasons score must be between 0 and 50.";
   const char* questions = "Questions score must be between 0 and 50.";
   const char* letters = "too many letters entered for score.";
   const char* absent = "Contestant Number doesn't exist.";
   const Case cases[] = {
-      {true, {"", "AB", "51", "51"}, reasons, "|AB||51|", kReasons},
-      {true, {"101", "A", "-1", ""}, reasons, "101|A|||", kReasons},
-      {true, {"101", "A", "99999999999999999999999", ""}, reasons, "101|A|||", kReasons},
-      {true, {"", "AB", "50", "51"}, questions, "|AB|50||", kQuestions},
-      {true, {"", "AB", "50", "50"}, letters, "|||50|", kLetter},
-      {true, {"", "Y", "5", "5"}, "score must be between A and X <Y> (Z=zero).", "|||5|", kLetter},
-      {false, {"", "A", "", ""}, "no class selected.", "|A|||", kClasses},
-      {true, {"", "A", "5", "6"}, "no member number entered.", "|A|5|6|", kNumber},
-      {true, {"107", "A", "5", "6"}, absent, "||||", kNumber},
-      {true, {"4294967397", "A", "5", "6"}, absent, "||||", kNumber},
+      {{"", "AB", "51", "51"}, reasons, "|AB||51|", kReasons},
+      {{"101", "A", "-1", ""}, reasons, "101|A|||", kReasons},
+      {{"101", "A", "99999999999999999999999", ""}, reasons, "101|A|||", kReasons},
+      {{"", "AB", "50", "51"}, questions, "|AB|50||", kQuestions},
+      {{"", "AB", "50", "50"}, letters, "|||50|", kLetter},
+      {{"", "Y", "5", "5"}, "score must be between A and X <Y> (Z=zero).", "|||5|", kLetter},
+      {{"", "A", "", ""}, "no class selected.", "|A|||", kClasses, false},
+      {{"", "A", "5", "6"}, "no member number entered.", "|A|5|6|", kNumber},
+      {{"107", "A", "5", "6"}, absent, "||||", kNumber},
+      {{"4294967397", "A", "5", "6"}, absent, "||||", kNumber},
   };
   for (const Case& c : cases) {
     dialog_.choose(kClasses, 2);
