@@ -1,5 +1,6 @@
 // scorvane-report: prints any report of a contest file without a window.
 #include <cstdio>
+#include <exception>
 #include <string_view>
 #include <vector>
 
@@ -22,15 +23,24 @@ bool print(std::string_view text) {
   return std::fflush(stdout) == 0 && written;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int run(const std::vector<std::string_view>& arguments) {
   makeStandardOutputBinary();
-  CliResult result = answer({argv + (argc > 0 ? 1 : 0), argv + argc});
+  CliResult result = answer(arguments);
   if (!print(result.output)) {
     result.status = kFailed;
     result.error += "scorvane-report: the report cannot be written to standard output\n";
   }
   std::fputs(result.error.c_str(), stderr);
   return result.status;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return run({argv + (argc > 0 ? 1 : 0), argv + argc});
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "scorvane-report: %s\n", error.what());
+    return kFailed;
+  }
 }

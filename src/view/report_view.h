@@ -19,6 +19,13 @@ struct ViewSize {
   int height = 0;
 };
 
+/// Place of the start-up picture's top-left corner in the client area, in pixels both ways.
+inline constexpr int kPicturePlace = 50;
+
+/// The size to draw the start-up picture in: its own, or in proportion smaller where the client
+/// area would cut it; it then keeps kPicturePlace to the right and below as well.
+[[nodiscard]] ViewSize pictureSize(const ViewSize& own, const ViewSize& client);
+
 /// One scroll bar: positions from 0 to `maximum`, of which `page` are in view at once.
 struct ScrollBar {
   int maximum = 0;

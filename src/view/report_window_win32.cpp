@@ -11,7 +11,6 @@
 namespace {
 
 constexpr int kPictureResource = 162;
-constexpr int kPicturePlace = 50;
 constexpr int kPictureDotsPerInch = 192;  // the bitmap is drawn for this resolution
 constexpr int kFontPoints = 10;
 
@@ -211,7 +210,7 @@ void ReportWindow::paint() {
   const HGDIOBJ previous = SelectObject(memory, canvas.get());
   const RECT all = {0, 0, size.width, size.height};
   FillRect(memory, &all, GetSysColorBrush(COLOR_WINDOW));
-  if (reportText() == kWelcomeText) drawPicture(memory);
+  if (reportText() == kWelcomeText) drawPicture(memory, size);
   drawLines(memory, size);
   BitBlt(screen, 0, 0, size.width, size.height, memory, 0, 0, SRCCOPY);
   SelectObject(memory, previous);
@@ -219,15 +218,16 @@ void ReportWindow::paint() {
   EndPaint(window_, &request);
 }
 
-void ReportWindow::drawPicture(void* context) const {
+void ReportWindow::drawPicture(void* context, const ViewSize& client) const {
   auto* target = static_cast<HDC>(context);
+  const ViewSize own = {MulDiv(pictureSize_.width, dotsPerInch_, kPictureDotsPerInch),
+                        MulDiv(pictureSize_.height, dotsPerInch_, kPictureDotsPerInch)};
+  const ViewSize shown = pictureSize(own, client);
   HDC source = CreateCompatibleDC(target);
   const HGDIOBJ previous = SelectObject(source, picture_.get());
   SetStretchBltMode(target, HALFTONE);
   SetBrushOrgEx(target, 0, 0, nullptr);
-  StretchBlt(target, kPicturePlace, kPicturePlace,
-             MulDiv(pictureSize_.width, dotsPerInch_, kPictureDotsPerInch),
-             MulDiv(pictureSize_.height, dotsPerInch_, kPictureDotsPerInch), source, 0, 0,
+  StretchBlt(target, kPicturePlace, kPicturePlace, shown.width, shown.height, source, 0, 0,
              pictureSize_.width, pictureSize_.height, SRCCOPY);
   SelectObject(source, previous);
   DeleteDC(source);

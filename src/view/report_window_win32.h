@@ -28,7 +28,7 @@ class ReportWindow {
   bool scrollByKey(unsigned key);
   void shift(int across, int down);
   void paint();
-  void drawPicture(void* context) const;
+  void drawPicture(void* context, const ViewSize& client) const;
   void drawLines(void* context, const ViewSize& size);
 
   NativeWindow window_;

@@ -126,3 +126,17 @@ TEST(ReportView, GivesLinesOfTheTextAsItIsNow) {
   EXPECT_EQ(view.line("longer\nand more\n", 1), "and more");
   EXPECT_EQ(view.line("longer and\nmore\n", 0), "longer and");
 }
+
+TEST(ReportView, ShrinksThePictureIntoTheWindow) {
+  struct Case {
+    ViewSize client, shown;
+  };
+  for (const Case& c :
+       {Case{{740, 500}, {640, 400}}, Case{{2000, 2000}, {640, 400}}, Case{{420, 500}, {320, 200}},
+        Case{{740, 300}, {320, 200}}, Case{{90, 500}, {0, 0}}, Case{{0, 0}, {0, 0}}}) {
+    const ViewSize shown = pictureSize({640, 400}, c.client);
+    EXPECT_EQ(shown.width, c.shown.width) << c.client.width << " x " << c.client.height;
+    EXPECT_EQ(shown.height, c.shown.height) << c.client.width << " x " << c.client.height;
+  }
+  EXPECT_EQ(pictureSize({0, 0}, {740, 500}).width, 0);
+}
