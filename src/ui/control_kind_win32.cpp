@@ -37,3 +37,25 @@ bool isMultipleSelection(NativeWindow control) {
 const LineMessages& lineMessagesOf(NativeWindow control) {
   return controlKind(control) == ControlKind::combo ? kComboMessages : kListMessages;
 }
+
+std::optional<ControlEvent> controlEvent(NativeWindow control, unsigned notification) {
+  switch (controlKind(control)) {
+    case ControlKind::button:
+      if (notification == BN_CLICKED) return ControlEvent::clicked;
+      break;
+    case ControlKind::edit:
+      if (notification == EN_CHANGE) return ControlEvent::textChanged;
+      if (notification == EN_SETFOCUS) return ControlEvent::gotFocus;
+      if (notification == EN_KILLFOCUS) return ControlEvent::lostFocus;
+      break;
+    case ControlKind::list:
+      if (notification == LBN_SELCHANGE) return ControlEvent::selectionChanged;
+      break;
+    case ControlKind::combo:
+      if (notification == CBN_SELCHANGE) return ControlEvent::selectionChanged;
+      break;
+    case ControlKind::other:
+      break;
+  }
+  return std::nullopt;
+}

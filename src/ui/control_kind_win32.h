@@ -1,5 +1,9 @@
-// What kind of control a window is, and how lists and combo boxes are spoken to.
+// What kind of control a window is, what it reports, and how lists and combo boxes are spoken to.
 #pragma once
+
+#include <optional>
+
+#include "ui/dialog.h"
 
 using NativeWindow = struct HWND__*;
 
@@ -19,3 +23,6 @@ struct LineMessages {
 };
 /// The names that the control understands.
 [[nodiscard]] const LineMessages& lineMessagesOf(NativeWindow control);
+
+/// The event that a notification of the control stands for; nothing for all others.
+[[nodiscard]] std::optional<ControlEvent> controlEvent(NativeWindow control, unsigned notification);

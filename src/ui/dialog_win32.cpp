@@ -13,28 +13,6 @@
 
 namespace {
 
-std::optional<ControlEvent> eventOf(ControlKind kind, WORD notification) {
-  switch (kind) {
-    case ControlKind::button:
-      if (notification == BN_CLICKED) return ControlEvent::clicked;
-      break;
-    case ControlKind::edit:
-      if (notification == EN_CHANGE) return ControlEvent::textChanged;
-      if (notification == EN_SETFOCUS) return ControlEvent::gotFocus;
-      if (notification == EN_KILLFOCUS) return ControlEvent::lostFocus;
-      break;
-    case ControlKind::list:
-      if (notification == LBN_SELCHANGE) return ControlEvent::selectionChanged;
-      break;
-    case ControlKind::combo:
-      if (notification == CBN_SELCHANGE) return ControlEvent::selectionChanged;
-      break;
-    case ControlKind::other:
-      break;
-  }
-  return std::nullopt;
-}
-
 LPARAM textParameter(const std::string& text) {
   return reinterpret_cast<LPARAM>(text.c_str());
 }
@@ -152,7 +130,7 @@ INT_PTR NativeDialog::command(ControlId id, WORD notification) {
     behaviour_.onEvent(*this, id, ControlEvent::clicked);
     return TRUE;
   }
-  const std::optional<ControlEvent> event = eventOf(controlKind(sender), notification);
+  const std::optional<ControlEvent> event = controlEvent(sender, notification);
   if (!event) return FALSE;
   // Enter reaches a default button even while it is disabled.
   if (*event == ControlEvent::clicked && IsWindowEnabled(sender) == FALSE) return TRUE;
