@@ -67,7 +67,9 @@ RankValues teamSlowly(const Contest& contest, const Team& team, ScoreKind kind,
 
 // Few different scores, so that ties go deep; some contestants without some or all records.
 Contest randomContest(std::mt19937& random) {
-  const auto upTo = [&](int most) { return static_cast<int>(random() % (most + 1U)); };
+  const auto upTo = [&](int most) {
+    return static_cast<int>(random() % (static_cast<unsigned>(most) + 1U));
+  };
   ContestBuilder builder;
   const std::int32_t perTeam = 1 + upTo(4);
   builder.members(perTeam, perTeam + upTo(2), upTo(5));

@@ -127,7 +127,7 @@ TEST(ContestReader, UnassignsPlacesOutsideTheTable) {
 
 TEST(ContestReader, RefusesWhatIsNoContest) {
   struct Case {
-    std::string_view from, to;
+    std::string from, to;
     int fault;
   };
   const std::string manyKeys = "a\r\nb\r\nc\r\n~~~~~Classes~~~~~";
