@@ -55,14 +55,20 @@ def unescape(text):
 
 
 class Desktop:
-    """A virtual display of its own and a Wine prefix in the build folder."""
+    """A virtual display of its own and a Wine prefix in the build folder.
 
-    def __init__(self, size="1280x900x24", dpi=96, prefix=None):
+    A home folder given here holds the Documents folder of a prefix that is yet to be made.
+    """
+
+    def __init__(self, size="1280x900x24", dpi=96, prefix=None, home=None):
         self.prefix = pathlib.Path(prefix or BUILD / "wine-prefix")
         self.server = None
         self.display = None
         self.environment = dict(os.environ, WINEPREFIX=str(self.prefix), WINEDEBUG="-all", LC_ALL="C",
-                                WINEDLLOVERRIDES="mscoree=;mshtml=", WINEARCH="win64")
+                                WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=",
+                                WINEARCH="win64")
+        if home:
+            self.environment["HOME"] = str(home)
         self._start_display(size)
         self._prepare_prefix()
         self.set_dpi(dpi)
@@ -95,7 +101,9 @@ class Desktop:
         self.registry(r"HKCU\Control Panel\Desktop", "LogPixels", "REG_DWORD", str(dpi))
 
     def registry(self, key, name, kind, value):
-        self.wine("reg", "add", key, "/v", name, "/t", kind, "/d", value, "/f")
+        """Sets a value of a key; without a name, the key's default value."""
+        named = ["/v", name] if name else ["/ve"]
+        self.wine("reg", "add", key, *named, "/t", kind, "/d", value, "/f")
 
     def wine(self, *arguments, check=True, **options):
         """Runs a Windows program to its end; gives the finished process."""
@@ -108,7 +116,12 @@ class Desktop:
                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=60)
 
     def start(self, *arguments, program=None):
-        return App(self, program or BUILD / "scorvane.exe", arguments)
+        program = windows_path(program or BUILD / "scorvane.exe")
+        return App(self, "start", " ".join([f'"{program}"', *arguments]))
+
+    def open(self, document):
+        """Opens a document as a double click on it does; gives the program that took it."""
+        return App(self, "open", windows_path(document))
 
     def screenshot(self, file):
         """A picture of the whole display as a PNG file."""
@@ -132,14 +145,13 @@ def windows_path(path):
 class App:
     """A running program and the helper that speaks to its windows."""
 
-    def __init__(self, desktop, program, arguments):
+    def __init__(self, desktop, *command):
         self.desktop = desktop
         self.driver = subprocess.Popen(
             ["wine", str(BUILD / "desktop_driver.exe")], env=desktop.environment,
             stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
             encoding="latin-1")
-        line = " ".join([f'"{windows_path(program)}"', *arguments])
-        self.tell("start", line)
+        self.tell(*command)
 
     def tell(self, *fields):
         """Sends the driver one command; gives the answer's fields."""
@@ -289,6 +301,10 @@ class Window:
         for name in names:
             self._tell("key", "virtual", VK[name])
             self.settle()
+
+    def drop(self, path):
+        """Drops a file on the window."""
+        self._tell("drop", windows_path(path))
 
     def close(self):
         """As the close box does."""

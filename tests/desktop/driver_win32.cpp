@@ -3,6 +3,9 @@
 // backslash inside a field is written \t, \n, \r or \\. An answer is "ok" and its fields, or
 // "error" and a sentence.
 #include <windows.h>
+// The shell needs windows.h before it.
+#include <shellapi.h>
+#include <shlobj.h>
 
 #include <cstdio>
 #include <functional>
@@ -126,6 +129,13 @@ std::string handleText(HWND window) {
   return std::to_string(static_cast<long long>(reinterpret_cast<ULONG_PTR>(window)));
 }
 
+Fields watch(HANDLE process) {
+  if (watchedHandle != nullptr) CloseHandle(watchedHandle);
+  watchedHandle = process;
+  watchedProcess = GetProcessId(process);
+  return {std::to_string(watchedProcess)};
+}
+
 Fields start(const Fields& f) {
   std::string commandLine = f.at(1);
   STARTUPINFOA startup{};
@@ -136,10 +146,36 @@ Fields start(const Fields& f) {
     throw Failure{"cannot start, error " + std::to_string(GetLastError())};
   }
   CloseHandle(process.hThread);
-  if (watchedHandle != nullptr) CloseHandle(watchedHandle);
-  watchedHandle = process.hProcess;
-  watchedProcess = process.dwProcessId;
-  return {std::to_string(watchedProcess)};
+  return watch(process.hProcess);
+}
+
+// Opens a document by its type.
+Fields open(const Fields& f) {
+  SHELLEXECUTEINFOA request{};
+  request.cbSize = sizeof request;
+  request.fMask = SEE_MASK_NOCLOSEPROCESS | SEE_MASK_FLAG_NO_UI;
+  request.lpFile = f.at(1).c_str();
+  request.nShow = SW_SHOWNORMAL;
+  if (ShellExecuteExA(&request) == FALSE || request.hProcess == nullptr) {
+    throw Failure{"cannot open, error " + std::to_string(GetLastError())};
+  }
+  return watch(request.hProcess);
+}
+
+// Drops a file on a window. The list of files goes into the other program's memory, where the
+// desktop puts it, too.
+Fields drop(const Fields& f) {
+  HWND window = toWindow(f.at(1));
+  const std::string& path = f.at(2);
+  const DROPFILES head{sizeof(DROPFILES), {10, 10}, FALSE, FALSE};
+  std::string content(reinterpret_cast<const char*>(&head), sizeof head);
+  content += path + std::string(2, '\0');
+  void* memory = VirtualAllocEx(watchedHandle, nullptr, content.size(), MEM_COMMIT, PAGE_READWRITE);
+  if (WriteProcessMemory(watchedHandle, memory, content.data(), content.size(), nullptr) == 0) {
+    throw Failure{"cannot hand over the dropped file"};
+  }
+  PostMessageA(window, WM_DROPFILES, reinterpret_cast<WPARAM>(memory), 0);
+  return {};
 }
 
 // Visible top-level windows of the watched process: handle, class, title, enabled.
@@ -331,6 +367,8 @@ Fields clipboard(const Fields& f) {
 
 const std::map<std::string, std::function<Fields(const Fields&)>> kCommands = {
     {"start", start},
+    {"open", open},
+    {"drop", drop},
     {"windows", windows},
     {"exit_code", exitCode},
     {"kill", killProcess},

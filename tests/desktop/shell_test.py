@@ -113,6 +113,25 @@ class ShellTest(DesktopTest):
             "Again, your file did NOT save!  Please use File->Save As to ensure your work is saved.\n"))
         self.assertEqual(contest.read_bytes(), before)
 
+    def test_a_dropped_contest_opens_unless_a_dialog_is_open(self):
+        contest = self.sample()
+        app = self.start()
+        main = app.main()
+        main.drop(contest)
+        title = f"Scorvane - {windows_path(contest)} - Tallgrass County Fair Judging Contest"
+        wait_for(lambda: main.title() == title, "the dropped contest")
+
+        main.command(SETUP_CONTEST)
+        dialog = app.window("Setup Contest")
+        main.drop(self.sample("state.scv"))
+        main.settle()
+        self.assertEqual(main.title(), title)
+        dialog.command(IDCANCEL)
+        app.wait_closed(dialog)
+
+        main.drop(self.folder / "gone.scv")
+        self.assertIn("or file does not exist.", app.answer(caption="Information"))
+
     def test_keys_open_the_about_box_and_close_it(self):
         app = self.start()
         main = app.main()

@@ -1,0 +1,49 @@
+# What ships: the manual beside the program, and the target "package", which makes
+# ScorvaneSetup.exe and Scorvane-VERSION.zip with the same files.
+set(manual_name ScorvaneUsersManual)
+set(manual_source ${CMAKE_SOURCE_DIR}/docs/manual)
+file(GLOB_RECURSE manual_files CONFIGURE_DEPENDS ${manual_source}/${manual_name}*)
+
+# Help opens the manual from the program's own folder, in the build folder, too.
+add_custom_command(
+  OUTPUT ${CMAKE_BINARY_DIR}/${manual_name}.htm
+  DEPENDS ${manual_files}
+  COMMAND ${CMAKE_COMMAND} -E rm -rf ${CMAKE_BINARY_DIR}/${manual_name}_files
+  COMMAND ${CMAKE_COMMAND} -E copy_directory ${manual_source}/${manual_name}_files
+          ${CMAKE_BINARY_DIR}/${manual_name}_files
+  COMMAND ${CMAKE_COMMAND} -E copy ${manual_source}/${manual_name}.htm ${CMAKE_BINARY_DIR})
+add_custom_target(manual ALL DEPENDS ${CMAKE_BINARY_DIR}/${manual_name}.htm)
+
+set(samples ${CMAKE_SOURCE_DIR}/samples)
+set(sample_files ${samples}/county.scv ${samples}/state.scv)
+set(setup ${CMAKE_BINARY_DIR}/ScorvaneSetup.exe)
+set(zip ${CMAKE_BINARY_DIR}/Scorvane-${PROJECT_VERSION}.zip)
+set(package ${CMAKE_BINARY_DIR}/package)
+set(stage ${package}/Scorvane)
+
+# Notepad of older Windows shows a text without CRs as one line.
+configure_file(LICENSE ${CMAKE_BINARY_DIR}/LICENSE.txt @ONLY NEWLINE_STYLE DOS)
+
+add_custom_command(
+  OUTPUT ${zip}
+  DEPENDS scorvane scorvane-report manual ${CMAKE_BINARY_DIR}/${manual_name}.htm ${sample_files}
+  COMMAND ${CMAKE_COMMAND} -E rm -rf ${stage} ${zip}
+  COMMAND ${CMAKE_COMMAND} -E make_directory ${stage}/samples
+  COMMAND ${CMAKE_COMMAND} -E copy $<TARGET_FILE:scorvane> $<TARGET_FILE:scorvane-report>
+          ${CMAKE_BINARY_DIR}/LICENSE.txt ${CMAKE_BINARY_DIR}/${manual_name}.htm ${stage}
+  COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_BINARY_DIR}/${manual_name}_files
+          ${stage}/${manual_name}_files
+  COMMAND ${CMAKE_COMMAND} -E copy ${sample_files} ${stage}/samples
+  COMMAND ${CMAKE_COMMAND} -E chdir ${package} ${CMAKE_COMMAND} -E tar cf ${zip} --format=zip
+          Scorvane
+  VERBATIM)
+
+# Not part of "all": running the program needs no NSIS.
+add_custom_command(
+  OUTPUT ${setup}
+  DEPENDS ${zip} ${CMAKE_SOURCE_DIR}/packaging/scorvane.nsi
+  COMMAND
+    makensis -V2 -WX -DVERSION=${PROJECT_VERSION} -DSTAGE=${stage} -DSAMPLES=${samples}
+    -DICON=${pictures}/scorvane.ico -DOUTPUT=${setup} ${CMAKE_SOURCE_DIR}/packaging/scorvane.nsi
+  VERBATIM)
+add_custom_target(package DEPENDS ${setup} ${zip})

@@ -1,0 +1,165 @@
+"""Installs Scorvane silently in a Wine prefix of its own, uses what was installed, and uninstalls it."""
+
+import pathlib
+import shutil
+import subprocess
+import tempfile
+import unittest
+
+from desktop import BUILD, ROOT, Desktop, DesktopTest, wait_for, windows_path
+
+HELP, OPEN = 32857, 32772
+SETUP = BUILD / "ScorvaneSetup.exe"
+RUNNING = 2  # exit code of a Setup that finds the program running
+NO_HELP = "Unable to spawn help.  Please select Scorvane Help from the start menu."
+
+
+class InstallerTest(DesktopTest):
+    @classmethod
+    def setUpClass(cls):
+        home = pathlib.Path(tempfile.mkdtemp(prefix="scorvane-home-"))
+        cls.addClassCleanup(shutil.rmtree, home, ignore_errors=True)
+        cls.documents = home / "Documents"
+        cls.documents.mkdir()
+        cls.desktop = Desktop(prefix=home / "prefix", home=home)
+        cls.addClassCleanup(cls.desktop.close)
+        cls.drive = cls.desktop.prefix / "drive_c"
+        user = next(d for d in (cls.drive / "users").iterdir() if d.name != "Public")
+        cls.programs = user / "AppData/Local/Programs/Scorvane"
+        # Windows has this folder; Wine makes it for the first program.
+        cls.programs.parent.mkdir()
+        cls.menu = user / "AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Scorvane"
+        cls.for_all = cls.drive / "Program Files" / "Scorvane"
+
+    def setup(self, *options):
+        return self.desktop.wine(SETUP, "/S", *options, check=False).returncode
+
+    def install(self, who):
+        """Installs for this test, /CurrentUser or /AllUsers; gives the folder."""
+        folder = self.for_all if who == "/AllUsers" else self.programs
+        self.assertEqual(self.setup(who), 0)
+        self.addCleanup(self.uninstall, folder)
+        return folder
+
+    def uninstall(self, folder):
+        """The uninstaller goes on in a copy of itself, whose last deed is waited for."""
+        if (folder / "Uninstall.exe").exists():
+            self.desktop.wine(folder / "Uninstall.exe", "/S")
+            root = "HKLM" if folder == self.for_all else "HKCU"
+            wait_for(lambda: self.desktop.wine("reg", "query", root + r"\Software\Scorvane",
+                                               check=False).returncode, "the uninstaller to finish")
+
+    def start_installed(self, folder):
+        app = self.desktop.start(program=folder / "scorvane.exe")
+        self.addCleanup(app.close)
+        return app
+
+    def windows_programs(self):
+        return "C:\\" + str(self.programs.relative_to(self.drive)).replace("/", "\\")
+
+    def files(self):
+        return {file for root in (self.drive, self.documents) for file in root.rglob("*")
+                if "Temp" not in file.parts and not file.is_relative_to(self.drive / "windows")}
+
+    def registered(self):
+        """Everything in the registry that names the program or its file type."""
+        out = b"".join(self.desktop.wine("reg", "query", root, "/s").stdout
+                       for root in (r"HKCU\Software", r"HKLM\Software"))
+        return [line for line in out.decode("latin-1").splitlines()
+                if "scorvane" in line.lower() or "scv" in line.lower()]
+
+    def test_for_one_user_and_uninstalled_again(self):
+        before = self.files()
+        self.install("/CurrentUser")
+        self.assertIn("    (Default)    REG_SZ    "
+                      rf'"{self.windows_programs()}\scorvane.exe" "%1"', self.registered())
+        installed = {str(file.relative_to(self.programs)) for file in self.programs.iterdir()}
+        self.assertEqual(installed, {
+            "scorvane.exe", "scorvane-report.exe", "ScorvaneUsersManual.htm", "LICENSE.txt",
+            "ScorvaneUsersManual_files", "Uninstall.exe"})
+        self.assertEqual({link.name for link in self.menu.iterdir()},
+                         {"Scorvane.lnk", "Scorvane Help.lnk", "Scorvane Samples.lnk"})
+        samples = self.documents / "Scorvane Samples"
+        for name in ("county.scv", "state.scv"):
+            self.assertEqual((samples / name).read_bytes(), (ROOT / "samples" / name).read_bytes())
+        self.assertFalse(self.for_all.exists())
+
+        contest = self.documents / "our contest.scv"
+        shutil.copy(samples / "county.scv", contest)
+        worked_in = samples / "state.scv"
+        worked_in.write_bytes(worked_in.read_bytes().replace(b"startNum", b"startNum\t101\r\nNote:", 1))
+        in_folder = self.programs / "kept here.scv"
+        shutil.copy(contest, in_folder)
+        self.uninstall(self.programs)
+        self.assertEqual(self.files() - before,
+                         {contest, samples, worked_in, self.programs, in_folder})
+        self.assertEqual(self.registered(), [])
+        for left in (self.programs, samples):
+            shutil.rmtree(left)
+        contest.unlink()
+
+    def test_for_all_users_and_uninstalled_again(self):
+        before = self.files()
+        self.install("/AllUsers")
+        self.assertTrue((self.for_all / "scorvane.exe").exists())
+        self.assertFalse(self.programs.exists())
+        self.assertTrue((self.drive / "users/Public/Documents/Scorvane Samples/county.scv").exists())
+        self.assertTrue(any("Scorvane Help" in file.name for file in self.drive.glob(
+            "ProgramData/Microsoft/Windows/Start Menu/Programs/Scorvane/*")))
+        # Whoever has both kinds loses only the one that is uninstalled.
+        self.install("/CurrentUser")
+        self.uninstall(self.for_all)
+        self.assertTrue((self.programs / "scorvane.exe").exists())
+        self.assertTrue(self.menu.exists())
+        self.uninstall(self.programs)
+        self.assertEqual(self.files() - before, set())
+        self.assertEqual(self.registered(), [])
+
+    def test_a_contest_opens_by_its_type(self):
+        # The Wine of our tests knows the types of the computer, not those of one user.
+        self.install("/AllUsers")
+        contest = self.sample().rename(self.folder / "a fair's contest.scv")
+        app = self.desktop.open(contest)
+        self.addCleanup(app.close)
+        wait_for(lambda: app.main().title() == (
+            f"Scorvane - {windows_path(contest)} - Tallgrass County Fair Judging Contest"),
+            "the contest's title")
+        # Setup leaves a running program alone.
+        self.assertEqual(self.setup("/AllUsers"), RUNNING)
+        self.assertEqual(app.tell("exit_code"), ["running"])
+
+    def test_the_file_dialog_starts_in_documents(self):
+        folder = self.install("/CurrentUser")
+        shutil.copy(ROOT / "samples" / "county.scv", self.documents / "mine.scv")
+        self.addCleanup((self.documents / "mine.scv").unlink)
+        app = self.start_installed(folder)
+        main = app.main()
+        main.command(OPEN)
+        box = app.window()
+        box.set_text(1148, "mine.scv")
+        box.command(1)
+        wait_for(lambda: main.title().endswith(r"\Documents\mine.scv"
+                                               " - Tallgrass County Fair Judging Contest"),
+                 "the contest of the Documents folder")
+
+    def test_help_opens_in_the_browser_or_says_where_it_is(self):
+        folder = self.install("/CurrentUser")
+        asked = self.folder / "asked"
+        self.desktop.registry(r"HKLM\Software\Classes\.htm", "", "REG_SZ", "StandIn.Browser")
+        self.desktop.registry(r"HKLM\Software\Classes\StandIn.Browser\shell\open\command", "",
+                              "REG_SZ", rf'cmd.exe /c echo %1>{windows_path(asked)}')
+        app = self.start_installed(folder)
+        app.main().command(HELP)
+        page = wait_for(lambda: asked.exists() and asked.read_text().strip(), "the browser")
+        unix = subprocess.run(["winepath", "-u", page.strip('"')], env=self.desktop.environment,
+                              stdout=subprocess.PIPE, check=True, text=True).stdout.strip()
+        manual = folder / "ScorvaneUsersManual.htm"
+        self.assertTrue(manual.samefile(unix), page)
+
+        manual.unlink()
+        app.main().command(HELP)
+        self.assertEqual(app.answer(caption="Error"), NO_HELP)
+
+
+if __name__ == "__main__":
+    unittest.main()
