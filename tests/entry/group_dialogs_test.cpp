@@ -101,7 +101,7 @@ TEST_F(GroupEntryTest, ShowsAndPassesOnWithoutAScore) {
 
 TEST_F(GroupEntryTest, ChecksClassGroupScoreAndContestantInThisOrder) {
   const auto refuses = [](auto&& desk, const char* wrong, const std::string& group,
-                              const std::string& reason, const std::string& noContestant) {
+                          const std::string& reason, const std::string& noContestant) {
     const std::string left = " before entering a score. [" + std::string(wrong) + "]";
     EXPECT_EQ(desk.enter(wrong, true), "Error: You must select a class" + left);
     desk.dialog.choose(kClasses, 0);
