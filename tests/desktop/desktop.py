@@ -251,6 +251,10 @@ class Window:
     def settle(self):
         self._tell("settle")
 
+    def rectangle(self):
+        """(left, top, width, height) on the display, in pixels."""
+        return tuple(map(int, self.app.tell("rectangle", self.handle)))
+
     def menu_state(self, command_id):
         return self._tell("menu_state", command_id)
 

@@ -200,6 +200,14 @@ Fields windows(const Fields& /*f*/) {
   return found;
 }
 
+// Where a window stands on the display: left, top, width, height in pixels.
+Fields rectangle(const Fields& f) {
+  RECT place{};
+  GetWindowRect(toWindow(f.at(1)), &place);
+  return {std::to_string(place.left), std::to_string(place.top),
+          std::to_string(place.right - place.left), std::to_string(place.bottom - place.top)};
+}
+
 Fields exitCode(const Fields& /*f*/) {
   DWORD code = 0;
   if (WaitForSingleObject(watchedHandle, 0) != WAIT_OBJECT_0) return {"running"};
@@ -370,6 +378,7 @@ const std::map<std::string, std::function<Fields(const Fields&)>> kCommands = {
     {"open", open},
     {"drop", drop},
     {"windows", windows},
+    {"rectangle", rectangle},
     {"exit_code", exitCode},
     {"kill", killProcess},
     {"command", command},

@@ -145,9 +145,10 @@ class InstallerTest(DesktopTest):
     def test_help_opens_in_the_browser_or_says_where_it_is(self):
         folder = self.install("/CurrentUser")
         asked = self.folder / "asked"
-        self.desktop.registry(r"HKLM\Software\Classes\.htm", "", "REG_SZ", "StandIn.Browser")
-        self.desktop.registry(r"HKLM\Software\Classes\StandIn.Browser\shell\open\command", "",
-                              "REG_SZ", rf'cmd.exe /c echo %1>{windows_path(asked)}')
+        browser = self.folder / "browser.bat"
+        browser.write_text(f"@echo %1>{windows_path(asked)}\n")
+        self.desktop.registry(r"HKLM\Software\Classes\http\shell\open\command", "", "REG_SZ",
+                              f'"{windows_path(browser)}" "%1"')
         app = self.start_installed(folder)
         app.main().command(HELP)
         page = wait_for(lambda: asked.exists() and asked.read_text().strip(), "the browser")
