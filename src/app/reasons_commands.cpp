@@ -29,11 +29,10 @@ void askForClassAndShowSheet(MainWindow& window, ReasonsSheet sheet) {
 }  // namespace
 
 void runGenerateReasonsOrder(MainWindow& window) {
-  const Answer answer = window.ask(
-      {"This will auto generate a new Reasons Order and overwrite any previous edits to Reasons "
-       "Order.  Continue?",
-       "Warning", Buttons::okCancel, Answer::cancel});
-  if (answer != Answer::ok) return;
+  if (!window.confirm("This will auto generate a new Reasons Order and overwrite any previous "
+                      "edits to Reasons Order.  Continue?")) {
+    return;
+  }
   const auto seed = static_cast<std::uint32_t>(std::time(nullptr));
   if (const auto refusal = generateReasonsOrder(currentContest(), seed)) {
     window.show(*refusal, "Error");

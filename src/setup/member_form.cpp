@@ -34,11 +34,8 @@ bool checkMember(Dialog& dialog, const std::string& name, const std::string& gro
   return true;
 }
 
-// The number in the Number field; the next one when it is empty, as it is for a new member of a
-// written team.
 ContestantNumber numberShown(const Dialog& dialog) {
-  const std::string text = dialog.text(kNumber);
-  return text.empty() ? currentContest().settings.nextContestantNum : leadingNumber(text);
+  return leadingNumber(dialog.text(kNumber));
 }
 
 void replaceMemberLine(Dialog& dialog, int slot, ContestantNumber number) {

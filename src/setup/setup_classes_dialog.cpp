@@ -50,9 +50,7 @@ void showCuts(Dialog& dialog, const Cuts& cuts) {
 }
 
 void clearAll(Dialog& dialog) {
-  const Answer answer = dialog.ask(
-      {"This will delete all classes!  Continue?", "Warning", Buttons::okCancel, Answer::cancel});
-  if (answer == Answer::ok) {
+  if (dialog.confirm("This will delete all classes!  Continue?")) {
     // The contestants' scores stay, even those of classes that are gone. Deliberate.
     currentContest().classes.clear();
     for (const ControlId list : kTable) dialog.clearLines(list);

@@ -159,9 +159,7 @@ void SetupTeamsDialog::removeSelectedTeam(Dialog& dialog) {
 }
 
 void SetupTeamsDialog::clearAllTeams(Dialog& dialog) {
-  const Answer answer = dialog.ask(
-      {"This will delete all teams!  Continue?", "Warning", Buttons::okCancel, Answer::cancel});
-  if (answer != Answer::ok) return;
+  if (!dialog.confirm("This will delete all teams!  Continue?")) return;
   // Group letters, scores and the reasons order stay as they are. Deliberate.
   Contest& contest = currentContest();
   contest.teams.clear();

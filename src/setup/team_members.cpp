@@ -75,15 +75,17 @@ void replaceTeam(Contest& contest, const std::string& oldName, const std::string
 void removeTeam(Contest& contest, const std::string& name) {
   const auto found = contest.teams.find(name);
   if (found == contest.teams.end()) return;
+  bool leftTheOrder = false;
   for (const ContestantNumber number : found->second.members) {
     ReasonsPlace* place = contest.reasonsPlace.find(number);
     if (place != nullptr && place->isAssigned()) {
       contest.reasonsOrder.setCell(place->position, place->group, kNobody);
       *place = ReasonsPlace{};
+      leftTheOrder = true;
     }
     contest.contestantNames.erase(number);
   }
-  compactReasonsOrder(contest);
+  if (leftTheOrder) compactReasonsOrder(contest);
   contest.teams.erase(found);
 }
 

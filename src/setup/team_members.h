@@ -39,8 +39,8 @@ void addTeam(Contest& contest, const std::string& name, Team team);
 void replaceTeam(Contest& contest, const std::string& oldName, const std::string& newName,
                  Team team);
 
-/// Removes a team and its members' names, and closes the gaps this leaves in the reasons order.
-/// Their group letters and scores stay. An unknown name is ignored.
+/// Removes a team and its members' names; when one of them was in the reasons order, the order is
+/// compacted. Their group letters and scores stay. An unknown name is ignored.
 void removeTeam(Contest& contest, const std::string& name);
 
 /// Makes a contestant unassigned and closes the gap in the reasons order.

@@ -55,4 +55,9 @@ class Window {
 
   /// A box with only an OK button.
   void show(const std::string& text, const std::string& caption) { ask({text, caption}); }
+
+  /// Whether the operator agrees, by OK, to a step that destroys something. Enter cancels.
+  [[nodiscard]] bool confirm(const std::string& question) {
+    return ask({question, "Warning", Buttons::okCancel, Answer::cancel}) == Answer::ok;
+  }
 };
