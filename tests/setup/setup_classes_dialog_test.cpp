@@ -8,44 +8,29 @@ using namespace setup_classes;
 
 namespace {
 
-using Lines = std::vector<std::string>;
+struct ClassSetup : SetupDialog<SetupClassesDialog, kDialog> {
+  using SetupDialog::SetupDialog;
 
-constexpr const char* kCutsMessage =
-    "Illegal value for cuts.\n"
-    "The total of the three cuts cannot be greater than 15.\n"
-    "If the cuts add to 15, the middle cut cannot be greater than 5.\n"
-    "If the cuts add to 14, the middle cut cannot be greater than 8.\n|Warning";
-
-struct ClassSetup : SetupDialog<SetupClassesDialog> {
-  explicit ClassSetup(Contest contest = ContestBuilder().contest)
-      : SetupDialog(kDialog, std::move(contest)) {}
-
-  // Types a class as an operator does, the letter and cuts without a Tab in between.
-  void type(const char* name, const char* letterAndCuts) {
-    dialog.fill(kClassName, name);
-    dialog.focus(kOfficial);
-    dialog.selectText(kOfficial);
-    dialog.keys(letterAndCuts);
-  }
-  void paste(const char* name, const char* official, const char* cut1, const char* cut2,
-             const char* cut3) {
+  void paste(const char* name, const char* official, const char* middleCut) {
     dialog.paste(kClassName, name);
     dialog.paste(kOfficial, official);
-    dialog.paste(kCut1, cut1);
-    dialog.paste(kCut2, cut2);
-    dialog.paste(kCut3, cut3);
+    dialog.paste(kCut1, "3");
+    dialog.paste(kCut2, middleCut);
+  }
+  [[nodiscard]] std::string form() const {
+    return texts({kClassName, kOfficial, kOfficialOrder, kCut1, kCut2, kCut3}) +
+           (dialog.isChecked(kReasons) ? "|R" : "|-") + (dialog.isChecked(kQuestions) ? "Q" : "-") +
+           "|" + dialog.line(kCategory, dialog.selection(kCategory).value_or(-1));
   }
   [[nodiscard]] Lines row(int line) const {
     Lines texts;
     for (const ControlId list : kTable) texts.push_back(dialog.line(list, line));
     return texts;
   }
-  [[nodiscard]] bool isReset() const {
-    return dialog.text(kClassName).empty() && dialog.text(kOfficial) == "A" &&
-           dialog.text(kOfficialOrder) == "( 1 , 2 , 3 , 4 )" && dialog.text(kCut2) == "0" &&
-           !dialog.isChecked(kReasons) && dialog.selection(kCategory) == 0 &&
-           !dialog.selection(kNameList) && dialog.focused() == kClassName &&
-           dialog.defaultButton() == kAdd;
+  void expectReset() const {
+    EXPECT_EQ(form(), "|A|( 1 , 2 , 3 , 4 )|0|0|0|--|" + currentContest().categories[0]);
+    for (const ControlId list : kTable) EXPECT_FALSE(dialog.selection(list)) << list;
+    EXPECT_EQ(focusAndDefault(), FocusAndDefault(kClassName, kAdd));
   }
 };
 
@@ -59,17 +44,17 @@ Contest twoClasses() {
 
 TEST(SetupClasses, AClassIsTypedWithoutLeavingTheKeyboard) {
   ClassSetup setup;
-  EXPECT_TRUE(setup.isReset());
-  setup.type("Steers", "d24");
-  EXPECT_EQ(setup.dialog.focused(), kCut3);
-  EXPECT_EQ(setup.dialog.text(kOfficialOrder), "( 1 , 3 , 4 , 2 )");
-  setup.dialog.keys("3");
+  setup.expectReset();
+  setup.dialog.keys("Steers");
+  setup.dialog.focus(kOfficial);
+  setup.dialog.selectText(kOfficial);
+  setup.dialog.keys("dx24x3");
   EXPECT_EQ(setup.dialog.focused(), kCategory);
+  EXPECT_EQ(setup.form(), "Steers|D|( 1 , 3 , 4 , 2 )|2|4|3|--|none");
   setup.dialog.pressEnter();
   EXPECT_EQ(setup.row(0), (Lines{" 1.  Steers", "   ---", "   D (1,3,4,2)", "  (2,4,3)", "none"}));
-  EXPECT_TRUE(setup.isReset());
+  setup.expectReset();
   EXPECT_EQ(currentContest().classes.cuts(0), (Cuts{2, 4, 3}));
-  // An emptied letter leaves the order shown.
   setup.dialog.fill(kOfficial, "");
   EXPECT_EQ(setup.dialog.text(kOfficialOrder), "( 1 , 2 , 3 , 4 )");
 }
@@ -83,150 +68,132 @@ TEST(SetupClasses, AnyColumnSelectsTheWholeRow) {
   EXPECT_EQ(setup.dialog.line(kFlagsList, 1), "   --Q");
   for (const ControlId list : kTable) {
     setup.dialog.click(kNewClass);
+    setup.expectReset();
     setup.dialog.choose(list, 1);
     for (const ControlId other : kTable) EXPECT_EQ(setup.dialog.selection(other), 1);
-    EXPECT_EQ(setup.dialog.focused(), list);
-    EXPECT_EQ(setup.dialog.defaultButton(), kUpdate);
+    EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(list, kUpdate));
+    EXPECT_EQ(setup.form(), "Ewes|C|( 1 , 3 , 2 , 4 )|2|3|4|-Q|Sheep");
   }
-  EXPECT_EQ(setup.dialog.text(kClassName), "Ewes");
-  EXPECT_TRUE(setup.dialog.isChecked(kQuestions));
-  EXPECT_EQ(setup.dialog.selection(kCategory), 1);
   setup.dialog.setTopLine(kCutsList, 1);
   EXPECT_EQ(setup.dialog.topLine(kNameList), 1);
-  setup.dialog.click(kNewClass);
-  EXPECT_TRUE(setup.isReset());
   setup.dialog.choose(kCutsList, 0);
-  EXPECT_EQ(setup.dialog.selection(kCategory), std::nullopt);
+  EXPECT_EQ(setup.form(), "Steers|B|( 1 , 2 , 4 , 3 )|1|2|3|RQ|");
   setup.dialog.pressEnter();
-  EXPECT_EQ(currentContest().classes, contest.classes);
+  EXPECT_EQ(currentContest(), contest);
 }
 
-TEST(SetupClasses, RefusalsOfAFirstClassLeaveNone) {
-  struct Case {
-    const char* name;
-    const char* official;
-    const char* cuts[3];
-    std::string message;
-  };
-  const Case cases[] = {
-      {"", "", {"9", "9", "9"}, "You didn't enter a class name!|Warning"},
-      {"Steers", "", {"9", "9", "9"}, "Error:  no score entered.|Warning"},
-      {"Steers", "AB", {"9", "9", "9"}, "Error:  too many letters entered for score.|Warning"},
-      {"Steers", "y", {"9", "9", "9"}, "Error:  score must be between A and X <Y>.|Warning"},
-      {"Steers", "X", {"5", "5", "6"}, kCutsMessage},
-      {"Steers", "X", {"3", "6", "6"}, kCutsMessage},
-      {"Steers", "X", {"2", "9", "3"}, kCutsMessage},
-  };
-  for (const Case& refused : cases) {
-    ClassSetup setup;
-    setup.paste(refused.name, refused.official, refused.cuts[0], refused.cuts[1], refused.cuts[2]);
-    EXPECT_EQ(setup.press(kAdd), refused.message);
-    EXPECT_EQ(currentContest().classes, JudgingClasses{}) << refused.message;
-    EXPECT_EQ(setup.dialog.lineCount(kNameList), 0);
-    EXPECT_EQ(setup.dialog.text(kClassName), refused.name);
-  }
-}
-
-TEST(SetupClasses, TheUndoOfARefusalWorksOnTheFirstAndLastClass) {
+// The undo of a refusal works on the first and the last class, whatever was being stored.
+TEST(SetupClasses, RefusalsAndTheirUndo) {
   struct Case {
     const char* official;
     const char* middleCut;
+    std::string message;
     std::optional<int> updated;
     Lines names;
-    std::vector<PlacingLetter> letters;
+    std::string letters;
   };
+  const std::string noLetter = "Error:  no score entered.|Warning";
+  const std::string twoLetters = "Error:  too many letters entered for score.|Warning";
+  const std::string notALetter = "Error:  score must be between A and X <Y>.|Warning";
+  const std::string illegalCuts =
+      "Illegal value for cuts.\nThe total of the three cuts cannot be greater than 15.\n"
+      "If the cuts add to 15, the middle cut cannot be greater than 5.\n"
+      "If the cuts add to 14, the middle cut cannot be greater than 8.\n|Warning";
   const Case cases[] = {
-      {"", "0", std::nullopt, {"Steers", "Ewes"}, {'B', 'C'}},
-      {"Z", "0", std::nullopt, {"", "Ewes"}, {'B', 'C'}},
-      {"D", "16", std::nullopt, {"", "Ewes"}, {'B', 'C'}},
-      {"", "0", 0, {"Hogs"}, {'B', 'C'}},
-      {"AA", "0", 1, {"Steers"}, {'B', 'C'}},
-      {"Z", "0", 0, {""}, {'B', 'C'}},
-      {"D", "16", 0, {""}, {'D'}},
+      {"", "12", noLetter, {}, {"Steers", "Ewes"}, "BC"},
+      {"AB", "12", twoLetters, {}, {"Steers", "Ewes"}, "BC"},
+      {"y", "12", notALetter, {}, {"", "Ewes"}, "BC"},
+      {"D", "12", illegalCuts, {}, {"", "Ewes"}, "BC"},
+      {"", "0", noLetter, 0, {"Hogs"}, "BC"},
+      {"AA", "0", twoLetters, 1, {"Steers"}, "BC"},
+      {"y", "0", notALetter, 0, {""}, "BC"},
+      {"D", "12", illegalCuts, 0, {""}, "D"},
   };
+  const JudgingClasses& classes = currentContest().classes;
   for (const Case& refused : cases) {
     ClassSetup setup(twoClasses());
     if (refused.updated) setup.dialog.choose(kNameList, *refused.updated);
-    setup.paste("Hogs", refused.official, "0", refused.middleCut, "0");
-    setup.dialog.click(refused.updated ? kUpdate : kAdd);
-    const JudgingClasses& classes = currentContest().classes;
-    EXPECT_EQ(classes.className, refused.names);
-    EXPECT_EQ(classes.officialLetter, refused.letters);
-    EXPECT_EQ(classes.reasonsFlag.size(), refused.letters.size());
-    EXPECT_EQ(classes.categoryIndex.size(), refused.letters.size());
+    setup.paste("Hogs", refused.official, refused.middleCut);
+    EXPECT_EQ(setup.press(refused.updated ? kUpdate : kAdd), refused.message);
+    EXPECT_EQ(classes.className, refused.names) << refused.message;
+    const auto& letters = classes.officialLetter;
+    EXPECT_EQ(std::string(letters.begin(), letters.end()), refused.letters);
+    EXPECT_EQ(classes.reasonsFlag.size(), letters.size());
+    EXPECT_EQ(classes.questionsFlag.size(), letters.size());
+    EXPECT_EQ(classes.categoryIndex.size(), letters.size());
     EXPECT_EQ(classes.cut2.size(), 2U);
+    // The table and the form stay as they are.
+    EXPECT_EQ(setup.dialog.lines(kNameList), (Lines{" 1.  Steers", " 2.  Ewes"}));
+    EXPECT_EQ(setup.dialog.text(kClassName), "Hogs");
+    if (refused.updated) continue;
+    ClassSetup first;
+    first.paste("Hogs", refused.official, refused.middleCut);
+    EXPECT_EQ(first.press(kAdd), refused.message);
+    EXPECT_EQ(classes, JudgingClasses{}) << refused.message;
   }
 }
 
-// What an undo took away is there again once the corrected update is stored.
-TEST(SetupClasses, ACorrectedUpdateOfTheLastClassMendsIt) {
+// What the undo of an update took away is there again once the corrected update is stored, and
+// a line left without its class goes with the next class added.
+TEST(SetupClasses, TheTableRecoversFromTheUndoOfAnUpdate) {
   ClassSetup setup(twoClasses());
+  const auto update = [&](int line, const char* name, const char* official, const char* cut) {
+    setup.dialog.choose(kNameList, line);
+    setup.paste(name, official, cut);
+    setup.dialog.click(kUpdate);
+  };
+  update(1, "Hogs", "D", "16");
   setup.dialog.choose(kNameList, 1);
-  setup.paste("Hogs", "D", "0", "16", "0");
-  EXPECT_EQ(setup.press(kUpdate), kCutsMessage);
-  ASSERT_EQ(currentContest().classes.count(), 1);
-  setup.dialog.choose(kNameList, 1);
-  EXPECT_EQ(setup.dialog.text(kOfficial), " ");
-  setup.paste("Hogs", "D", "1", "1", "1");
-  setup.dialog.click(kUpdate);
-  EXPECT_EQ(setup.row(1), (Lines{" 2.  Hogs", "   ---", "   D (1,3,4,2)", "  (1,1,1)", "Beef"}));
-  EXPECT_EQ(setup.row(0)[0], " 1.  ");
-}
-
-TEST(SetupClasses, ARowWithoutItsClassGoesWithTheNextClassAdded) {
-  ClassSetup setup(twoClasses());
-  setup.dialog.choose(kNameList, 0);
-  setup.paste("Hogs", "", "0", "0", "0");
-  setup.dialog.click(kUpdate);
+  EXPECT_EQ(setup.form(), "| |( 0 , 0 , 0 , 0 )|2|3|4|--|Beef");
+  update(1, "Hogs", "D", "1");
+  EXPECT_EQ(setup.row(1), (Lines{" 2.  Hogs", "   ---", "   D (1,3,4,2)", "  (3,1,4)", "Beef"}));
+  update(0, "Kids", "", "0");
   setup.dialog.click(kNewClass);
-  setup.type("Does", "E111");
+  setup.paste("Does", "E", "1");
   setup.dialog.click(kAdd);
-  EXPECT_EQ(setup.dialog.lines(kNameList), (Lines{" 1.  Hogs", " 2.  Does"}));
+  EXPECT_EQ(setup.dialog.lines(kNameList), (Lines{" 1.  Kids", " 2.  Does"}));
 }
 
-TEST(SetupClasses, AddNeedsNoSelectionAndUpdateNeedsOne) {
-  ClassSetup setup(twoClasses());
+TEST(SetupClasses, ButtonsRefuseWhatDoesNotFitAndRemoveTakesARow) {
+  Contest contest = twoClasses();
+  contest.scores[101][1].questionsScore = 1;
+  ClassSetup setup(contest);
+  EXPECT_EQ(setup.press(kAdd), "You didn't enter a class name!|Warning");
   EXPECT_EQ(setup.press(kUpdate), "No class is selected, so an update is not possible.|Warning");
+  const std::string tooLate = "You cannot delete a class once scores have been input.|Error";
+  EXPECT_EQ(setup.press(kRemove), tooLate);
   setup.dialog.choose(kNameList, 0);
   setup.dialog.setDefaultButton(kAdd);
-  setup.dialog.pressEnter();
-  EXPECT_EQ(setup.takeMessage(), "Once a class is selected you can only update it.|Warning");
+  EXPECT_EQ(setup.press(kAdd), "Once a class is selected you can only update it.|Warning");
   EXPECT_EQ(setup.dialog.defaultButton(), kUpdate);
-  EXPECT_EQ(currentContest().classes, twoClasses().classes);
-}
-
-TEST(SetupClasses, RemoveTakesAClassOutOfEveryColumn) {
-  ClassSetup setup(twoClasses());
+  EXPECT_EQ(setup.press(kRemove), tooLate);
+  setup.expectReset();
+  EXPECT_EQ(currentContest(), contest);
+  currentContest().scores.clear();
   EXPECT_EQ(setup.press(kRemove), "No items selected.|Warning");
   setup.dialog.choose(kCutsList, 0);
   setup.dialog.click(kRemove);
-  EXPECT_TRUE(setup.isReset());
+  setup.expectReset();
   EXPECT_EQ(setup.dialog.lines(kNameList), Lines{" 1.  Ewes"});
-  JudgingClasses left;
-  left.add("Ewes", false, true, 'C', {2, 3, 4}, 1);
-  EXPECT_EQ(currentContest().classes, left);
-
-  Contest scored = twoClasses();
-  scored.scores[101][1].questionsScore = 1;
-  ClassSetup late(scored);
-  EXPECT_EQ(late.press(kRemove), "You cannot delete a class once scores have been input.|Error");
-  EXPECT_EQ(currentContest(), scored);
+  contest.classes.clear();
+  contest.classes.add("Ewes", false, true, 'C', {2, 3, 4}, 1);
+  EXPECT_EQ(currentContest().classes, contest.classes);
 }
 
-TEST(SetupClasses, ClearAllAsksFirst) {
-  Contest scored = twoClasses();
-  scored.scores[101][0].letter = 'C';
-  ClassSetup setup(scored);
-  setup.dialog.desktop.answers = {Answer::cancel, Answer::ok};
-  setup.dialog.click(kClearAll);
-  EXPECT_EQ(setup.dialog.desktop.messages.back().defaultAnswer, Answer::cancel);
-  EXPECT_EQ(setup.takeMessage(), "This will delete all classes!  Continue?|Warning");
-  EXPECT_EQ(currentContest(), scored);
-  setup.dialog.click(kClearAll);
-  EXPECT_EQ(currentContest().classes, JudgingClasses{});
-  EXPECT_EQ(currentContest().scores, scored.scores);
+TEST(SetupClasses, ClearAllAsksFirstAndKeepsTheScores) {
+  Contest contest = twoClasses();
+  contest.scores[101][0].letter = 'C';
+  ClassSetup setup(contest);
+  setup.dialog.choose(kNameList, 1);
+  EXPECT_EQ(setup.pressAndAnswer(kClearAll, Answer::cancel),
+            "This will delete all classes!  Continue?|Warning");
+  EXPECT_EQ(setup.dialog.defaultButton(), kAdd);
+  EXPECT_EQ(currentContest(), contest);
+  setup.pressAndAnswer(kClearAll, Answer::ok);
+  EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kClassName, kAdd));
   for (const ControlId list : kTable) EXPECT_EQ(setup.dialog.lineCount(list), 0);
-  EXPECT_EQ(setup.dialog.focused(), kClassName);
+  contest.classes.clear();
+  EXPECT_EQ(currentContest(), contest);
 }
 
 TEST(SetupClasses, ClosingRecomputesThePlacingScoresAndSaves) {
@@ -240,9 +207,9 @@ TEST(SetupClasses, ClosingRecomputesThePlacingScoresAndSaves) {
   setup.dialog.click(kUpdate);
   reportText() = "old report";
   setup.dialog.pressEscape();
-  EXPECT_FALSE(setup.dialog.result());
+  EXPECT_FALSE(setup.isDone());
   setup.dialog.pressCloseBox();
-  EXPECT_TRUE(setup.dialog.result() && setup.saved());
+  EXPECT_TRUE(setup.isDone());
   EXPECT_EQ(reportText(), kWelcomeText);
   EXPECT_EQ(scoreRecord(currentContest(), 101, 0).placingScore, 49);
 }

@@ -9,188 +9,153 @@ using namespace setup_contest;
 
 namespace {
 
-using Lines = std::vector<std::string>;
-
-struct ContestSetup : SetupDialog<SetupContestDialog> {
-  explicit ContestSetup(Contest contest = ContestBuilder().contest)
-      : SetupDialog(kDialog, std::move(contest)) {}
-
-  void addCategory(const char* name) {
-    dialog.paste(kCategoryText, name);
-    dialog.pressEnter();
-  }
-};
+using ContestSetup = SetupDialog<SetupContestDialog, kDialog>;
 
 TEST(SetupContest, ChecksTheFieldsInOrder) {
-  ContestSetup setup;
-  MemoryDialog& dialog = setup.dialog;
-  for (const ControlId id : {kContestName, kDivisionName, kContestDate, kReasonsTakers,
-                             kNumberToScore, kPerTeam, kTotalPerTeam}) {
-    dialog.fill(id, "");
-  }
-  dialog.fill(kGroups, "27");
   struct Step {
+    ControlId field;
     std::string message;
-    ControlId focus;
-    ControlId corrected;
-    const char* text;
+    const char* correction;
   };
+  const std::string groups = "The number of groups must be between 1 and 26.|Error";
   const Step steps[] = {
-      {"The contest name cannot be empty.|Error", kContestName, kContestName, "County Fair"},
-      {"The division name cannot be empty.|Error", kDivisionName, kDivisionName, "Senior"},
-      {"The contest date cannot be empty.|Error", kContestName, kContestDate, "today"},
-      {"The number of groups must be between 1 and 26.|Error", kGroups, kGroups, "0"},
-      {"The number of groups must be between 1 and 26.|Error", kGroups, kGroups, "26"},
-      {"There must be at least one (1) reasons taker.\nIf you do not have any reasons classes, "
+      {kContestName, "The contest name cannot be empty.|Error", "County Fair"},
+      {kDivisionName, "The division name cannot be empty.|Error", "Senior"},
+      {kContestDate, "The contest date cannot be empty.|Error", "today"},
+      {kGroups, groups, "x27"},
+      {kGroups, groups, "26"},
+      {kReasonsTakers,
+       "There must be at least one (1) reasons taker.\nIf you do not have any reasons classes, "
        "this value will be ignored.|Error",
-       kReasonsTakers, kReasonsTakers, "2"},
-      {"The number to score must be one (1) or greater.|Information", kNumberToScore,
-       kNumberToScore, "3"},
-      {"The number of contestants per team must be one (1) or greater.|Information", kPerTeam,
-       kPerTeam, "2"},
-      {"The total number per team must be one (1) or greater.|Information", kTotalPerTeam,
-       kTotalPerTeam, "3"},
-      {"The number of contestants per team must be greater (or equal to) than the number of "
+       "x2"},
+      {kNumberToScore, "The number to score must be one (1) or greater.|Information", "x3"},
+      {kPerTeam, "The number of contestants per team must be one (1) or greater.|Information",
+       "x2"},
+      {kTotalPerTeam, "The total number per team must be one (1) or greater.|Information", "x3"},
+      {kPerTeam,
+       "The number of contestants per team must be greater (or equal to) than the number of "
        "contestants to score.|Error",
-       kPerTeam, kPerTeam, "4"},
-      {"The total number of contestants per team must be greater than (or equal to) the number of "
+       "4"},
+      {kTotalPerTeam,
+       "The total number of contestants per team must be greater than (or equal to) the number of "
        "contestants per team.|Error",
-       kTotalPerTeam, kTotalPerTeam, "4"},
+       "4"},
   };
-  for (const Step& step : steps) {
-    EXPECT_EQ(setup.press(kDone), step.message);
-    EXPECT_EQ(dialog.focused(), step.focus) << step.message;
-    EXPECT_FALSE(dialog.result() || setup.saved());
-    dialog.fill(step.corrected, step.text);
+  ContestSetup setup;
+  EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kContestName, kDone));
+  for (const Step& step : steps) setup.dialog.fill(step.field, "");
+  setup.dialog.fill(kStartNumber, "x301");
+  setup.dialog.fill(kNumberToReport, "x15");
+  for (const auto& [field, message, correction] : steps) {
+    EXPECT_EQ(setup.press(kDone), message);
+    EXPECT_EQ(setup.dialog.focused(), field == kContestDate ? kContestName : field) << message;
+    EXPECT_FALSE(setup.isDone());
+    setup.dialog.fill(field, correction);
   }
-  dialog.pressCloseBox();
-  EXPECT_EQ(setup.takeMessage(), "");
-  EXPECT_EQ(dialog.result(), 1);
-  EXPECT_TRUE(setup.saved());
-  EXPECT_EQ(currentContest().settings.contestName, "County Fair");
-  EXPECT_EQ(currentContest().settings.numToScore, 3);
+  setup.dialog.pressCloseBox();
+  EXPECT_TRUE(setup.isDone());
+  const ContestSettings expected = {"County Fair", "Senior", "today", 301, 4,   4,  3,
+                                    false,         15,       26,      2,   301, 'A'};
+  EXPECT_EQ(currentContest().settings, expected);
 }
 
 TEST(SetupContest, CancelPutsBackWhatARefusedDoneStored) {
   Contest before = reasonsContest(2, 1, 3);
   placeGroup(before, 0, {101, 102});
   ContestSetup setup(before);
-  MemoryDialog& dialog = setup.dialog;
   reportText() = "old report";
-  dialog.fill(kContestName, "Other");
-  dialog.click(kReportPercent);
-  dialog.fill(kReasonsTakers, "3");
-  dialog.fill(kNumberToScore, "0");
-  setup.addCategory("Swine");
-  dialog.click(kDone);
+  setup.dialog.fill(kContestName, "Other");
+  setup.dialog.click(kReportPercent);
+  setup.dialog.fill(kReasonsTakers, "3");
+  setup.dialog.fill(kNumberToScore, "0");
+  setup.dialog.fill(kCategoryText, "Swine");
+  setup.dialog.pressEnter();
+  setup.dialog.click(kDone);
   EXPECT_EQ(currentContest().settings.contestName, "Other");
-  dialog.pressEscape();
-  EXPECT_EQ(dialog.result(), 2);
-  EXPECT_FALSE(setup.saved());
+  EXPECT_TRUE(currentContest().settings.reportPercent);
+  setup.dialog.pressEscape();
+  EXPECT_EQ(setup.dialog.result(), kCancelId);
+  EXPECT_TRUE(setup.dialog.desktop.fileQuestions.empty());
   EXPECT_EQ(reportText(), kWelcomeText);
   // The reasons order is gone nevertheless.
-  EXPECT_TRUE(currentContest().reasonsOrder.cells().empty());
-  EXPECT_EQ(*currentContest().reasonsPlace.find(102), ReasonsPlace{});
+  before.reasonsOrder.reset(3, 3);
+  before.reasonsPlace[101] = before.reasonsPlace[102] = {};
   before.settings.nextContestantNum = before.settings.startNum;
-  EXPECT_EQ(currentContest().settings, before.settings);
-  EXPECT_EQ(currentContest().categories, before.categories);
+  EXPECT_EQ(currentContest(), before);
 }
 
-TEST(SetupContest, TheReasonsOrderStaysWithTheNumberOfTakers) {
-  Contest before = reasonsContest(2, 1, 3);
-  placeGroup(before, 1, {103});
-  ContestSetup kept(before);
-  kept.dialog.fill(kReasonsTakers, "2");
-  kept.dialog.click(kDone);
-  EXPECT_EQ(currentContest().reasonsOrder, before.reasonsOrder);
-
-  ContestSetup changed(before);
-  changed.dialog.fill(kReasonsTakers, "1");
-  changed.dialog.click(kDone);
-  EXPECT_EQ(currentContest().reasonsOrder.cell(0, 1), kNobody);
-  EXPECT_EQ(currentContest().reasonsOrder.rowCount(), 3);
-  EXPECT_EQ(currentContest().reasonsOrder.columnCount(), 1);
-}
-
-TEST(SetupContest, DoneGivesEveryContestantTheGroupOfTheNumber) {
-  ContestBuilder builder;
-  builder.team("Elm", "", {"Ann", "Ben", "Cy", "Dee"});
-  builder.contest.contestantGroup[102] = 'Q';
-  ContestSetup setup(builder.contest);
-  EXPECT_FALSE(setup.dialog.isEnabled(kStartNumber));
-  EXPECT_FALSE(setup.dialog.isEnabled(kTotalPerTeam));
+TEST(SetupContest, DoneRegroupsEverybodyAndKeepsTheOrderOfAsManyTakers) {
+  Contest contest = reasonsContest(2, 1, 4);
+  placeGroup(contest, 1, {103});
+  contest.contestantGroup[102] = 'Q';
+  ContestSetup setup(contest);
+  EXPECT_FALSE(setup.dialog.isEnabled(kStartNumber) || setup.dialog.isEnabled(kTotalPerTeam));
+  setup.dialog.fill(kReasonsTakers, "2");
   setup.dialog.fill(kGroups, "3");
   setup.dialog.click(kDone);
-  EXPECT_EQ(currentContest().groupLetters, (std::vector<char>{'A', 'B', 'C'}));
-  EXPECT_EQ(*currentContest().contestantGroup.find(102), 'B');
-  EXPECT_EQ(*currentContest().contestantGroup.find(104), 'A');
+  contest.settings.numGroups = 3;
+  contest.settings.nextContestantNum = 101;
+  contest.groupLetters = {'A', 'B', 'C'};
+  contest.contestantGroup[102] = 'B';
+  contest.contestantGroup[104] = 'A';
+  EXPECT_EQ(currentContest(), contest);
 }
 
-TEST(SetupContest, ALoneNoneGivesWayToTheFirstCategory) {
+TEST(SetupContest, CategoriesAreAddedUpdatedAndDeleted) {
   ContestSetup setup;
-  EXPECT_EQ(setup.dialog.focused(), kContestName);
-  setup.addCategory("Swine");
-  setup.addCategory("Swine");
-  setup.addCategory("Hay\tand\r\nGrain");
-  EXPECT_EQ(setup.takeMessage(), "");
-  EXPECT_EQ(currentContest().categories, (Lines{"Swine", "Swine", "Hay and  Grain"}));
-  EXPECT_EQ(setup.dialog.lines(kCategoryList), currentContest().categories);
-  EXPECT_EQ(setup.dialog.focused(), kCategoryText);
-
-  ContestSetup kept(ContestBuilder().categories({"none", "Beef"}).contest);
-  kept.addCategory("Swine");
-  EXPECT_EQ(currentContest().categories, (Lines{"none", "Beef", "Swine"}));
-}
-
-TEST(SetupContest, UpdateLeavesTheFirstStoredCategoryAlone) {
-  ContestSetup setup(ContestBuilder().categories({"Beef", "Sheep"}).contest);
   MemoryDialog& dialog = setup.dialog;
-  for (const int line : {0, 1}) {
-    dialog.choose(kCategoryList, line);
-    EXPECT_EQ(dialog.focused(), kCategoryText);
-    dialog.fill(kCategoryText, dialog.text(kCategoryText) + "s");
+  const Lines& stored = currentContest().categories;
+  // A lone "none" gives way to the first category; nobody looks for duplicates.
+  for (const char* name : {"Swine", "none", "Swine", "Hay\tand\r\nGrain"}) {
+    dialog.paste(kCategoryText, name);
     dialog.pressEnter();
-    EXPECT_EQ(dialog.selection(kCategoryList), std::nullopt);
-    EXPECT_EQ(dialog.defaultButton(), kAddCategory);
   }
-  EXPECT_EQ(dialog.lines(kCategoryList), (Lines{"Beefs", "Sheeps"}));
-  EXPECT_EQ(currentContest().categories, (Lines{"Beef", "Sheeps"}));
-  dialog.choose(kCategoryList, 0);
-  dialog.fill(kCategoryText, "");
-  EXPECT_EQ(setup.press(kUpdateCategory), "Category cannot be empty.|Information");
-  EXPECT_EQ(dialog.text(kCategoryText), "Beef");
+  EXPECT_EQ(stored, (Lines{"Swine", "none", "Swine", "Hay and  Grain"}));
+  EXPECT_EQ(dialog.lines(kCategoryList), stored);
+  // The first category's stored name is never updated, though its line is.
+  for (const int line : {0, 2}) {
+    dialog.choose(kCategoryList, line);
+    EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kCategoryText, kUpdateCategory));
+    dialog.keys("s");
+    dialog.pressEnter();
+    EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kCategoryText, kAddCategory));
+    EXPECT_EQ(dialog.text(kCategoryText), "");
+  }
+  EXPECT_EQ(dialog.lines(kCategoryList), (Lines{"Swines", "none", "Swines", "Hay and  Grain"}));
+  EXPECT_EQ(stored, (Lines{"Swine", "none", "Swines", "Hay and  Grain"}));
+  for (auto left = std::ssize(stored); left > 0; --left) {
+    EXPECT_EQ(dialog.lineCount(kCategoryList), left);
+    dialog.choose(kCategoryList, 0);
+    dialog.click(kDeleteCategory);
+    EXPECT_EQ(dialog.text(kCategoryText), "");
+  }
+  EXPECT_TRUE(stored.empty());
+  dialog.click(kDone);
+  EXPECT_EQ(stored, Lines{"none"});
 }
 
 TEST(SetupContest, CategoryButtonsRefuseWhatDoesNotFit) {
   ContestSetup setup(ContestBuilder().categories({"Beef", "Sheep"}).contest);
-  MemoryDialog& dialog = setup.dialog;
-  dialog.focus(kCategoryText);
-  EXPECT_EQ(dialog.defaultButton(), kAddCategory);
-  dialog.focus(kGroups);
-  EXPECT_EQ(dialog.defaultButton(), kDone);
+  setup.dialog.focus(kCategoryText);
+  EXPECT_EQ(setup.dialog.defaultButton(), kAddCategory);
+  setup.dialog.focus(kGroups);
+  EXPECT_EQ(setup.dialog.defaultButton(), kDone);
   EXPECT_EQ(setup.press(kAddCategory), "Category cannot be empty.|Information");
-  for (const ControlId button : {kUpdateCategory, kDeleteCategory}) {
-    EXPECT_EQ(setup.press(button), "No category selected.|Information");
-  }
-  dialog.choose(kCategoryList, 0);
-  dialog.focus(kGroups);
-  EXPECT_EQ(dialog.defaultButton(), kUpdateCategory);
+  EXPECT_EQ(setup.press(kUpdateCategory), "No category selected.|Information");
+  EXPECT_EQ(setup.press(kDeleteCategory), "No category selected.|Information");
+  setup.dialog.choose(kCategoryList, 0);
+  setup.dialog.fill(kCategoryText, "");
   EXPECT_EQ(setup.press(kAddCategory),
             "When a category is selected Update and Delete are the only valid buttons.|"
             "Information");
-  dialog.click(kDeleteCategory);
-  EXPECT_EQ(currentContest().categories, Lines{"Sheep"});
-  EXPECT_EQ(dialog.text(kCategoryText), "");
-  dialog.choose(kCategoryList, 0);
-  dialog.click(kDeleteCategory);
-  EXPECT_TRUE(currentContest().categories.empty());
-  dialog.click(kDone);
-  EXPECT_EQ(currentContest().categories, Lines{"none"});
-
-  ContestSetup judged(ContestBuilder().addClass({}).contest);
-  EXPECT_EQ(judged.press(kDeleteCategory),
+  EXPECT_EQ(setup.press(kUpdateCategory), "Category cannot be empty.|Information");
+  EXPECT_EQ(setup.dialog.text(kCategoryText), "Beef");
+  EXPECT_EQ(setup.dialog.defaultButton(), kUpdateCategory);
+  currentContest().classes.className = {"Steers"};
+  EXPECT_EQ(setup.press(kDeleteCategory),
             "Once classes have been entered, categories can no longer be deleted.  They can only "
             "be added and/or updated.|Information");
+  EXPECT_EQ(currentContest().categories, (Lines{"Beef", "Sheep"}));
 }
 
 }  // namespace

@@ -3,36 +3,61 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "storage/contest_commands.h"
 #include "tests/support/contest_builder.h"
 #include "tests/ui/memory_dialog.h"
 
+using Lines = std::vector<std::string>;
+/// Where the operator's keys go, and the button that Enter presses.
+using FocusAndDefault = std::pair<ControlId, ControlId>;
+
 /// A dialog's behaviour in an open dialog over `contest`, which becomes the current one. The
 /// contest is untitled, so a save shows as a question for its file.
-template <typename Behaviour>
+template <typename Behaviour, int resourceId>
 struct SetupDialog {
-  explicit SetupDialog(int resourceId, Contest contest)
+  explicit SetupDialog(Contest contest = ContestBuilder().contest)
       : dialog((currentContest() = std::move(contest), currentFileName().clear(), resourceId),
                behaviour) {}
 
   Behaviour behaviour;
   MemoryDialog dialog;
 
-  [[nodiscard]] bool saved() const { return dialog.desktop.fileQuestions.size() == 1; }
-
+  /// Whether the dialog has saved and ended; that it did only one of them fails the test.
+  [[nodiscard]] bool isDone() const {
+    EXPECT_EQ(dialog.desktop.fileQuestions.size(), dialog.result() ? 1U : 0U);
+    return dialog.result().has_value();
+  }
+  /// The fields' texts with bars between.
+  [[nodiscard]] std::string texts(std::initializer_list<ControlId> fields) const {
+    std::string joined;
+    for (const ControlId id : fields) joined += dialog.text(id) + "|";
+    joined.pop_back();
+    return joined;
+  }
+  [[nodiscard]] FocusAndDefault focusAndDefault() const {
+    return {dialog.focused(), dialog.defaultButton()};
+  }
   /// Text of the last message and, after a bar, its caption; "" without one. Forgets them.
   std::string takeMessage() {
     if (dialog.desktop.messages.empty()) return "";
     const std::string caption = dialog.desktop.messages.back().caption;
     return dialog.desktop.takeMessage() + "|" + caption;
   }
-
   /// Presses a button; gives the message this shows, as takeMessage().
   std::string press(ControlId button) {
     dialog.click(button);
+    return takeMessage();
+  }
+  /// Presses a button that asks before it destroys something, and answers.
+  std::string pressAndAnswer(ControlId button, Answer answer) {
+    dialog.desktop.answers = {answer};
+    dialog.click(button);
+    EXPECT_EQ(dialog.desktop.messages.back().defaultAnswer, Answer::cancel);
     return takeMessage();
   }
 };
