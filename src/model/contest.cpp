@@ -1,5 +1,6 @@
 #include "model/contest.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -13,6 +14,10 @@ Element elementOr(const std::vector<Element>& column, std::int32_t index, Elemen
 const std::string kEmpty;
 
 }  // namespace
+
+std::size_t teamSlots(const ContestSettings& settings) {
+  return static_cast<std::size_t>(std::clamp(settings.totalNumPerTeam, 0, kMostTeamSlots));
+}
 
 const std::string& JudgingClasses::name(std::int32_t index) const {
   if (index < 0 || index >= count()) return kEmpty;

@@ -83,6 +83,13 @@ struct Team {
   friend bool operator==(const Team&, const Team&) = default;
 };
 
+/// A team has no more slots than this, whatever size is set up. Far fewer fit into a team's line of
+/// the contest file; a slip of the finger or a damaged file must not fill the memory with them.
+inline constexpr std::int32_t kMostTeamSlots = 1000;
+
+/// Member slots that every team is given: totalNumPerTeam, from 0 to kMostTeamSlots.
+[[nodiscard]] std::size_t teamSlots(const ContestSettings& settings);
+
 struct Contest {
   ContestSettings settings;
   std::vector<std::string> categories;

@@ -50,7 +50,7 @@ void storeMember(Dialog& dialog, std::optional<int> updated) {
   const std::string group = fieldText(dialog, kGroup);
   if (!checkMember(dialog, name, group)) return;
   const int slot = updated.value_or(dialog.lineCount(kMemberList));
-  if (slot >= contest.settings.totalNumPerTeam) {
+  if (slot >= static_cast<int>(teamSlots(contest.settings))) {
     dialog.show(
         "This team is full or you need to select a member position from the member list to "
         "update.",

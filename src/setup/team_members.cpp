@@ -47,10 +47,9 @@ std::vector<ContestantNumber> fillTeamSlots(Contest& contest,
   updateNextContestant(contest);
   std::vector<ContestantNumber> members;
   ContestantNumber next = contest.settings.nextContestantNum;
-  const std::int32_t slots = std::min(contest.settings.totalNumPerTeam, kMostTeamSlots);
-  for (std::int32_t slot = 0; slot < slots; ++slot) {
-    const bool isNamed = static_cast<std::size_t>(slot) < named.size();
-    const ContestantNumber number = isNamed ? named[static_cast<std::size_t>(slot)] : next;
+  for (std::size_t slot = 0; slot < teamSlots(contest.settings); ++slot) {
+    const bool isNamed = slot < named.size();
+    const ContestantNumber number = isNamed ? named[slot] : next;
     if (!isNamed) contest.contestantNames[number] = "";
     members.push_back(number);
     next = after(number, 1);

@@ -21,11 +21,7 @@ void addBlankScores(Contest& contest, ContestantNumber number);
 /// Takes out contestants whose team was never written: their names and group letters.
 void discardContestants(Contest& contest, const std::vector<ContestantNumber>& numbers);
 
-/// A team gets no more slots than this, whatever size is set up. Far fewer fit into a team's line
-/// of the contest file; a slip of the finger must not fill the memory with reserved numbers.
-inline constexpr std::int32_t kMostTeamSlots = 1000;
-
-/// The totalNumPerTeam members of a team whose first slots hold `named`. Each slot beyond them
+/// The teamSlots() members of a team whose first slots hold `named`. Each slot beyond them
 /// takes the next number, which is entered without a name.
 [[nodiscard]] std::vector<ContestantNumber> fillTeamSlots(
     Contest& contest, const std::vector<ContestantNumber>& named);

@@ -135,26 +135,19 @@ void addTeam(std::string_view line, std::size_t slots, Contest& contest) {
   contest.teams.insert_or_assign(contest.teams.end(), name, std::move(team));
 }
 
-/// A team line that lacks members reads them as 0, so slots are promised rather than given. A
-/// contest has room for all slots promised when they are few compared with the bytes of the file
-/// and, where a team has more than its line could name, with the contestants: every slot of a team
-/// set up here has had a contestant number of its own. Both hold again once the contest is saved.
-bool hasRoomForSlots(std::size_t slots, std::size_t teams, std::size_t fileSize,
-                     const Contest& contest) {
+/// A team line that lacks members reads them as 0, so slots are promised rather than given. They
+/// must be few compared with the bytes of the file, which they are in every file written here.
+bool hasRoomForSlots(std::size_t slots, std::size_t teams, std::size_t fileSize) {
   constexpr std::size_t kSlotsPerByte = 4;
-  constexpr std::size_t kSlotsPerContestant = 4;
-  constexpr std::size_t kManySlots = 1500;
-  if (slots * teams > kSlotsPerByte * fileSize) return false;
-  return slots <= kManySlots ||
-         slots * teams <= kSlotsPerContestant * contest.contestantNames.size();
+  return slots * teams <= kSlotsPerByte * fileSize;
 }
 
 bool readTeams(LineScanner& lines, std::size_t fileSize, Contest& contest) {
   if (!skipTo(lines, kTeamsMarker)) return false;
   const auto count = readRecordCount(lines);
   if (!count) return false;
-  const auto slots = static_cast<std::size_t>(std::max(contest.settings.totalNumPerTeam, 0));
-  if (!hasRoomForSlots(slots, static_cast<std::size_t>(*count), fileSize, contest)) return false;
+  const std::size_t slots = teamSlots(contest.settings);
+  if (!hasRoomForSlots(slots, static_cast<std::size_t>(*count), fileSize)) return false;
   for (std::int32_t i = 0; i < *count; ++i) {
     const auto line = lines.nextRecord();
     if (!line) return false;

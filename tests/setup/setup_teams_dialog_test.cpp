@@ -1,6 +1,8 @@
 #include "setup/setup_teams_dialog.h"
 
 #include "setup/setup_teams_controls.h"
+#include "storage/contest_reader.h"
+#include "storage/contest_writer.h"
 #include "tests/setup/reasons_contest.h"
 #include "tests/setup/setup_dialog.h"
 
@@ -234,6 +236,16 @@ TEST(SetupTeams, ClearAllTeamsAsksFirst) {
   cleared.contestantNames.clear();
   cleared.settings = emptyContest().contest.settings;
   EXPECT_EQ(currentContest(), cleared);
+}
+
+// A slip of the finger in the team size costs neither the memory nor the contest saved with it.
+TEST(SetupTeams, AMistypedTeamSizeStaysLoadable) {
+  TeamSetup setup(emptyContest().members(4, 2'000'000'000, 3).contest);
+  setup.addTeam("Elm", {"Ann"});
+  EXPECT_EQ(currentContest().teams["Elm"].members.size(), 1000U);
+  const auto loaded = readContest(writeContest(currentContest()));
+  ASSERT_TRUE(std::holds_alternative<Contest>(loaded));
+  EXPECT_EQ(std::get<Contest>(loaded).teams.at("Elm").members.size(), 1000U);
 }
 
 }  // namespace
