@@ -9,6 +9,7 @@ target_compile_options(
 if(SCORVANE_SANITIZE)
   set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_compile_options(scorvane_settings INTERFACE ${sanitizers})
+  target_compile_definitions(scorvane_settings INTERFACE _GLIBCXX_ASSERTIONS)
   target_link_options(scorvane_settings INTERFACE ${sanitizers})
 endif()
 if(SCORVANE_FUZZ)

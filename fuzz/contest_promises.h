@@ -1,0 +1,21 @@
+// What must hold of a contest whatever an operator did to it.
+#pragma once
+
+#include "model/contest.h"
+#include "tests/ui/memory_dialog.h"
+
+/// Watches a session for the few actions that deliberately loosen a promise, and checks the rest.
+class ContestPromises {
+ public:
+  /// To be told of every command before it runs, and of every action in the dialog it opened.
+  void commandStarts(int commandId) { command_ = commandId; }
+  void dialogActed(const MemoryDialog& dialog);
+
+  /// Ends the run when the contest breaks a promise.
+  void check(const Contest& contest) const;
+
+ private:
+  int command_ = 0;
+  bool classRefused_ = false;
+  bool numbersGivenUp_ = false;
+};
