@@ -241,7 +241,8 @@ TEST(SetupTeams, ClearAllTeamsAsksFirst) {
 // A slip of the finger in the team size costs neither the memory nor the contest saved with it.
 TEST(SetupTeams, AMistypedTeamSizeStaysLoadable) {
   TeamSetup setup(emptyContest().members(4, 2'000'000'000, 3).contest);
-  setup.addTeam("Elm", {"Ann"});
+  setup.dialog.fill(kTeamName, "Elm");
+  setup.dialog.click(kAddTeam);
   EXPECT_EQ(currentContest().teams["Elm"].members.size(), 1000U);
   const auto loaded = readContest(writeContest(currentContest()));
   ASSERT_TRUE(std::holds_alternative<Contest>(loaded));
