@@ -6,6 +6,7 @@
 #include "entry/questions_dialog.h"
 #include "entry/reasons_dialog.h"
 #include "model/contest.h"
+#include "view/report_text.h"
 
 namespace {
 
@@ -27,6 +28,7 @@ void inputPlacings(MainWindow& window) {
 
 void inputReasons(MainWindow& window) {
   if (currentContest().reasonsOrder.empty()) {
+    showReport(window, kWelcomeText);
     window.show(
         "You must first generate a reasons order before entering reasons scores.\n"
         "Select the Generate Reasons Order option in the Setup menu to do this.",

@@ -5,6 +5,6 @@
 
 void lookUpScores(MainWindow& window);
 void inputPlacings(MainWindow& window);
-/// Needs a reasons order; without one it only says so.
+/// Needs a reasons order; without one it says so, over the welcome text, instead of opening.
 void inputReasons(MainWindow& window);
 void inputQuestions(MainWindow& window);

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "model/class_lists.h"
-#include "storage/contest_commands.h"
 #include "text/format.h"
 
 void EntryChoice::open(Dialog& dialog, const JudgingClasses& classes,
@@ -60,13 +59,4 @@ bool mayEnterScores(Window& owner, const EnteredCount& count, const char* kind) 
   const std::string question =
       formatText("%s\n\n\nWould you like to re-enter scores for this group?", found.c_str());
   return owner.ask({question, "Information", Buttons::yesNo, Answer::yes}) != Answer::no;
-}
-
-void saveIfNamed(Window& owner) {
-  if (!currentFileName().empty()) saveCurrent(owner);
-}
-
-void saveAndEnd(Dialog& dialog) {
-  saveIfNamed(dialog);
-  dialog.end(kEntryDone);
 }

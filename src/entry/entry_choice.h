@@ -15,7 +15,6 @@ inline constexpr ControlId kContestantField = 1054;
 inline constexpr ControlId kEntryClassList = 1016;
 inline constexpr ControlId kEntryGroupList = 1053;
 inline constexpr ControlId kEntryScoreButton = 1004;
-inline constexpr ControlId kEntryDoneButton = 1003;
 
 /// The class, the group and the contestant that scores are being entered for; none at first.
 class EntryChoice {
@@ -54,12 +53,3 @@ class EntryChoice {
 /// Asks whether to enter scores again of a group that has some; `kind` is what they are called.
 /// True without asking when none is entered.
 [[nodiscard]] bool mayEnterScores(Window& owner, const EnteredCount& count, const char* kind);
-
-/// Saves the contest if it has a file; an untitled one is deliberately not asked a name for.
-void saveIfNamed(Window& owner);
-/// The same, then ends the dialog as done.
-void saveAndEnd(Dialog& dialog);
-
-/// What the entry dialogs end with.
-inline constexpr int kEntryDone = 1;
-inline constexpr int kEntryCancelled = 2;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "entry/entry_choice.h"
+#include "entry/entry_closing.h"
 #include "entry/last_score.h"
 #include "entry/score_card.h"
 #include "entry/typed_letter.h"
@@ -143,6 +144,8 @@ void lookUp(Dialog& dialog) {
   }
   showLastScore(dialog, *number, *line);
   dialog.focus(kNumberField);
+  // The next number is typed over this one.
+  dialog.selectText(kNumberField);
 }
 
 }  // namespace
@@ -167,11 +170,8 @@ void LookupDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
     score(dialog);
   } else if (id == kLookupButton) {
     lookUp(dialog);
-  } else if (id == kEntryDoneButton || id == kOkId) {
-    saveAndEnd(dialog);
-  } else if (id == kCancelId) {
-    dialog.end(kEntryCancelled);
   }
+  endOn(dialog, id, event);
 }
 
 void LookupDialog::closed(Dialog& dialog) {

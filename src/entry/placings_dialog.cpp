@@ -1,5 +1,6 @@
 #include "entry/placings_dialog.h"
 
+#include "entry/entry_closing.h"
 #include "entry/last_score.h"
 #include "entry/typed_letter.h"
 #include "model/class_lists.h"
@@ -18,15 +19,13 @@ void PlacingsDialog::opened(Dialog& dialog) {
 
 void PlacingsDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
   entry_.onEvent(dialog, id, event);
-  if (event != ControlEvent::clicked) return;
-  if (id == kEntryScoreButton) {
+  if (id == kEntryScoreButton && event == ControlEvent::clicked) {
     score(dialog);
     // The next card is typed at once, also after a press by mouse.
     dialog.focus(kLetterField);
-  } else if (id == kEntryDoneButton || id == kOkId || id == kCancelId) {
-    // Escape saves too: this dialog has no cancel, unlike the other entry dialogs.
-    saveAndEnd(dialog);
   }
+  // Deliberate: this dialog has no cancel, unlike the other entry dialogs.
+  endOn(dialog, id, event, Escape::saves);
 }
 
 void PlacingsDialog::closed(Dialog& dialog) {

@@ -1,5 +1,6 @@
 #include "entry/questions_dialog.h"
 
+#include "entry/entry_closing.h"
 #include "entry/last_score.h"
 #include "entry/score_card.h"
 #include "model/class_lists.h"
@@ -19,15 +20,11 @@ void QuestionsDialog::opened(Dialog& dialog) {
 
 void QuestionsDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
   entry_.onEvent(dialog, id, event);
-  if (event != ControlEvent::clicked) return;
-  if (id == kEntryScoreButton) {
+  if (id == kEntryScoreButton && event == ControlEvent::clicked) {
     score(dialog);
     dialog.focus(kCard.field);
-  } else if (id == kEntryDoneButton || id == kOkId) {
-    saveAndEnd(dialog);
-  } else if (id == kCancelId) {
-    dialog.end(kEntryCancelled);
   }
+  endOn(dialog, id, event);
 }
 
 void QuestionsDialog::closed(Dialog& dialog) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "entry/entry_closing.h"
 #include "entry/last_score.h"
 #include "entry/score_card.h"
 #include "model/class_lists.h"
@@ -45,15 +46,11 @@ void ReasonsDialog::opened(Dialog& dialog) {
 
 void ReasonsDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
   if (choice_.take(dialog, id, event)) start(dialog);
-  if (event != ControlEvent::clicked) return;
-  if (id == kEntryScoreButton) {
+  if (id == kEntryScoreButton && event == ControlEvent::clicked) {
     score(dialog);
     dialog.focus(kCard.field);
-  } else if (id == kEntryDoneButton || id == kOkId) {
-    saveAndEnd(dialog);
-  } else if (id == kCancelId) {
-    dialog.end(kEntryCancelled);
   }
+  endOn(dialog, id, event);
 }
 
 void ReasonsDialog::closed(Dialog& dialog) {

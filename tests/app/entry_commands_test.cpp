@@ -20,8 +20,10 @@ TEST(ScoreMenu, OpensTheEntryDialogsOverTheWelcomeText) {
 TEST(ScoreMenu, AsksForAReasonsOrderBeforeReasonsScores) {
   currentContest() = Contest{};
   MemoryMainWindow window;
+  reportText() = "old\n";
   runCommand(32823, window);
   EXPECT_TRUE(window.dialogs.empty());
+  EXPECT_EQ(window.shown, std::vector<std::string>{kWelcomeText});
   ASSERT_EQ(window.desktop.messages.size(), 1U);
   EXPECT_EQ(window.desktop.messages[0].caption, "Information");
   EXPECT_EQ(window.desktop.takeMessage(),

@@ -3,7 +3,7 @@
 import os
 import unittest
 
-from desktop import IDNO, IDYES, VK, DesktopTest, wait_for
+from desktop import IDNO, IDOK, IDYES, VK, DesktopTest, wait_for
 
 LOOKUP, PLACINGS, REASONS, QUESTIONS = 32791, 32822, 32823, 32826
 NUMBER, LETTER, REASONS_SCORE, QUESTIONS_SCORE, CLASSES, GROUPS = 1054, 1027, 1028, 1056, 1016, 1053
@@ -130,6 +130,35 @@ class Entry(DesktopTest):
         self.app.wait_closed(dialog)
         self.records[(104, 1)] = "X\t50\t0\t0"
         self.assertEqual(self.file.read_bytes(), self.content())
+
+    def test_every_way_of_closing_saves_but_the_cancel_that_three_dialogs_have(self):
+        ways = {"Escape": self.escape, "Done": lambda _: self.desktop.keys("alt+d"),
+                "OK": lambda dialog: dialog.command(IDOK), "close box": lambda dialog: dialog.close()}
+        numbers = ("11", "12", "13", "14")
+        letters = {"A": "50", "B": "46", "C": "47", "G": "48"}  # against A with the cuts 2, 3 and 4
+        for command, title, cards, place, record in (
+                (PLACINGS, "Input Placings Scores By Group", letters, (101, 0), "{0}\t{1}\t0\t0"),
+                (LOOKUP, "Lookup/Edit Individual Scores", letters, (102, 0), "{0}\t{1}\t0\t0"),
+                (REASONS, "Input Reasons Scores By Group", numbers, (103, 1), " \t0\t{0}\t0"),
+                (QUESTIONS, "Input Questions Scores By Group", numbers, (101, 0), "G\t48\t0\t{0}")):
+            for typed, (way, close) in zip(cards, ways.items()):
+                with self.subTest(title=title, way=way):
+                    dialog = self.open(command, title)
+                    dialog.choose(CLASSES, 0)
+                    if command == LOOKUP:
+                        dialog.type("102")
+                        dialog.press("Tab")
+                    else:
+                        dialog.choose(GROUPS, 0)
+                        if way != "Escape":  # the first way leaves a score for the next ones
+                            self.app.answer(IDYES, "Information")
+                    dialog.type(typed)
+                    dialog.press("Return")
+                    close(dialog)
+                    self.app.wait_closed(dialog)
+                    if way != "Escape" or command == PLACINGS:
+                        self.records[place] = record.format(typed, letters.get(typed))
+                    self.assertEqual(self.file.read_bytes(), self.content())
 
 
 if __name__ == "__main__":

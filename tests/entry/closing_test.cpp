@@ -8,27 +8,24 @@
 
 namespace {
 
-class ClosingEntry : public EntryTest {
- protected:
-  template <typename Behaviour>
-  void close(int resource, const std::string& way, bool named) {
-    Behaviour behaviour;
-    const TemporaryFolder folder;
-    currentFileName() = named ? folder.file("fair.scv") : "";
-    MemoryDialog dialog(resource, behaviour);
-    if (way == "Done") dialog.click(1003);
-    if (way == "OK") behaviour.onEvent(dialog, kOkId, ControlEvent::clicked);
-    if (way == "Escape") dialog.pressEscape();
-    if (way == "close box") dialog.pressCloseBox();
-    const bool cancelled = way == "Escape" && resource != kPlacingsDialog;
-    EXPECT_EQ(dialog.result(), cancelled ? 2 : 1) << dialog.caption() << way;
-    EXPECT_EQ(folder.count(), named && !cancelled ? 1U : 0U) << dialog.caption() << way;
-    EXPECT_TRUE(dialog.desktop.fileQuestions.empty()) << "no name is asked for";
-  }
-};
+constexpr ControlId kDone = 1003;
+constexpr ControlId kCloseBox = 0;
 
-TEST_F(ClosingEntry, SavesAContestWithAFileExceptWhenCancelled) {
-  for (const std::string way : {"Done", "OK", "Escape", "close box"}) {
+template <typename Behaviour>
+void close(int resource, ControlId way, bool named) {
+  Behaviour behaviour;
+  const TemporaryFolder folder;
+  currentFileName() = named ? folder.file("fair.scv") : "";
+  MemoryDialog dialog(resource, behaviour);
+  way == kCloseBox ? dialog.pressCloseBox() : behaviour.onEvent(dialog, way, ControlEvent::clicked);
+  const bool cancelled = way == kCancelId && resource != kPlacingsDialog;
+  EXPECT_EQ(dialog.result(), cancelled ? 2 : 1) << dialog.caption() << way;
+  EXPECT_EQ(folder.count(), named && !cancelled ? 1U : 0U) << dialog.caption() << way;
+  EXPECT_TRUE(dialog.desktop.fileQuestions.empty()) << "no name is asked for";
+}
+
+TEST_F(EntryTest, ClosingSavesAContestWithAFileExceptWhenCancelled) {
+  for (const ControlId way : {kDone, kOkId, kCancelId, kCloseBox}) {
     for (const bool named : {true, false}) {
       close<LookupDialog>(kLookupDialog, way, named);
       close<PlacingsDialog>(kPlacingsDialog, way, named);

@@ -6,10 +6,7 @@
 
 namespace {
 
-constexpr ControlId kNumber = 1054;
-constexpr ControlId kClasses = 1016;
-constexpr ControlId kGroups = 1053;
-constexpr ControlId kScore = 1004;
+constexpr ControlId kNumber = 1054, kClasses = 1016, kGroups = 1053, kScore = 1004;
 
 // An operator at one of the dialogs, who types into its score field.
 template <typename Behaviour, int resource, ControlId field>
@@ -17,20 +14,23 @@ struct Desk {
   Behaviour behaviour;
   MemoryDialog dialog{resource, behaviour};
 
-  // Chooses a class and a group and gives the contestant then shown, or the question answered.
+  // Chooses a class and a group; gives the question that was answered and the contestant shown.
   std::string choose(int classLine, int groupLine, std::optional<Answer> answer = {}) {
     dialog.desktop.messages.clear();
     if (answer) dialog.desktop.answers = {*answer};
     dialog.choose(kClasses, classLine);
     dialog.choose(kGroups, groupLine);
-    return lastMessage(dialog) + dialog.text(kNumber);
+    EXPECT_EQ(dialog.focused(), field);
+    return lastMessage(dialog) + contestant();
   }
-  bool nothingChosen() {
-    return !dialog.selection(kClasses) && !dialog.selection(kGroups) &&
-           dialog.text(kNumber).empty();
+  // The contestant shown, or "end" when the lists are free again.
+  std::string contestant() {
+    const std::string number = dialog.text(kNumber);
+    const bool chosen = dialog.selection(kClasses) || dialog.selection(kGroups);
+    return chosen || !number.empty() ? number : "end";
   }
   // Types a score and presses Enter, or Score by mouse; gives the message with what is left of the
-  // typing, or the last score and the next contestant ("end" when the lists are free again).
+  // typing, or the last score and the next contestant.
   std::string enter(const char* typed, bool byMouse = false) {
     dialog.desktop.messages.clear();
     dialog.fill(field, typed);
@@ -39,7 +39,15 @@ struct Desk {
     const std::string left = dialog.text(field);
     if (!dialog.desktop.messages.empty()) return lastMessage(dialog) + " [" + left + "]";
     EXPECT_EQ(left, "");
-    return lastScore() + (nothingChosen() ? "end" : dialog.text(kNumber));
+    return lastScore() + contestant();
+  }
+  // The lines of both lists and the focus.
+  std::string opened() {
+    std::string all;
+    for (const ControlId list : {kClasses, kGroups}) {
+      for (const std::string& line : dialog.lines(list)) all += line + '|';
+    }
+    return all + std::to_string(dialog.focused());
   }
   std::string lastScore() {
     if (resource == 147) return textsOf(dialog, {1031, 1032, 1033, 1034, 1030});
@@ -49,23 +57,13 @@ struct Desk {
 using Placings = Desk<PlacingsDialog, kPlacingsDialog, 1027>;
 using Reasons = Desk<ReasonsDialog, kReasonsDialog, 1028>;
 using Questions = Desk<QuestionsDialog, kQuestionsDialog, 1056>;
-using Lines = std::vector<std::string>;
-
-class GroupEntryTest : public EntryTest {};
+using GroupEntryTest = EntryTest;
 
 TEST_F(GroupEntryTest, OpensOnTheScoreFieldWithTheClassesThatCarryTheScore) {
-  Placings placings;
-  EXPECT_EQ(placings.dialog.lines(kClasses), (Lines{" 1.  Steers", " 2.  Ewes", " 3.  Gilts"}));
-  EXPECT_EQ(placings.dialog.lines(kGroups), (Lines{"   A   ", "   B   ", "   C   "}));
-  EXPECT_EQ(placings.lastScore(), "|||(-,-,-)||");
-  EXPECT_EQ(placings.dialog.focused(), 1027);
-  Reasons reasons;
-  EXPECT_EQ(reasons.dialog.lines(kClasses), (Lines{" 2.  Ewes", " 3.  Gilts"}));
-  EXPECT_EQ(reasons.dialog.lines(kGroups), (Lines{"   1   ", "   2   ", "   3   "}));
-  EXPECT_EQ(reasons.dialog.focused(), 1028);
-  Questions questions;
-  EXPECT_EQ(questions.dialog.lines(kClasses), (Lines{" 1.  Steers", " 3.  Gilts"}));
-  EXPECT_EQ(questions.dialog.focused(), 1056);
+  EXPECT_EQ(Placings().opened(), " 1.  Steers| 2.  Ewes| 3.  Gilts|   A   |   B   |   C   |1027");
+  EXPECT_EQ(Reasons().opened(), " 2.  Ewes| 3.  Gilts|   1   |   2   |   3   |1028");
+  EXPECT_EQ(Questions().opened(), " 1.  Steers| 3.  Gilts|   A   |   B   |   C   |1056");
+  EXPECT_EQ(Placings().lastScore(), "|||(-,-,-)||");
 }
 
 TEST_F(GroupEntryTest, StoresLettersWithTheirPlacingScore) {
@@ -145,15 +143,10 @@ TEST_F(GroupEntryTest, AsksBeforeAGroupIsEnteredAgain) {
   EXPECT_EQ(placings.choose(2, 0, Answer::yes), question("1 (out of 2) placings") + "101");
   EXPECT_EQ(placings.dialog.desktop.messages[0].buttons, Buttons::yesNo);
   EXPECT_EQ(placings.dialog.desktop.messages[0].defaultAnswer, Answer::yes);
-  EXPECT_EQ(placings.dialog.focused(), 1027);
   Reasons reasons;
-  EXPECT_EQ(reasons.choose(1, 0, Answer::no), question("2 (out of 3) reasons"));
-  EXPECT_TRUE(reasons.nothingChosen());
+  EXPECT_EQ(reasons.choose(1, 0, Answer::no), question("2 (out of 3) reasons") + "end");
   EXPECT_EQ(reasons.enter("9"), "Error: You must select a class before entering a score. [9]");
-  Questions questions;
-  EXPECT_EQ(questions.choose(1, 0, Answer::no), question("1 (out of 2) questions"));
-  EXPECT_TRUE(questions.nothingChosen());
-  EXPECT_EQ(questions.dialog.focused(), 1056);
+  EXPECT_EQ(Questions().choose(1, 0, Answer::no), question("1 (out of 2) questions") + "end");
 }
 
 TEST_F(GroupEntryTest, StartsAnewWithAnotherChoiceButNotWithAnEmptyGroup) {

@@ -6,13 +6,9 @@
 
 namespace {
 
-constexpr ControlId kNumber = 1026;
-constexpr ControlId kLetter = 1027;
-constexpr ControlId kReasons = 1028;
-constexpr ControlId kQuestions = 1056;
-constexpr ControlId kClasses = 1016;
-constexpr ControlId kScore = 1004;
-constexpr ControlId kLookup = 1005;
+constexpr ControlId kNumber = 1026, kLetter = 1027, kReasons = 1028, kQuestions = 1056;
+constexpr ControlId kClasses = 1016, kScore = 1004, kLookup = 1005;
+constexpr const char* kAbsent = "Warning: Error:  Contestant Number doesn't exist.";
 
 class Lookup : public EntryTest {
  protected:
@@ -36,8 +32,7 @@ TEST_F(Lookup, ReachesOnlyTheScoresThatTheClassCarries) {
             (std::vector<std::string>{" 1.  Steers", " 2.  Ewes", " 3.  Gilts"}));
   EXPECT_EQ(lastScore(), "|||(-,-,-)||||");
   EXPECT_EQ(dialog_.focused(), kNumber);
-  EXPECT_FALSE(dialog_.isEnabled(kReasons));
-  EXPECT_FALSE(dialog_.isEnabled(kQuestions));
+  EXPECT_FALSE(dialog_.isEnabled(kReasons) || dialog_.isEnabled(kQuestions));
   dialog_.choose(kClasses, 2);
   dialog_.fill(kReasons, "30");
   dialog_.fill(kQuestions, "20");
@@ -71,8 +66,11 @@ TEST_F(Lookup, ShowsDashesForScoresThatTheClassDoesNotCarry) {
   dialog_.choose(kClasses, 0);
   EXPECT_EQ(press(kScore, {"101", "", "", ""}), "101|A|A|(2,3,4)|50|---|8|");
   dialog_.choose(kClasses, 1);
-  EXPECT_EQ(press(kLookup, {"101", "", "", ""}), "101|A|X|(5,5,5)|20|7|---|");
-  EXPECT_EQ(press(kLookup, {"102", "", "", ""}), "102| |X|(5,5,5)|0|0|---|");
+  EXPECT_EQ(press(kLookup, {"101", "C", "5", ""}), "101|A|X|(5,5,5)|20|7|---|");
+  EXPECT_EQ(fields(), "101||||");
+  dialog_.keys("102");  // over the number just looked up
+  dialog_.click(kLookup);
+  EXPECT_EQ(lastScore(), "102| |X|(5,5,5)|0|0|---|");
   EXPECT_EQ(contest(), before);
 }
 
@@ -80,33 +78,34 @@ TEST_F(Lookup, ShowsDashesForScoresThatTheClassDoesNotCarry) {
 TEST_F(Lookup, RefusesAScoreForTheFirstThingWrong) {
   struct Case {
     std::array<const char*, 4> typed;
-    const char* message;
+    std::string message;
     const char* left;
     ControlId focused;
     bool classChosen = true;
   };
-  const char* reasons = "Reasons score must be between 0 and 50.";
-  const char* questions = "Questions score must be between 0 and 50.";
-  const char* letters = "too many letters entered for score.";
-  const char* absent = "Contestant Number doesn't exist.";
+  const std::string error = "Warning: Error:  ";
+  const std::string reasons = error + "Reasons score must be between 0 and 50.";
+  const std::string questions = error + "Questions score must be between 0 and 50.";
   const Case cases[] = {
       {{"", "AB", "51", "51"}, reasons, "|AB||51|", kReasons},
       {{"101", "A", "-1", ""}, reasons, "101|A|||", kReasons},
       {{"101", "A", "99999999999999999999999", ""}, reasons, "101|A|||", kReasons},
       {{"", "AB", "50", "51"}, questions, "|AB|50||", kQuestions},
-      {{"", "AB", "50", "50"}, letters, "|||50|", kLetter},
-      {{"", "Y", "5", "5"}, "score must be between A and X <Y> (Z=zero).", "|||5|", kLetter},
-      {{"", "A", "", ""}, "no class selected.", "|A|||", kClasses, false},
-      {{"", "A", "5", "6"}, "no member number entered.", "|A|5|6|", kNumber},
-      {{"107", "A", "5", "6"}, absent, "||||", kNumber},
-      {{"4294967397", "A", "5", "6"}, absent, "||||", kNumber},
+      {{"", "AB", "50", "50"}, error + "too many letters entered for score.", "|||50|", kLetter},
+      {{"", "Y", "5", "5"},
+       error + "score must be between A and X <Y> (Z=zero).",
+       "|||5|",
+       kLetter},
+      {{"", "A", "", ""}, error + "no class selected.", "|A|||", kClasses, false},
+      {{"", "A", "5", "6"}, error + "no member number entered.", "|A|5|6|", kNumber},
+      {{"107", "A", "5", "6"}, kAbsent, "||||", kNumber},
+      {{"4294967397", "A", "5", "6"}, kAbsent, "||||", kNumber},
   };
   for (const Case& c : cases) {
     dialog_.choose(kClasses, 2);
-    press(kLookup, {"", "", "", ""});
     if (!c.classChosen) dialog_.select(kClasses, std::nullopt);
     press(kScore, c.typed);
-    EXPECT_EQ(lastMessage(dialog_), std::string("Warning: Error:  ") + c.message);
+    EXPECT_EQ(lastMessage(dialog_), c.message);
     EXPECT_EQ(fields(), c.left) << c.message;
     EXPECT_EQ(dialog_.focused(), c.focused) << c.message;
   }
@@ -114,12 +113,11 @@ TEST_F(Lookup, RefusesAScoreForTheFirstThingWrong) {
 }
 
 TEST_F(Lookup, RefusesALookupForTheNumberFirst) {
-  const std::string absent = "Warning: Error:  Contestant Number doesn't exist.";
   dialog_.choose(kClasses, 2);
   dialog_.fill(kQuestions, "6");
   dialog_.select(kClasses, std::nullopt);
   press(kLookup, {"107", "A", "5", "6"});
-  EXPECT_EQ(lastMessage(dialog_), absent);
+  EXPECT_EQ(lastMessage(dialog_), kAbsent);
   EXPECT_EQ(fields(), "|||6|") << "the questions score stays";
   EXPECT_EQ(dialog_.focused(), kNumber);
   contest().contestantNames[0] = "Zoe";

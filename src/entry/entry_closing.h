@@ -1,0 +1,15 @@
+// How the entry dialogs end.
+#pragma once
+
+#include "ui/dialog.h"
+
+/// What Escape does: most entry dialogs have a cancel that leaves the file alone.
+enum class Escape { leavesFile, saves };
+
+/// Ends the dialog when the event is its Done or OK, after saving, or its Cancel. The scores
+/// stored so far stay in the contest in any case.
+void endOn(Dialog& dialog, ControlId id, ControlEvent event, Escape escape = Escape::leavesFile);
+
+/// Saves the contest if it has a file, and ends the dialog. An untitled contest is deliberately
+/// not asked a name for.
+void saveAndEnd(Dialog& dialog);
