@@ -130,8 +130,7 @@ std::string documentTitle(std::string_view report) {
 
 std::vector<PrintOperation> layOutPrint(std::string_view report, const PrintHeader& header,
                                         std::int32_t linesPerPage, std::int32_t bottomMargin) {
-  const std::int64_t lastBodyRow = std::int64_t{linesPerPage} - bottomMargin;
-  return Layout(report, header, std::max(lastBodyRow, kFirstBodyRow)).run();
+  return Layout(report, header, std::int64_t{linesPerPage} - bottomMargin).run();
 }
 
 std::int64_t pageCount(const std::vector<PrintOperation>& operations) {

@@ -53,9 +53,9 @@ using PrintOperation = std::variant<print_operation::StartPage, print_operation:
                                     print_operation::SelectFont, print_operation::EndPage>;
 
 /// The operations that print `report`, from the start of the first page to the end of the last.
-/// Only lines that end in a line feed are printed. A page that has no room for its header, one
-/// line of the report and its footer is laid out as if it had just that room, so that any
-/// `linesPerPage` gives a print of at most one page more than there are lines.
+/// Only lines that end in a line feed are printed. Pages without room for the header, one line of
+/// the report and the footer take one line each, and footers run over the page's edges: rows past
+/// the end, and below 1 on the last page.
 [[nodiscard]] std::vector<PrintOperation> layOutPrint(std::string_view report,
                                                       const PrintHeader& header,
                                                       std::int32_t linesPerPage,
