@@ -248,6 +248,22 @@ def about(stage):
     stage.take(stage.dialog(104, "About Scorvane"), colours=128)
 
 
+@scene
+def printed_page(stage):
+    with private_cups.PrivateCups(BUILD / "picture-cups") as printer:
+        stage.desktop.environment.update(printer.environment())
+        main = stage.start()
+        main.command(32801)
+        main.command(32805)
+        stage.app.window("Print").command(1)
+        page = printer.wait_for_document(1)
+        stage.app.main()
+        drawn = subprocess.run(["pdftoppm", "-r", "100", "-png", "-singlefile", page], check=True,
+                               stdout=subprocess.PIPE).stdout
+        subprocess.run(["convert", "-", "-strip", "-colorspace", "gray", "-colors", "8",
+                        f"PNG8:{PICTURES / stage.name}.png"], check=True, input=drawn)
+
+
 def many_teams():
     """A contest that takes a while to print."""
     file = BUILD / "many-teams.scv"
@@ -282,7 +298,7 @@ def main():
     if unknown:
         sys.exit(f"no picture is called {', '.join(unknown)}; there are: {', '.join(scenes)}")
     PICTURES.mkdir(exist_ok=True)
-    desktop = Desktop(size="1920x1400x24", dpi=DPI, prefix=BUILD / "wine-prefix-pictures")
+    desktop = Desktop(size="1700x1150x24", dpi=DPI, prefix=BUILD / "wine-prefix-pictures")
     use_fonts(desktop)
     try:
         for name in chosen:
