@@ -3,11 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <initializer_list>
-#include <string>
-#include <utility>
-#include <vector>
-
 #include "storage/contest_commands.h"
 #include "tests/support/contest_builder.h"
 #include "tests/ui/memory_dialog.h"
@@ -48,16 +43,14 @@ struct SetupDialog {
     const std::string caption = dialog.desktop.messages.back().caption;
     return dialog.desktop.takeMessage() + "|" + caption;
   }
-  /// Presses a button; gives the message this shows, as takeMessage().
-  std::string press(ControlId button) {
-    dialog.click(button);
-    return takeMessage();
-  }
-  /// Presses a button that asks before it destroys something, and answers.
-  std::string pressAndAnswer(ControlId button, Answer answer) {
+  /// Presses a button; gives the message this shows, as takeMessage(). A question must propose
+  /// Cancel, and gets `answer`.
+  std::string press(ControlId button, Answer answer = Answer::ok) {
     dialog.desktop.answers = {answer};
     dialog.click(button);
-    EXPECT_EQ(dialog.desktop.messages.back().defaultAnswer, Answer::cancel);
+    for (const Message& shown : dialog.desktop.messages) {
+      EXPECT_EQ(shown.defaultAnswer == Answer::cancel, shown.buttons == Buttons::okCancel);
+    }
     return takeMessage();
   }
 };

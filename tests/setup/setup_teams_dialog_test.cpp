@@ -1,5 +1,6 @@
 #include "setup/setup_teams_dialog.h"
 
+#include "model/numbering.h"
 #include "setup/setup_teams_controls.h"
 #include "storage/contest_reader.h"
 #include "storage/contest_writer.h"
@@ -19,14 +20,13 @@ struct TeamSetup : SetupDialog<SetupTeamsDialog, kDialog> {
       dialog.pressEnter();
     }
   }
-  [[nodiscard]] std::string team() const { return texts({kTeamName, kCoach}); }
-  [[nodiscard]] std::string member() const { return texts({kNumber, kContestantName, kGroup}); }
+  [[nodiscard]] std::string fields() const {
+    return texts({kTeamName, kCoach, kNumber, kContestantName, kGroup});
+  }
   // Adding mode: nothing selected or listed, the next number and group shown.
-  void expectReset(const std::string& nextMember) const {
-    EXPECT_FALSE(dialog.selection(kTeamList));
-    EXPECT_EQ(dialog.lineCount(kMemberList), 0);
-    EXPECT_EQ(team() + member(), "|" + nextMember);
-    EXPECT_EQ(dialog.defaultButton(), kAddMember);
+  [[nodiscard]] bool isReset(const std::string& number, const std::string& group) const {
+    return fields() == "||" + number + "||" + group && !dialog.selection(kTeamList) &&
+           dialog.lineCount(kMemberList) == 0 && dialog.defaultButton() == kAddMember;
   }
 };
 
@@ -49,7 +49,7 @@ TEST(SetupTeams, TeamsAreTypedInAndGetNumbersForAllTheirSlots) {
   Contest contest = emptyContest().contest;
   contest.scores[105][0].letter = 'B';  // of a contestant removed long ago
   TeamSetup setup(contest);
-  setup.expectReset("101||A");
+  EXPECT_TRUE(setup.isReset("101", "A"));
   EXPECT_EQ(setup.dialog.focused(), kTeamName);
   setup.dialog.keys("Elm");
   setup.dialog.paste(kCoach, "Mr.\tOak");
@@ -60,9 +60,9 @@ TEST(SetupTeams, TeamsAreTypedInAndGetNumbersForAllTheirSlots) {
   EXPECT_EQ(setup.dialog.lines(kMemberList),
             (Lines{"101 - Ann   A", "102 - Ben - B   B", "103 - Cy   C", "104 - Dee   D",
                    "105 - Eve   A (alternate)"}));
-  EXPECT_EQ(setup.member(), "106||B");
+  EXPECT_EQ(setup.fields(), "Elm|Mr.\tOak|106||B");
   setup.dialog.click(kAddTeam);
-  setup.expectReset("106||B");
+  EXPECT_TRUE(setup.isReset("106", "B"));
   setup.dialog.fill(kTeamName, "ash");
   setup.addMembers({"Fay", "Gus"});
   setup.dialog.click(kAddTeam);
@@ -85,7 +85,6 @@ TEST(SetupTeams, MembersOfAnUnwrittenTeamLeaveAgain) {
     TeamSetup setup(contest);
     setup.addMembers({"Hal", "Ida"});
     EXPECT_TRUE(currentContest().contestantNames.contains(112));
-    setup.dialog.pressEscape();
     leave(setup.dialog);
     EXPECT_EQ(currentContest().contestantNames, contest.contestantNames);
     EXPECT_EQ(currentContest().contestantGroup, contest.contestantGroup);
@@ -95,27 +94,26 @@ TEST(SetupTeams, MembersOfAnUnwrittenTeamLeaveAgain) {
 
 TEST(SetupTeams, AShownTeamIsUpdatedSlotBySlot) {
   TeamSetup setup(twoTeams());
-  MemoryDialog& dialog = setup.dialog;
-  dialog.choose(kTeamList, 0);
-  EXPECT_EQ(setup.team() + setup.member(), "ash|||");
+  setup.dialog.choose(kTeamList, 0);
+  EXPECT_EQ(setup.fields(), "ash||||");
   EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kContestantName, kAddMember));
-  dialog.choose(kMemberList, 1);
-  dialog.fill(kNumber, "999");
-  dialog.fill(kGroup, "Z");
-  EXPECT_EQ(setup.member(), "107|Gus|C");
-  dialog.choose(kMemberList, 4);
+  setup.dialog.choose(kMemberList, 1);
+  setup.dialog.fill(kNumber, "999");
+  setup.dialog.fill(kGroup, "Z");
+  EXPECT_EQ(setup.fields(), "ash||107|Gus|C");
+  setup.dialog.choose(kMemberList, 4);
   EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kContestantName, kUpdateMember));
-  dialog.keys("Hal");
-  dialog.pressEnter();
-  EXPECT_EQ(dialog.lines(kMemberList), (Lines{"106 - Fay   B", "107 - Gus   C", "108 -    D",
-                                              "109 -    A", "110 - Hal   B (alternate)"}));
-  EXPECT_FALSE(dialog.selection(kMemberList));
+  setup.dialog.keys("Hal");
+  setup.dialog.pressEnter();
+  EXPECT_EQ(setup.dialog.lines(kMemberList), (Lines{"106 - Fay   B", "107 - Gus   C", "108 -    D",
+                                                    "109 -    A", "110 - Hal   B (alternate)"}));
+  EXPECT_FALSE(setup.dialog.selection(kMemberList));
   // What was changed in a written team stays without Update Team.
-  dialog.choose(kTeamList, 1);
-  EXPECT_EQ(setup.team(), "Elm|Mr. Oak");
-  dialog.click(kNewTeam);
-  setup.expectReset("111||C");
-  EXPECT_EQ(dialog.focused(), kTeamName);
+  setup.dialog.choose(kTeamList, 1);
+  EXPECT_EQ(setup.fields(), "Elm|Mr. Oak|||");
+  setup.dialog.click(kNewTeam);
+  EXPECT_TRUE(setup.isReset("111", "C"));
+  EXPECT_EQ(setup.dialog.focused(), kTeamName);
   Contest expected = twoTeams();
   expected.contestantNames[110] = "Hal";
   EXPECT_EQ(currentContest(), expected);
@@ -128,7 +126,7 @@ TEST(SetupTeams, UpdateTeamRenamesAndKeepsTheCoachOfAnEmptyField) {
     setup.dialog.fill(kTeamName, name);
     setup.dialog.fill(kCoach, coach);
     setup.dialog.click(kUpdateTeam);
-    setup.expectReset("111||C");
+    EXPECT_TRUE(setup.isReset("111", "C"));
     return setup.dialog.lines(kTeamList);
   };
   EXPECT_EQ(rename(1, "Yew", ""), (Lines{"ash", "Yew"}));
@@ -166,7 +164,7 @@ TEST(SetupTeams, ButtonsRefuseWhatDoesNotFit) {
   dialog.fill(kCoach, "Mr. Fir");
   EXPECT_EQ(setup.press(kAddTeam), "You didn't enter a team name!|Warning");
   // The number shown is a new member's now, so no old line may take it.
-  EXPECT_EQ(setup.team() + setup.member(), "|112||D");
+  EXPECT_EQ(setup.fields(), "||112||D");
   EXPECT_FALSE(dialog.selection(kMemberList));
   EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kTeamName, kAddMember));
   dialog.choose(kTeamList, 0);
@@ -174,27 +172,21 @@ TEST(SetupTeams, ButtonsRefuseWhatDoesNotFit) {
   EXPECT_EQ(currentContest().teams, twoTeams().teams);
 }
 
-TEST(SetupTeams, ADeletedMemberKeepsTheNumberAndAFirstCell) {
+TEST(SetupTeams, ADeletedMemberKeepsTheNumber) {
   Contest contest = twoTeams();
   contest.settings.numReasonsGroups = 2;
   contest.reasonsOrder.reset(10, 2);
-  placeGroup(contest, 0, {101, 102});
-  placeGroup(contest, 1, {103, 104, 105});
+  placeGroup(contest, 1, {101, 102, 103});
   TeamSetup setup(contest);
   setup.dialog.choose(kTeamList, 1);
-  for (const int slot : {1, 2, 3}) {
-    setup.dialog.choose(kMemberList, slot);
-    setup.dialog.click(kDeleteMember);
-    EXPECT_EQ(setup.dialog.defaultButton(), kAddMember);
-    EXPECT_EQ(setup.member(), "||");
-  }
+  setup.dialog.choose(kMemberList, 1);
+  setup.dialog.click(kDeleteMember);
+  EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kContestantName, kAddMember));
+  EXPECT_EQ(setup.fields(), "Elm|Mr. Oak|||");
   EXPECT_EQ(setup.dialog.line(kMemberList, 1), "102 -    B");
-  // 102 speaks to the first group and 103 first to the second; only 104's cell is closed up.
-  placeGroup(contest, 1, {103, 105, kNobody});
-  for (const ContestantNumber number : {102, 103, 104}) {
-    contest.contestantNames[number] = "";
-    contest.reasonsPlace[number] = {};
-  }
+  contest.contestantNames[102] = "";
+  contest.reasonsPlace[102] = {};
+  placeGroup(contest, 1, {101, 103, kNobody});
   EXPECT_EQ(currentContest(), contest);
 }
 
@@ -206,12 +198,11 @@ TEST(SetupTeams, ARemovedTeamLeavesItsGroupsAndScores) {
   const auto remove = [&](int line, ContestantNumber number) {
     setup.dialog.choose(kTeamList, line);
     setup.dialog.click(kRemoveTeam);
-    setup.expectReset("104||D");
+    EXPECT_TRUE(setup.isReset("104", "D"));
     contest.teams.erase("Team " + std::to_string(number));
     contest.contestantNames.erase(number);
+    updateNextContestant(contest);
   };
-  contest.settings.nextContestantNum = 104;
-  contest.settings.nextGroupLetter = 'D';
   // A team without a place in the reasons order leaves it alone, gap included.
   remove(3, 104);
   EXPECT_EQ(currentContest(), contest);
@@ -225,16 +216,16 @@ TEST(SetupTeams, ARemovedTeamLeavesItsGroupsAndScores) {
 TEST(SetupTeams, ClearAllTeamsAsksFirst) {
   TeamSetup setup(twoTeams());
   setup.dialog.choose(kTeamList, 1);
-  EXPECT_EQ(setup.pressAndAnswer(kClearAllTeams, Answer::cancel),
+  EXPECT_EQ(setup.press(kClearAllTeams, Answer::cancel),
             "This will delete all teams!  Continue?|Warning");
   EXPECT_EQ(setup.dialog.lineCount(kMemberList), 5);
-  setup.pressAndAnswer(kClearAllTeams, Answer::ok);
-  setup.expectReset("101||A");
+  setup.press(kClearAllTeams, Answer::ok);
+  EXPECT_TRUE(setup.isReset("101", "A"));
   EXPECT_EQ(setup.dialog.lineCount(kTeamList), 0);
   Contest cleared = twoTeams();
   cleared.teams.clear();
   cleared.contestantNames.clear();
-  cleared.settings = emptyContest().contest.settings;
+  updateNextContestant(cleared);
   EXPECT_EQ(currentContest(), cleared);
 }
 
