@@ -8,22 +8,14 @@
 #include "model/contest.h"
 #include "view/report_text.h"
 
-namespace {
-
-template <typename Behaviour>
-void runEntry(MainWindow& window, int resourceId) {
-  Behaviour behaviour;
-  runDialogOverWelcome(window, resourceId, behaviour);
-}
-
-}  // namespace
-
 void lookUpScores(MainWindow& window) {
-  runEntry<LookupDialog>(window, kLookupDialog);
+  LookupDialog dialog;
+  runDialogOverWelcome(window, kLookupDialog, dialog);
 }
 
 void inputPlacings(MainWindow& window) {
-  runEntry<PlacingsDialog>(window, kPlacingsDialog);
+  GroupEntryDialog dialog = placingsDialog();
+  runDialogOverWelcome(window, kPlacingsDialog, dialog);
 }
 
 void inputReasons(MainWindow& window) {
@@ -35,9 +27,11 @@ void inputReasons(MainWindow& window) {
         "Information");
     return;
   }
-  runEntry<ReasonsDialog>(window, kReasonsDialog);
+  ReasonsDialog dialog;
+  runDialogOverWelcome(window, kReasonsDialog, dialog);
 }
 
 void inputQuestions(MainWindow& window) {
-  runEntry<QuestionsDialog>(window, kQuestionsDialog);
+  GroupEntryDialog dialog = questionsDialog();
+  runDialogOverWelcome(window, kQuestionsDialog, dialog);
 }

@@ -1,8 +1,5 @@
 #include "entry/group_entry.h"
 
-#include <algorithm>
-#include <utility>
-
 #include "text/format.h"
 
 namespace {
@@ -24,35 +21,47 @@ char letterOfLine(const std::string& line) {
 
 }  // namespace
 
-void GroupEntry::open(Dialog& dialog, std::vector<std::int32_t> listed) {
+void GroupEntryDialog::opened(Dialog& dialog) {
   const Contest& contest = currentContest();
-  choice_.open(dialog, contest.classes, std::move(listed), groupLines(contest.groupLetters));
-  dialog.focus(kind_.scoreField);
+  choice_.open(dialog, contest.classes, scores_.listed(contest.classes),
+               groupLines(contest.groupLetters));
+  dialog.focus(scores_.scoreField);
 }
 
-void GroupEntry::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
-  if (!choice_.take(dialog, id, event)) return;
-  group_ = letterOfLine(dialog.line(kEntryGroupList, choice_.groupIndex()));
-  start(dialog);
+void GroupEntryDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
+  if (choice_.take(dialog, id, event)) {
+    group_ = letterOfLine(dialog.line(kEntryGroupList, choice_.groupIndex()));
+    start(dialog);
+  }
+  if (id == kEntryScoreButton && event == ControlEvent::clicked) {
+    if (choice_.isMade(dialog, "group") && scores_.enter(dialog, choice_)) advance(dialog);
+    // The next card is typed at once, also after a press by mouse.
+    dialog.focus(scores_.scoreField);
+  }
+  endOn(dialog, id, event, scores_.escape);
 }
 
-void GroupEntry::start(Dialog& dialog) {
+void GroupEntryDialog::closed(Dialog& dialog) {
+  saveAndEnd(dialog);
+}
+
+void GroupEntryDialog::start(Dialog& dialog) {
   const Contest& contest = currentContest();
   const std::optional<ContestantNumber> first = firstMember(contest, group_);
   // A group without members deliberately leaves everything as it stands, also a contestant still
   // shown from the group chosen before.
   if (!first) return;
   choice_.setContestant(first);
-  const EnteredCount count = countEntered(contest, group_, choice_.classIndex(), kind_.score);
-  if (mayEnterScores(dialog, count, kind_.name)) {
+  const EnteredCount count = countEntered(contest, group_, choice_.classIndex(), scores_.score);
+  if (mayEnterScores(dialog, count, scores_.name)) {
     choice_.showContestant(dialog, first);
   } else {
     choice_.clear(dialog);
   }
-  dialog.focus(kind_.scoreField);
+  dialog.focus(scores_.scoreField);
 }
 
-void GroupEntry::advance(Dialog& dialog) {
+void GroupEntryDialog::advance(Dialog& dialog) {
   const std::optional<ContestantNumber> current = choice_.contestant();
   const auto next = current ? nextMember(currentContest(), group_, *current) : std::nullopt;
   if (next) {

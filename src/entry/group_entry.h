@@ -1,30 +1,34 @@
-// Entering scores of a rotation group for a class, in ascending contestant number.
+// Entering one kind of score of a rotation group for a class, in ascending contestant number.
 #pragma once
 
 #include "entry/entry_choice.h"
+#include "entry/entry_closing.h"
 
-class GroupEntry {
+/// What is entered, and how.
+struct GroupScores {
+  const char* name;      ///< what the re-enter question calls the scores
+  ScoreField score;      ///< other than 0 counts as entered
+  ControlId scoreField;  ///< where the operator types
+  std::vector<std::int32_t> (*listed)(
+      const JudgingClasses& classes);  ///< the classes to choose from
+  /// Takes over what is typed for the class and contestant chosen, and shows the last score. False
+  /// when it was refused, with a message.
+  bool (*enter)(Dialog& dialog, const EntryChoice& choice);
+  Escape escape = Escape::leavesFile;
+};
+
+class GroupEntryDialog : public DialogBehaviour {
  public:
-  struct Kind {
-    const char* name;      ///< what the re-enter question calls the scores
-    ScoreField score;      ///< other than 0 counts as entered
-    ControlId scoreField;  ///< where the operator types
-  };
-  explicit GroupEntry(const Kind& kind) : kind_(kind) {}
-
-  /// Fills the lists, `listed` being the classes shown, and goes to the score field.
-  void open(Dialog& dialog, std::vector<std::int32_t> listed);
-  /// Answers a choice in one of the lists; ignores all other events.
-  void onEvent(Dialog& dialog, ControlId id, ControlEvent event);
-  /// Goes on to the group's next contestant, or back to nothing chosen after the last one.
-  void advance(Dialog& dialog);
-
-  [[nodiscard]] const EntryChoice& choice() const { return choice_; }
+  explicit GroupEntryDialog(const GroupScores& scores) : scores_(scores) {}
+  void opened(Dialog& dialog) override;
+  void onEvent(Dialog& dialog, ControlId id, ControlEvent event) override;
+  void closed(Dialog& dialog) override;
 
  private:
   void start(Dialog& dialog);
+  void advance(Dialog& dialog);
 
-  Kind kind_;
+  GroupScores scores_;
   EntryChoice choice_;
   char group_ = '\0';  ///< letter of the group chosen
 };

@@ -5,15 +5,4 @@
 
 inline constexpr int kPlacingsDialog = 147;
 
-class PlacingsDialog : public DialogBehaviour {
- public:
-  PlacingsDialog();
-  void opened(Dialog& dialog) override;
-  void onEvent(Dialog& dialog, ControlId id, ControlEvent event) override;
-  void closed(Dialog& dialog) override;
-
- private:
-  void score(Dialog& dialog);
-
-  GroupEntry entry_;
-};
+[[nodiscard]] GroupEntryDialog placingsDialog();

@@ -5,15 +5,4 @@
 
 inline constexpr int kQuestionsDialog = 149;
 
-class QuestionsDialog : public DialogBehaviour {
- public:
-  QuestionsDialog();
-  void opened(Dialog& dialog) override;
-  void onEvent(Dialog& dialog, ControlId id, ControlEvent event) override;
-  void closed(Dialog& dialog) override;
-
- private:
-  void score(Dialog& dialog);
-
-  GroupEntry entry_;
-};
+[[nodiscard]] GroupEntryDialog questionsDialog();

@@ -11,9 +11,9 @@ namespace {
 constexpr ControlId kDone = 1003;
 constexpr ControlId kCloseBox = 0;
 
-template <typename Behaviour>
-void close(int resource, ControlId way, bool named) {
-  Behaviour behaviour;
+template <typename Make>
+void close(Make make, int resource, ControlId way, bool named) {
+  auto behaviour = make();
   const TemporaryFolder folder;
   currentFileName() = named ? folder.file("fair.scv") : "";
   MemoryDialog dialog(resource, behaviour);
@@ -27,10 +27,10 @@ void close(int resource, ControlId way, bool named) {
 TEST_F(EntryTest, ClosingSavesAContestWithAFileExceptWhenCancelled) {
   for (const ControlId way : {kDone, kOkId, kCancelId, kCloseBox}) {
     for (const bool named : {true, false}) {
-      close<LookupDialog>(kLookupDialog, way, named);
-      close<PlacingsDialog>(kPlacingsDialog, way, named);
-      close<ReasonsDialog>(kReasonsDialog, way, named);
-      close<QuestionsDialog>(kQuestionsDialog, way, named);
+      close([] { return LookupDialog(); }, kLookupDialog, way, named);
+      close(placingsDialog, kPlacingsDialog, way, named);
+      close([] { return ReasonsDialog(); }, kReasonsDialog, way, named);
+      close(questionsDialog, kQuestionsDialog, way, named);
     }
   }
 }

@@ -9,9 +9,9 @@ namespace {
 constexpr ControlId kNumber = 1054, kClasses = 1016, kGroups = 1053, kScore = 1004;
 
 // An operator at one of the dialogs, who types into its score field.
-template <typename Behaviour, int resource, ControlId field>
+template <auto make, int resource, ControlId field>
 struct Desk {
-  Behaviour behaviour;
+  decltype(make()) behaviour = make();
   MemoryDialog dialog{resource, behaviour};
 
   // Chooses a class and a group; gives the question that was answered and the contestant shown.
@@ -54,9 +54,9 @@ struct Desk {
     return textsOf(dialog, {1031, resource == 148 ? 1035 : 1036});
   }
 };
-using Placings = Desk<PlacingsDialog, kPlacingsDialog, 1027>;
-using Reasons = Desk<ReasonsDialog, kReasonsDialog, 1028>;
-using Questions = Desk<QuestionsDialog, kQuestionsDialog, 1056>;
+using Placings = Desk<placingsDialog, kPlacingsDialog, 1027>;
+using Reasons = Desk<[] { return ReasonsDialog(); }, kReasonsDialog, 1028>;
+using Questions = Desk<questionsDialog, kQuestionsDialog, 1056>;
 using GroupEntryTest = EntryTest;
 
 TEST_F(GroupEntryTest, OpensOnTheScoreFieldWithTheClassesThatCarryTheScore) {
