@@ -70,10 +70,7 @@ class Layout {
     std::string_view line;
     while (takeLine(rest, line)) header_.emplace_back(line);
     for (int i = 0; i < kHeaderLinesOfReport; ++i) {
-      if (!takeLine(body_, line)) {
-        body_ = {};
-        return;
-      }
+      if (!takeLine(body_, line)) return;
       header_.push_back(replaced(replaced(line, '\t', ' '), '~', '-'));
     }
   }
