@@ -138,6 +138,18 @@ def dialog_faults(page):
                 yield f"no picture shows the dialog {caption!r}"
 
 
+def label_faults(page):
+    """Fields and buttons: every text of a dialog that the operator can use or fill in."""
+    for script in sorted((ROOT / "src").glob("*/*_dialog.rc")):
+        if script.name == "about_dialog.rc":
+            continue
+        text = re.sub(r"//[^\n]*", "", script.read_text(encoding="utf-8"))
+        for label in re.findall(r'^ *(?:LTEXT|CTEXT|GROUPBOX|(?:DEF)?PUSHBUTTON|AUTO\w+) "([^"]+)"', text, re.M):
+            label = squeezed(label.replace("&", "").replace("\\n", " ")).rstrip(":")
+            if re.search("[A-Za-z]{3}|%", label) and not re.search(re.escape(label), page.text):
+                yield f"{script.name}: {label!r} is not documented"
+
+
 def messages():
     """The sentences that the program says, conversions and all."""
     for file in sorted((ROOT / "src").glob("*/*.cpp")):
@@ -165,8 +177,8 @@ def version_faults(page):
 def main():
     page = Page(MANUAL.read_text(encoding="utf-8"))
     faults = list(page.faults)
-    for check in (link_faults, heading_faults, command_faults, dialog_faults, message_faults,
-                  version_faults):
+    for check in (link_faults, heading_faults, command_faults, dialog_faults, label_faults,
+                  message_faults, version_faults):
         faults += check(page)
     for fault in faults:
         print(fault)
