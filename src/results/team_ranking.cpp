@@ -17,6 +17,19 @@ RankValues sumOf(const std::vector<RankValues>& members, const std::vector<std::
   return sum;
 }
 
+// An empty slot counts as a member with zeros, even if its number kept scores from a contestant who
+// was deleted: nobody could see where the team's points come from.
+RankValues memberTotals(const Contest& contest, const std::vector<IndividualRankEntry>& totals,
+                        ContestantNumber number, std::size_t& position) {
+  const std::size_t found = contest.contestantNames.positionOf(number, position);
+  if (found == contest.contestantNames.size()) return {};
+  if (!contest.contestantNames.at(found).second.empty()) {
+    return totalsOf(contest, totals, number, position);
+  }
+  position = found + 1;
+  return {};
+}
+
 }  // namespace
 
 RankValues totalsOf(const Contest& contest, const std::vector<IndividualRankEntry>& totals,
@@ -41,7 +54,7 @@ std::vector<TeamRankEntry> rankTeams(const Contest& contest,
     scores.clear();
     for (std::size_t slot = 0; slot < regularSlots(contest.settings, team->second); ++slot) {
       const ContestantNumber number = team->second.members[slot];
-      members.push_back(totalsOf(contest, totals, number, position));
+      members.push_back(memberTotals(contest, totals, number, position));
       scores.push_back(members.back().score);
     }
     chooseCountingSlots(contest.settings, scores, counting);

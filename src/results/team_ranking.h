@@ -20,7 +20,8 @@ struct TeamRankEntry {
                                   ContestantNumber number, std::size_t& position);
 
 /// All teams, best first. A team's values are the sums over the numToScore best of its regular
-/// members, the very same members for the score and for the values that break ties.
+/// members, the very same members for the score and for the values that break ties. A slot whose
+/// contestant has no name counts as a member with zeros.
 [[nodiscard]] std::vector<TeamRankEntry> rankTeams(const Contest& contest,
                                                    const std::vector<IndividualRankEntry>& totals,
                                                    TieOrder order);

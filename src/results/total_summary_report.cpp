@@ -12,7 +12,9 @@ void appendOpening(std::string& out, const Contest& contest) {
   out += "Total Summary Report\n\n";
   out +=
       "PLC = placings, RSN = reasons, QUE = questions.  alt = alternate, never in a team total.\n";
-  appendFormat(out, "Team Total = the %d best regular members of each column.\n\n",
+  appendFormat(out,
+               "Team Total = the %d best regular members, chosen anew for each column: it need not "
+               "add up across.\n\n",
                contest.settings.numToScore);
 }
 

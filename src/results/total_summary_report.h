@@ -3,7 +3,8 @@
 //   Total Summary Report
 //
 //   PLC = placings, RSN = reasons, QUE = questions.  alt = alternate, never in a team total.
-//   Team Total = the 3 best regular members of each column.
+//   Team Total = the 3 best regular members, chosen anew for each column: it need not add up
+//   across.
 //
 //   Class  Description                             Category
 //   -----  --------------------------------------  ------------------------------

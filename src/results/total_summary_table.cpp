@@ -41,7 +41,8 @@ void SummaryTable::addTeam(const Contest& contest, const std::string& name, cons
     const std::string& member = contestantName(contest, number);
     const bool isAlternate = slot >= regularCount;
     if (isAlternate && member.empty()) continue;
-    const std::size_t cells = addCells(contest.scores.find(number));
+    // An empty slot counts as a member with zeros, as in the ranking of teams.
+    const std::size_t cells = addCells(member.empty() ? nullptr : contest.scores.find(number));
     if (!isAlternate) regulars.push_back(cells);
     if (!member.empty()) rows_.push_back({number, &member, isAlternate, cells});
   }

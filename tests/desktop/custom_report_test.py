@@ -2,10 +2,11 @@
 
 import unittest
 
-from desktop import IDCANCEL, IDOK, DesktopTest
+from desktop import IDCANCEL, IDOK, DesktopTest, wait_for
 
 CUSTOM_REPORT = 32800
-TITLE, CATEGORY, NUMBER, PERCENT, TEAM, PLACINGS, CLASSES = 1045, 1075, 1037, 1041, 1057, 1039, 1036
+TITLE, CATEGORY, NUMBER, PERCENT, TEAM, CLASSES = 1045, 1075, 1037, 1041, 1057, 1036
+OVERALL, PLACINGS, REASONS = 1038, 1039, 1040
 
 
 class CustomReportTest(DesktopTest):
@@ -49,6 +50,31 @@ class CustomReportTest(DesktopTest):
         self.assertEqual(report, self.expected_report(
             self.contest, CUSTOM_REPORT, "--category", "Beef", "--kind", "placings", "--number", 10,
             "--percent", "--team"))
+
+    def test_by_the_keyboard_alone(self):
+        dialog = self.dialog()
+
+        def press_to(key, control):
+            dialog.press(key)
+            wait_for(lambda: dialog.focused() == control, f"the focus in {control}")
+
+        dialog.type("To be replaced")
+        press_to("Tab", CATEGORY)
+        dialog.press("Down", "Down")  # the second category
+        wait_for(lambda: dialog.selection(CLASSES) == [1, 5, 9], "the classes of the category")
+        self.assertEqual(dialog.text(TITLE), "Swine")
+        press_to("Tab", NUMBER)
+        dialog.type("7")
+        for key, control in (("Tab", PERCENT), ("Tab", TEAM), ("Tab", OVERALL), ("Down", PLACINGS),
+                             ("Down", REASONS), ("Tab", CLASSES)):
+            press_to(key, control)
+        dialog.press("Home", "Down", "Space", "Down", "Space")  # one out and one in by hand
+        wait_for(lambda: dialog.selection(CLASSES) == [2, 5, 9], "the classes chosen by hand")
+        self.desktop.keys("Return")
+        self.app.wait_closed(dialog)
+        self.assertEqual(self.app.report(), self.expected_report(
+            self.contest, CUSTOM_REPORT, "--title", "Swine", "--classes", "3,6,10", "--kind", "reasons",
+            "--number", 7))
 
     def test_cancel_leaves_the_report(self):
         before = self.app.report()

@@ -28,7 +28,7 @@ TEST(HighTeamReport, ShowsATeamWithItsRegularMembersAndCoach) {
   builder.team("Adams County Senior Team One", "Coach Hill", {"Ann", "", "Cat", "Alternate"});
   builder.team("Boone", "", {"", "Eve with a long name for the list", "", ""});
   builder.scores(101, {{30}}).scores(102, {{50}}).scores(103, {{-2}}).scores(104, {{50}});
-  builder.scores(106, {{49}});
+  builder.scores(106, {{29}});
   HighReportRequest request = wholeContestRequest(builder.contest, ScoreKind::placings);
   const std::string memberEnd = std::string(25, ' ') + "\n";
   const std::string coachEnd = std::string(25, ' ') + "\n\n";
@@ -37,11 +37,11 @@ TEST(HighTeamReport, ShowsATeamWithItsRegularMembersAndCoach) {
       "High Team Placings  (scoring the top 2 per team)\n\n"
       "Place        Team                 Team Members                  Score   Tie Breaker(s)\n"
       "-----  ---------------------  --------------------------------  -----  -----------------\n"
-      "  1    Adams County Senior T  Ann                       (  30)     80\n"
+      "  1    Adams County Senior T  Ann                       (  30)     30\n"
       "                              Cat                       (  -2)" +
           memberEnd + "         Coach: Coach Hill                    " + coachEnd +
-          "  2    Boone                                                       49\n"
-          "                              Eve with a long name for  (  49)" +
+          "  2    Boone                                                       29\n"
+          "                              Eve with a long name for  (  29)" +
           memberEnd + "         Coach:                               " + coachEnd);
   request.numToReport = 49;
   request.percent = true;  // of two teams: none, but the winner is named

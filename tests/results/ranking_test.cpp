@@ -46,8 +46,9 @@ RankValues teamSlowly(const Contest& contest, const Team& team, ScoreKind kind,
   std::vector<RankValues> members;
   members.reserve(16);
   for (std::int32_t slot = 0; slot < contest.settings.numPerTeam; ++slot) {
-    members.push_back(
-        sumSlowly(contest, team.members.at(static_cast<std::size_t>(slot)), kind, classSet));
+    const ContestantNumber number = team.members.at(static_cast<std::size_t>(slot));
+    const bool empty = contestantName(contest, number).empty();
+    members.push_back(empty ? RankValues{} : sumSlowly(contest, number, kind, classSet));
   }
   for (std::size_t i = 0; i < members.size(); ++i) {
     for (std::size_t j = i + 1; j < members.size(); ++j) {
@@ -78,8 +79,11 @@ Contest randomContest(std::mt19937& random) {
     builder.addClass({.reasons = upTo(1) == 1, .questions = upTo(1) == 1});
   }
   for (int t = 0; t < 1 + upTo(12); ++t) {
-    const auto slots = static_cast<std::size_t>(builder.contest.settings.totalNumPerTeam);
-    builder.team("Team " + std::to_string(t), "", std::vector<std::string>(slots, "Ann"));
+    std::vector<std::string> members;
+    for (int slot = 0; slot < builder.contest.settings.totalNumPerTeam; ++slot) {
+      members.emplace_back(upTo(5) == 0 ? "" : "Ann");
+    }
+    builder.team("Team " + std::to_string(t), "", members);
   }
   for (const auto& [number, name] : builder.contest.contestantNames) {
     for (int k = 0; k < classes; ++k) {

@@ -20,8 +20,9 @@ std::vector<std::size_t> barsOf(const std::string& line) {
   return bars;
 }
 
-// Two members count: of Adams Ann and the nameless 104, but not the alternate Bob. Class 3 names a
-// category that does not exist. Eve has no team; the nameless 107 is nowhere.
+// Two members count: of Adams Ann and the empty slot 104, whose scores are of a deleted contestant,
+// but not the alternate Bob. Class 3 names a category that does not exist. Eve has no team; the
+// nameless 107 is nowhere.
 TEST(TotalSummaryReport, ShowsScoresTotalsAndStatistics) {
   ContestBuilder builder;
   builder.members(2, 3, 2).categories({"Beef", "Unused", "Sheep and Market Goats"});
