@@ -38,12 +38,20 @@ add_custom_command(
           Scorvane
   VERBATIM)
 
+# The side of Setup's last page: the left part of the start-up picture, for dense displays, too.
+set(setup_side ${pictures}/setup_side.bmp)
+add_custom_command(
+  OUTPUT ${setup_side} DEPENDS ${pictures}/welcome.bmp
+  COMMAND ${IMAGEMAGICK_CONVERT} ${pictures}/welcome.bmp -resize x628 -gravity West
+          -crop 328x628+20+0 +repage -type truecolor BMP3:${setup_side})
+
 # Not part of "all": running the program needs no NSIS.
 add_custom_command(
   OUTPUT ${setup}
-  DEPENDS ${zip} ${CMAKE_SOURCE_DIR}/packaging/scorvane.nsi
+  DEPENDS ${zip} ${setup_side} ${CMAKE_SOURCE_DIR}/packaging/scorvane.nsi
   COMMAND
     makensis -V2 -WX -DVERSION=${PROJECT_VERSION} -DSTAGE=${stage} -DSAMPLES=${samples}
-    -DICON=${pictures}/scorvane.ico -DOUTPUT=${setup} ${CMAKE_SOURCE_DIR}/packaging/scorvane.nsi
+    -DICON=${pictures}/scorvane.ico -DSIDE=${setup_side} -DOUTPUT=${setup}
+    ${CMAKE_SOURCE_DIR}/packaging/scorvane.nsi
   VERBATIM)
 add_custom_target(package DEPENDS ${setup} ${zip})

@@ -3,7 +3,8 @@
 ; Silent: ScorvaneSetup.exe /S /CurrentUser   or   /S /AllUsers [/D=C:\folder]
 ; Exit codes: 0 installed, 1 cancelled, 2 refused because Scorvane is running.
 ;
-; The build passes STAGE (folder with everything that ships), SAMPLES, ICON, OUTPUT and VERSION.
+; The build passes STAGE (folder with everything that ships), SAMPLES, ICON, SIDE (a picture), OUTPUT
+; and VERSION.
 
 ; 64-bit like the program itself; it must come before anything else.
 Target amd64-unicode
@@ -43,6 +44,7 @@ VIAddVersionKey "LegalCopyright" "Copyright (c) 2026 The Scorvane developers"
 
 !define MUI_ICON "${ICON}"
 !define MUI_UNICON "${ICON}"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${SIDE}"
 !define MUI_ABORTWARNING
 !insertmacro MUI_PAGE_LICENSE "${STAGE}/LICENSE.txt"
 !insertmacro MULTIUSER_PAGE_INSTALLMODE
