@@ -154,5 +154,9 @@ bool readScores(LineScanner& lines, std::int64_t lineCount, Contest& contest) {
     collector.add(*score);
   }
   contest.scores = collector.take();
+  // Contestants have an entry, and so a rank, before there are classes.
+  if (contest.classes.count() == 0) {
+    for (const auto& entry : contest.contestantNames) contest.scores[entry.first];
+  }
   return true;
 }

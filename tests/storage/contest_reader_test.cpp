@@ -154,12 +154,12 @@ TEST(ContestReader, RefusesWhatIsNoContest) {
   }
 }
 
-// Nothing is wrong with a number of slots, however large, that no team has been given yet.
-TEST(ContestReader, BelievesTeamSizesWithoutTeams) {
-  const std::string bytes =
-      replaced(replaced(smallFile(), "totalNumPerTeam:\t3", "totalNumPerTeam:\t2147483647"),
-               "Teams~~~~~\r\n1\r\nClover\t \t101\t102\t103", "Teams~~~~~\r\n0");
-  EXPECT_EQ(read(bytes).settings.totalNumPerTeam, 2147483647);
+// Everybody is ranked once there are classes, so everybody has an entry before.
+TEST(ContestReader, KeepsEntriesForContestantsWithoutClasses) {
+  const Contest contest =
+      read(fileOf({"~~~~~Classes~~~~~", "0", "~~~~~Contestants~~~~~", "2", "101\tAnn Lee", "102\t",
+                   "~~~~~Teams~~~~~", "0", "~~~~~Scores~~~~~", "0"}));
+  EXPECT_EQ(contest.scores.size(), 2U);
 }
 
 // Cut off anywhere, a file is refused, or only its trailer was lost.
