@@ -115,7 +115,7 @@ constexpr std::array kCommands = {
     Command{32851, "Verification Reports", "Zero Questions Report", nullptr,
             plain<zeroQuestionsReport>},
 
-    Command{32857, "Help", "Scorvane Help", helpCommand},
+    Command{32857, "Help", "Scorvane Help (F1)", helpCommand},
     Command{104, "Help", "About ...", aboutCommand},
 
     // In no menu: shows what the system's font chooser gives.
@@ -134,14 +134,9 @@ const Command* findCommand(int id) {
   return found == kCommands.end() ? nullptr : &*found;
 }
 
-bool isAvailable(const Command& command) {
-  return command.run != nullptr ||
-         (command.report != nullptr && command.question == ReportQuestion::nothing);
-}
-
 void runCommand(int id, MainWindow& window) {
   const Command* command = findCommand(id);
-  if (command == nullptr || !isAvailable(*command)) return;
+  if (command == nullptr) return;
   if (command->run != nullptr) {
     command->run(window);
   } else {

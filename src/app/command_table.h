@@ -18,8 +18,7 @@ struct Command {
   int id = 0;
   std::string_view menu;
   std::string_view caption;
-  /// What the menu command does. When null, the command shows its report if that asks nothing, and
-  /// is not available otherwise.
+  /// What the menu command does. When null, the command shows its report, which then asks nothing.
   void (*run)(MainWindow& window) = nullptr;
   /// The report that the command makes; null for commands that make none, or that change the
   /// contest first. Gives nothing when the contest lacks what the report needs.
@@ -34,8 +33,5 @@ struct Command {
 /// The command of an id; null when there is none.
 [[nodiscard]] const Command* findCommand(int id);
 
-/// Whether the menu can offer the command.
-[[nodiscard]] bool isAvailable(const Command& command);
-
-/// Runs a command of the menu; an unknown or unavailable one does nothing.
+/// Runs a command of the menu; an unknown one does nothing.
 void runCommand(int id, MainWindow& window);

@@ -24,16 +24,7 @@ constexpr UINT kResolutionChanged = 0x02E0;  // WM_DPICHANGED, which older heade
 }  // namespace
 
 DesktopWindow::DesktopWindow(NativeWindow window) : window_(window), report_(window) {
-  disableUnavailableCommands();
   DragAcceptFiles(window_, TRUE);
-}
-
-void DesktopWindow::disableUnavailableCommands() {
-  HMENU menu = GetMenu(window_);
-  for (const Command& command : commandTable()) {
-    if (isAvailable(command)) continue;
-    EnableMenuItem(menu, static_cast<UINT>(command.id), MF_BYCOMMAND | MF_GRAYED);
-  }
 }
 
 std::optional<std::intptr_t> DesktopWindow::handle(unsigned message, std::uintptr_t wParam,
@@ -55,6 +46,10 @@ std::optional<std::intptr_t> DesktopWindow::handle(unsigned message, std::uintpt
     case kResolutionChanged:
       changeResolution(lParam);
       return 0;
+    case WM_CLOSE:
+      // What a dialog has not saved yet would be lost; the close box itself is disabled then.
+      if (IsWindowEnabled(window_) == FALSE) return 0;
+      break;
     case WM_DESTROY:
       PostQuitMessage(0);
       return 0;

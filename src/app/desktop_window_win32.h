@@ -32,7 +32,6 @@ class DesktopWindow final : public MainWindow {
   void destroy() override;
 
  private:
-  void disableUnavailableCommands();
   void openDroppedFile(std::uintptr_t drop);
   void changeResolution(std::intptr_t suggestedPlace);
 

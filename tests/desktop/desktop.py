@@ -255,9 +255,6 @@ class Window:
         """(left, top, width, height) on the display, in pixels."""
         return tuple(map(int, self.app.tell("rectangle", self.handle)))
 
-    def menu_state(self, command_id):
-        return self._tell("menu_state", command_id)
-
     def text(self, control):
         return self._tell("text", control)
 

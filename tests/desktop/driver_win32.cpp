@@ -247,13 +247,6 @@ Fields settle(const Fields& f) {
   return {};
 }
 
-Fields menuState(const Fields& f) {
-  const UINT state =
-      GetMenuState(GetMenu(toWindow(f.at(1))), static_cast<UINT>(toNumber(f.at(2))), MF_BYCOMMAND);
-  if (state == static_cast<UINT>(-1)) return {"missing"};
-  return {(state & (MF_GRAYED | MF_DISABLED)) != 0 ? "disabled" : "enabled"};
-}
-
 Fields text(const Fields& f) {
   return {textOf(toControl(f))};
 }
@@ -385,7 +378,6 @@ const std::map<std::string, std::function<Fields(const Fields&)>> kCommands = {
     {"post", post},
     {"send", sendMessage},
     {"settle", settle},
-    {"menu_state", menuState},
     {"text", text},
     {"set_text", setText},
     {"is_enabled", isEnabled},

@@ -113,7 +113,7 @@ class ShellTest(DesktopTest):
             "Again, your file did NOT save!  Please use File->Save As to ensure your work is saved.\n"))
         self.assertEqual(contest.read_bytes(), before)
 
-    def test_a_dropped_contest_opens_unless_a_dialog_is_open(self):
+    def test_drops_commands_and_closing_wait_until_no_dialog_is_open(self):
         contest = self.sample()
         app = self.start()
         main = app.main()
@@ -124,6 +124,8 @@ class ShellTest(DesktopTest):
         main.command(SETUP_CONTEST)
         dialog = app.window("Setup Contest")
         main.drop(self.sample("state.scv"))
+        main.command(NEW)
+        main.close()
         main.settle()
         self.assertEqual(main.title(), title)
         dialog.command(IDCANCEL)
