@@ -2,11 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
-
 #include "storage/contest_writer.h"
 #include "tests/support/contest_builder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace {
 
@@ -14,7 +12,7 @@ using Words = std::vector<std::string_view>;
 
 std::string contestFile(const std::string& bytes) {
   const std::string path = testing::TempDir() + "cli.scv";
-  std::ofstream(path, std::ios::binary) << bytes;
+  makeFile(path, bytes);
   return path;
 }
 
@@ -49,6 +47,7 @@ TEST(CliRunner, PrintsWhatTheCommandReports) {
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.error, "");
   EXPECT_NE(result.output.find("Gilts"), std::string::npos);
+  EXPECT_EQ(run(smallContest(), {"32862", "--round=2"}).output.substr(0, 8), "Round 2 ");
 }
 
 TEST(CliRunner, CustomReportDefaultsAsTheDialogDoes) {
@@ -101,16 +100,14 @@ TEST(CliRunner, WrongUsageShowsTheUsage) {
 
 TEST(CliRunner, WritesEveryReportThatAsksNothing) {
   const std::string path = smallContest();
-  const std::string folder = testing::TempDir();
-  ASSERT_EQ(run(path, {"--all", folder}).status, 0);
+  const TemporaryFolder folder;
+  ASSERT_EQ(run(path, {"--all", folder.path()}).status, 0);
   for (const Command& command : commandTable()) {
     if (command.report == nullptr || command.question != ReportQuestion::nothing) continue;
-    std::ifstream file(folder + "/" + std::string(command.caption) + ".txt", std::ios::binary);
-    std::stringstream text;
-    text << file.rdbuf();
-    EXPECT_NE(text.str().find("\r\n"), std::string::npos) << command.caption;
+    const std::string text = contentOf(folder.file(std::string(command.caption) + ".txt"));
+    EXPECT_NE(text.find("\r\n"), std::string::npos) << command.caption;
   }
-  EXPECT_EQ(run(path, {"--all", folder + "/no such folder"}).status, 1);
+  EXPECT_EQ(run(path, {"--all", folder.file("no such folder")}).status, 1);
 }
 
 TEST(CliRunner, ListsReportsByNumberAndCaption) {

@@ -51,10 +51,13 @@ void expectApproved(std::string_view report, const std::string& name) {
   EXPECT_TRUE(difference.empty()) << name << ", " << difference;
 }
 
-Contest contestOfFile(const std::string& name) {
+std::string sourceFile(const std::string& name) {
   std::ifstream file(SOURCE_DIR "/" + name, std::ios::binary);
-  const std::string bytes((std::istreambuf_iterator<char>(file)), {});
-  auto reading = readContest(bytes);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+Contest contestOfFile(const std::string& name) {
+  auto reading = readContest(sourceFile(name));
   if (auto* contest = std::get_if<Contest>(&reading)) return std::move(*contest);
   ADD_FAILURE() << "no contest in " << name;
   return {};

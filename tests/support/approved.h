@@ -11,7 +11,9 @@
 /// rewritten instead: read the diff before committing it.
 void expectApproved(std::string_view report, const std::string& name);
 
-/// The contest of a file of the source, such as "samples/county.scv".
+/// The bytes of a file of the source, such as "samples/county.scv"; "" when there is none.
+[[nodiscard]] std::string sourceFile(const std::string& name);
+/// The contest of such a file.
 [[nodiscard]] Contest contestOfFile(const std::string& name);
 
 /// Where two texts first differ, as "line 3, column 7: ..." with both lines; "" when they do not.
