@@ -73,8 +73,13 @@ VIAddVersionKey "LegalCopyright" "Copyright (c) 2026 The Scorvane developers"
   System::Call "shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)"
 !macroend
 
+; A folder named by /D stands in $INSTDIR before the choice of users puts its own there.
 Function .onInit
+  StrCpy $R0 $INSTDIR
   !insertmacro MULTIUSER_INIT
+  ${If} $R0 != ""
+    StrCpy $INSTDIR $R0
+  ${EndIf}
 FunctionEnd
 
 Section "Install"

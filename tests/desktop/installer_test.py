@@ -128,6 +128,15 @@ class InstallerTest(DesktopTest):
         self.assertEqual(self.setup("/AllUsers"), RUNNING)
         self.assertEqual(app.tell("exit_code"), ["running"])
 
+    def test_into_a_folder_named(self):
+        before = self.files()
+        self.assertEqual(self.setup("/CurrentUser", r"/D=C:\Fairs"), 0)
+        folder = self.drive / "Fairs"
+        self.addCleanup(self.uninstall, folder)
+        self.assertTrue((folder / "scorvane.exe").exists())
+        self.uninstall(folder)
+        self.assertEqual(self.files() - before, set())
+
     def test_the_file_dialog_starts_in_documents(self):
         folder = self.install("/CurrentUser")
         shutil.copy(ROOT / "samples" / "county.scv", self.documents / "mine.scv")
