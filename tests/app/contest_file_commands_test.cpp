@@ -8,6 +8,7 @@
 #include "model/contest.h"
 #include "storage/contest_commands.h"
 #include "tests/app/memory_main_window.h"
+#include "tests/support/temporary_folder.h"
 #include "view/report_text.h"
 
 namespace {
@@ -23,14 +24,22 @@ class ContestFileCommands : public testing::Test {
   }
   // A saved contest, and another one in memory.
   std::string savedContest() {
-    const std::string path = testing::TempDir() + "county show.scv";
+    const std::string path = folder_.file("county show.scv");
     currentContest().settings.contestName = "County Show";
     currentFileName() = path;
     runCommand(kSave, window_);
     runCommand(kNew, window_);
+    expectNewContest();
     reportText() = "a report\n";
     return path;
   }
+  void expectNewContest() const {
+    EXPECT_EQ(window_.title, "Scorvane");
+    EXPECT_EQ(currentFileName(), "");
+    EXPECT_EQ(currentContest().settings.contestName, "Judging Contest");
+    EXPECT_EQ(reportText(), kWelcomeText);
+  }
+  TemporaryFolder folder_;
   MemoryMainWindow window_;
 };
 
@@ -58,31 +67,16 @@ TEST_F(ContestFileCommands, TakeThePathOutOfTheCommandLine) {
   EXPECT_EQ(contestPath(std::string(700, 'x')).size(), kMaxPathLength);
 }
 
-TEST_F(ContestFileCommands, OpenTheContestNamedAtTheStart) {
+TEST_F(ContestFileCommands, OpenTheContestNamedAtTheStartOrANewOne) {
   const std::string path = savedContest();
   openContestOfCommandLine(window_, "\"" + path + "\"");
   EXPECT_EQ(window_.title, "Scorvane - " + path + " - County Show");
   EXPECT_EQ(reportText(), kWelcomeText);
   EXPECT_TRUE(window_.desktop.messages.empty());
-}
-
-TEST_F(ContestFileCommands, StartAnewWhenTheNamedContestIsMissing) {
   openContestOfCommandLine(window_, "nowhere.scv");
   EXPECT_EQ(window_.desktop.takeMessage(),
             "Invalid file name (nowhere.scv) , or file does not exist.");
-  EXPECT_EQ(window_.title, "Scorvane");
-  EXPECT_EQ(currentFileName(), "");
-  EXPECT_EQ(reportText(), kWelcomeText);
-}
-
-TEST_F(ContestFileCommands, NewForgetsFileAndTitle) {
-  savedContest();
-  currentFileName() = "something.scv";
-  runCommand(kNew, window_);
-  EXPECT_EQ(window_.title, "Scorvane");
-  EXPECT_EQ(currentFileName(), "");
-  EXPECT_EQ(currentContest().settings.contestName, "Judging Contest");
-  EXPECT_EQ(reportText(), kWelcomeText);
+  expectNewContest();
 }
 
 TEST_F(ContestFileCommands, OpenSetsTheTitleEvenWhenCancelled) {
@@ -96,7 +90,7 @@ TEST_F(ContestFileCommands, OpenSetsTheTitleEvenWhenCancelled) {
 }
 
 TEST_F(ContestFileCommands, SavingKeepsTheReportAndNamesTheFile) {
-  const std::string path = testing::TempDir() + "saved as.scv";
+  const std::string path = folder_.file("saved as.scv");
   window_.desktop.files = {std::nullopt, path};
   runCommand(kSaveAs, window_);
   EXPECT_EQ(window_.title, "Scorvane -  - Judging Contest");

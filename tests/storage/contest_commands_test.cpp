@@ -49,8 +49,13 @@ TEST_F(ContestCommands, LoadsTheFileThatIsChosen) {
   EXPECT_EQ(question.filters[1].name + question.filters[1].pattern, "All*.*");
 }
 
-TEST_F(ContestCommands, CancelledOpenLeavesANewContest) {
-  window.desktop.files = {std::nullopt};
+// Saving as forgets the name before it asks, so a change of mind leaves the contest untitled.
+TEST_F(ContestCommands, CancelledQuestionsForgetTheFileOrTheContest) {
+  window.desktop.files = {std::nullopt, std::nullopt};
+  saveContest(window, true);
+  EXPECT_EQ(currentFileName(), "");
+  EXPECT_EQ(currentContest().settings.contestName, "County Fair");
+  EXPECT_EQ(contentOf(path), smallFile());
   EXPECT_FALSE(loadContest(window, false));
   EXPECT_TRUE(window.desktop.messages.empty());
   expectNewContest();
@@ -100,15 +105,6 @@ TEST_F(ContestCommands, SavesToTheCurrentFileOrAsksForOne) {
   EXPECT_EQ(currentFileName(), folder.file("new.scv"));
   EXPECT_EQ(contentOf(currentFileName()), writeContest(currentContest()));
   EXPECT_EQ(currentContest().categories, std::vector<std::string>{"none"});
-}
-
-// The name is forgotten before asking, so a change of mind leaves the contest untitled.
-TEST_F(ContestCommands, CancelledSaveAsLeavesTheContestUntitled) {
-  window.desktop.files = {std::nullopt};
-  saveContest(window, true);
-  EXPECT_EQ(currentFileName(), "");
-  EXPECT_EQ(currentContest().settings.contestName, "County Fair");
-  EXPECT_EQ(contentOf(path), smallFile());
 }
 
 TEST_F(ContestCommands, SaysWhenItCouldNotSave) {
