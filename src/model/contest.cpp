@@ -70,6 +70,11 @@ const std::string& contestantName(const Contest& contest, ContestantNumber numbe
   return name == nullptr ? kEmpty : *name;
 }
 
+ReasonsPlace reasonsPlaceOf(const Contest& contest, ContestantNumber number) {
+  const ReasonsPlace* place = contest.reasonsPlace.find(number);
+  return place == nullptr ? ReasonsPlace{} : *place;
+}
+
 const ScoreRecord& scoreRecord(const Contest& contest, ContestantNumber number,
                                std::int32_t classIndex) {
   static const ScoreRecord blank;

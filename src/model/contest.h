@@ -114,6 +114,9 @@ struct Contest {
 /// Name of a contestant; "" when the number does not exist.
 [[nodiscard]] const std::string& contestantName(const Contest& contest, ContestantNumber number);
 
+/// A contestant's place in the reasons order; unassigned when the number does not exist.
+[[nodiscard]] ReasonsPlace reasonsPlaceOf(const Contest& contest, ContestantNumber number);
+
 /// A contestant's record for a class (index from 0); a blank record when there is none.
 [[nodiscard]] const ScoreRecord& scoreRecord(const Contest& contest, ContestantNumber number,
                                              std::int32_t classIndex);

@@ -9,6 +9,11 @@ char groupOfNumber(const ContestSettings& settings, ContestantNumber number) {
   return static_cast<char>('A' + distance % settings.numGroups);
 }
 
+char groupOfContestant(const Contest& contest, ContestantNumber number) {
+  const char* group = contest.contestantGroup.find(number);
+  return group != nullptr ? *group : groupOfNumber(contest.settings, number);
+}
+
 std::int32_t letteredGroups(std::int32_t numGroups) {
   return std::clamp(numGroups, 0, kMaxGroupLetters);
 }

@@ -11,6 +11,9 @@
 /// 'A' when numGroups is 0.
 [[nodiscard]] char groupOfNumber(const ContestSettings& settings, ContestantNumber number);
 
+/// The stored group letter of a contestant; the one of the number when none is stored.
+[[nodiscard]] char groupOfContestant(const Contest& contest, ContestantNumber number);
+
 /// Setup allows 26 groups; a contest file may promise more, but letters end with the characters.
 inline constexpr std::int32_t kMaxGroupLetters = 256 - 'A';
 

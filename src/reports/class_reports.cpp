@@ -4,12 +4,6 @@
 #include "reports/report_parts.h"
 #include "text/format.h"
 
-namespace {
-
-constexpr const char* kFiftyHyphens = "--------------------------------------------------";
-
-}  // namespace
-
 std::string classesReport(const Contest& contest) {
   const JudgingClasses& classes = contest.classes;
   std::string out = "     Classes Report\n\n\n";

@@ -1,6 +1,5 @@
 #include "reports/report_parts.h"
 
-#include "model/numbering.h"
 #include "text/format.h"
 
 namespace {
@@ -67,9 +66,4 @@ const ScoreRecord& RecordWalk::at(std::int32_t classIndex) {
   static const ScoreRecord blank;
   while (next_ != end_ && next_->first < classIndex) ++next_;
   return next_ != end_ && next_->first == classIndex ? next_->second : blank;
-}
-
-char groupOfContestant(const Contest& contest, ContestantNumber number) {
-  const char* group = contest.contestantGroup.find(number);
-  return group != nullptr ? *group : groupOfNumber(contest.settings, number);
 }

@@ -10,6 +10,9 @@
 #include "model/contest.h"
 #include "view/report_text.h"
 
+/// The rule under the heading of a column of fifty characters.
+inline constexpr const char* kFiftyHyphens = "--------------------------------------------------";
+
 /// The kind of a class in eleven characters: " (Reasons) ", " (Rsn/Qst) ", "(Questions)" or blank.
 [[nodiscard]] const char* kindTag(const JudgingClasses& classes, std::int32_t classIndex);
 
@@ -51,6 +54,3 @@ class RecordWalk {
   ClassScores::const_iterator next_;
   ClassScores::const_iterator end_;
 };
-
-/// The stored group letter of a contestant; the one of the number when none is stored.
-[[nodiscard]] char groupOfContestant(const Contest& contest, ContestantNumber number);

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "model/numbering.h"
 #include "reports/report_parts.h"
 #include "text/format.h"
 

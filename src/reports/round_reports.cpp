@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr const char* kFiftyHyphens = "--------------------------------------------------";
-
 // With more groups than classes, one line that says so: the other groups stand nowhere.
 void appendIdleGroups(std::string& out, const Contest& contest, const char* consequence) {
   const RoundGroups rotation = roundGroups(contest);

@@ -26,10 +26,10 @@ std::string makePlacingsHeading(const JudgingClasses& classes) {
   return out + "\n" + makeRule(classes, 26, 9);
 }
 
-void appendPlacings(std::string& out, const ListedMember& member, std::int32_t classCount) {
+void appendPlacings(std::string& out, const ListedMember& member, const JudgingClasses& classes) {
   appendMember(out, member);
   RecordWalk records(member.contestant.scores);
-  for (std::int32_t k = 0; k < classCount; ++k) {
+  for (std::int32_t k = 0; k < classes.count(); ++k) {
     const ScoreRecord& record = records.at(k);
     const auto order = orderOfLetter(record.letter);
     appendFormat(out, " |%2d %d%d%d%d", record.placingScore, order[0], order[1], order[2],
@@ -56,38 +56,37 @@ void appendReasons(std::string& out, const ListedMember& member, const JudgingCl
   appendFormat(out, " | %2lld\n", total);
 }
 
-}  // namespace
-
-std::string verifyPlacingsReport(const Contest& contest) {
-  const std::string heading = makePlacingsHeading(contest.classes);
-  std::string out = "Verify Placings Report\n\n\n";
+// Builds a report team by team: the team's own line, the heading, a line a member.
+template <typename AppendTeam, typename AppendScores>
+std::string buildByTeam(const Contest& contest, std::string out, const std::string& heading,
+                        AppendTeam appendTeam, AppendScores appendScores) {
   for (const auto& [teamName, team] : contest.teams) {
     if (endIfTooLong(out)) return out;
-    appendFormat(out, "\n     Team:  %-30.30s          Coach:  %s\n", teamName.c_str(),
-                 team.coach.c_str());
+    appendTeam(out, teamName.c_str(), team.coach.c_str());
     out += heading;
     for (const ListedMember& member : listedMembers(contest, team)) {
       if (endIfTooLong(out)) return out;
-      appendPlacings(out, member, contest.classes.count());
+      appendScores(out, member, contest.classes);
     }
     out += "\n\n";
   }
   return out;
 }
 
+}  // namespace
+
+std::string verifyPlacingsReport(const Contest& contest) {
+  const auto appendTeam = [](std::string& out, const char* name, const char* coach) {
+    appendFormat(out, "\n     Team:  %-30.30s          Coach:  %s\n", name, coach);
+  };
+  return buildByTeam(contest, "Verify Placings Report\n\n\n", makePlacingsHeading(contest.classes),
+                     appendTeam, appendPlacings);
+}
+
 std::string reasonsByTeamReport(const Contest& contest) {
-  const std::string heading = makeReasonsHeading(contest.classes);
-  std::string out = "Reasons Scores By Team Report\n\n";
-  for (const auto& [teamName, team] : contest.teams) {
-    if (endIfTooLong(out)) return out;
-    appendFormat(out, "\n     Team:  %-25.25s      Coach:  %s\n", teamName.c_str(),
-                 team.coach.c_str());
-    out += heading;
-    for (const ListedMember& member : listedMembers(contest, team)) {
-      if (endIfTooLong(out)) return out;
-      appendReasons(out, member, contest.classes);
-    }
-    out += "\n\n";
-  }
-  return out;
+  const auto appendTeam = [](std::string& out, const char* name, const char* coach) {
+    appendFormat(out, "\n     Team:  %-25.25s      Coach:  %s\n", name, coach);
+  };
+  return buildByTeam(contest, "Reasons Scores By Team Report\n\n",
+                     makeReasonsHeading(contest.classes), appendTeam, appendReasons);
 }

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "model/contest.h"
+#include "model/numbering.h"
 #include "setup/edit_contestants_controls.h"
 #include "setup/team_members.h"
 #include "storage/contest_commands.h"
@@ -17,7 +18,7 @@ namespace {
 
 std::string contestantLine(const Contest& contest, ContestantNumber number) {
   return formatText("%d - %s - %c", number, contestantName(contest, number).c_str(),
-                    groupLetterOf(contest, number));
+                    groupOfContestant(contest, number));
 }
 
 void emptyFields(Dialog& dialog) {
@@ -33,7 +34,7 @@ void selectContestant(Dialog& dialog) {
   const ContestantNumber number = leadingNumber(dialog.line(kList, *selected));
   dialog.setNumber(kNumber, number);
   dialog.setText(kContestantName, contestantName(contest, number));
-  dialog.setText(kGroup, std::string(1, groupLetterOf(contest, number)));
+  dialog.setText(kGroup, std::string(1, groupOfContestant(contest, number)));
   dialog.focus(kContestantName);
 }
 

@@ -6,15 +6,12 @@
 
 #include "setup/reasons_bands.h"
 #include "setup/reasons_compaction.h"
+#include "setup/reasons_takers.h"
 #include "storage/contest_commands.h"
 #include "text/format.h"
 #include "text/number.h"
 
 namespace {
-
-std::string lineOf(const Contest& contest, ContestantNumber number) {
-  return formatText("     %d - %s", number, contestantName(contest, number).c_str());
-}
 
 std::vector<std::string> groupLines(const Contest& contest) {
   std::vector<std::string> lines;
@@ -23,21 +20,11 @@ std::vector<std::string> groupLines(const Contest& contest) {
   return lines;
 }
 
-std::vector<std::string> unassignedLines(const Contest& contest) {
-  std::vector<std::string> lines;
-  for (const auto& [number, name] : contest.contestantNames) {
-    const ReasonsPlace* place = contest.reasonsPlace.find(number);
-    const bool isAssigned = place != nullptr && place->isAssigned();
-    if (!name.empty() && !isAssigned) lines.push_back(lineOf(contest, number));
-  }
-  return lines;
-}
-
 std::vector<std::string> orderLines(const Contest& contest, std::int32_t group) {
   std::vector<std::string> lines;
   const ReasonsOrder& order = contest.reasonsOrder;
   for (std::int32_t row = 0; order.cell(row, group) != kNobody; ++row) {
-    lines.push_back(lineOf(contest, order.cell(row, group)));
+    lines.push_back(takerLine(contest, order.cell(row, group)));
   }
   return lines;
 }
@@ -45,6 +32,13 @@ std::vector<std::string> orderLines(const Contest& contest, std::int32_t group) 
 void putInto(Contest& contest, std::int32_t row, std::int32_t group, ContestantNumber number) {
   contest.reasonsOrder.setCell(row, group, number);
   contest.reasonsPlace[number] = {group, row};
+}
+
+bool hasLine(const Dialog& dialog, ControlId list, const std::string& line) {
+  for (int i = 0; i < dialog.lineCount(list); ++i) {
+    if (dialog.line(list, i) == line) return true;
+  }
+  return false;
 }
 
 // A contestant deleted and named anew can have kept a cell without the place that belongs to it;
@@ -64,7 +58,7 @@ void ReasonsOrderEditDialog::opened(Dialog& dialog) {
   Contest& contest = currentContest();
   compactReasonsOrder(contest);
   dialog.setLines(kGroups, groupLines(contest));
-  dialog.setLines(kUnassigned, unassignedLines(contest));
+  dialog.setLines(kUnassigned, unassignedTakers(contest));
 }
 
 void ReasonsOrderEditDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
@@ -109,7 +103,7 @@ void ReasonsOrderEditDialog::exchange(Dialog& dialog, Speaker speaker, int row) 
   putInto(contest, row, group, moved);
   putInto(contest, from, group, other);
   dialog.removeLine(kOrder, from);
-  dialog.insertLine(kOrder, row, lineOf(contest, moved));
+  dialog.insertLine(kOrder, row, takerLine(contest, moved));
   dialog.select(kOrder, row);
 }
 
@@ -138,12 +132,12 @@ void ReasonsOrderEditDialog::remove(Dialog& dialog) {
   if (!speaker) return;
   Contest& contest = currentContest();
   const ContestantNumber number = contest.reasonsOrder.cell(speaker->row, speaker->group);
-  ReasonsPlace& place = contest.reasonsPlace[number];
-  // Without a place the contestant is among the unassigned already, in spite of the cell.
-  if (place.isAssigned()) dialog.addLine(kUnassigned, lineOf(contest, number));
-  place = {};
   contest.reasonsOrder.setCell(speaker->row, speaker->group, kNobody);
+  contest.reasonsPlace[number] = {};
+  const std::string line = dialog.line(kOrder, speaker->row);
   dialog.removeLine(kOrder, speaker->row);
+  // Whoever kept a cell without the place that belongs to it can be listed already.
+  if (!hasLine(dialog, kUnassigned, line)) dialog.addLine(kUnassigned, line);
   compactReasonsOrder(contest);
 }
 
@@ -173,7 +167,7 @@ void ReasonsOrderEditDialog::assign(Dialog& dialog) {
   if (stoodElsewhere) {
     dialog.setLines(kOrder, orderLines(contest, *group));
   } else {
-    dialog.addLine(kOrder, lineOf(contest, number));
+    dialog.addLine(kOrder, takerLine(contest, number));
   }
 }
 

@@ -5,6 +5,7 @@
 
 #include "model/class_lists.h"
 #include "setup/reasons_bands.h"
+#include "setup/reasons_takers.h"
 #include "text/format.h"
 #include "view/report_text.h"
 
@@ -48,14 +49,9 @@ void appendGrid(std::string& out, const ReasonsOrder& order, const ReasonsBand& 
 }
 
 void appendUnassigned(std::string& out, const Contest& contest) {
-  bool first = true;
-  for (const auto& [number, name] : contest.contestantNames) {
-    const ReasonsPlace* place = contest.reasonsPlace.find(number);
-    if (name.empty() || (place != nullptr && place->isAssigned())) continue;
-    if (first) out += "\n\t\tContestants Not Assigned in Reasons Order\n";
-    first = false;
-    appendFormat(out, "     %d - %s\n", number, name.c_str());
-  }
+  const std::vector<std::string> unassigned = unassignedTakers(contest);
+  if (!unassigned.empty()) out += "\n\t\tContestants Not Assigned in Reasons Order\n";
+  for (const std::string& line : unassigned) out += line + "\n";
 }
 
 void appendRoomBoxes(std::string& out, const ReasonsBand& band) {

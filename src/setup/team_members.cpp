@@ -17,14 +17,9 @@ ContestantNumber after(ContestantNumber number, std::uint32_t step) {
 
 }  // namespace
 
-char groupLetterOf(const Contest& contest, ContestantNumber number) {
-  const char* letter = contest.contestantGroup.find(number);
-  return letter != nullptr ? *letter : groupOfNumber(contest.settings, number);
-}
-
 std::string memberLine(const Contest& contest, ContestantNumber number, std::int32_t slot) {
   std::string line = formatText("%d - %s   %c", number, contestantName(contest, number).c_str(),
-                                groupLetterOf(contest, number));
+                                groupOfContestant(contest, number));
   if (slot >= contest.settings.numPerTeam) line += " (alternate)";
   return line;
 }

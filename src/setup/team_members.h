@@ -7,9 +7,6 @@
 
 #include "model/contest.h"
 
-/// The group letter stored for a contestant; the one that goes with the number when none is.
-[[nodiscard]] char groupLetterOf(const Contest& contest, ContestantNumber number);
-
 /// A member's line: "101 - Ann Lee   A", and " (alternate)" in a slot (from 0) beyond the regular
 /// members. Name and group as stored.
 [[nodiscard]] std::string memberLine(const Contest& contest, ContestantNumber number,

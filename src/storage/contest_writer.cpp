@@ -111,8 +111,7 @@ void appendContestants(std::string& out, const Contest& contest) {
     before += '\t';
     const std::string_view field = fieldOf(name);
     if (!field.empty()) {
-      const ReasonsPlace* known = contest.reasonsPlace.find(number);
-      const ReasonsPlace place = known == nullptr ? ReasonsPlace{} : *known;
+      const ReasonsPlace place = reasonsPlaceOf(contest, number);
       appendField(after, place.group);
       appendField(after, place.position);
     }

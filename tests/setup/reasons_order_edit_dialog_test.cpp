@@ -98,15 +98,29 @@ TEST(ReasonsOrderEdit, TakesNobodyIntoAFullGroup) {
   EXPECT_EQ(currentContest(), contest);
 }
 
-// 103 was deleted and named anew, which left the cell but not the place.
-TEST(ReasonsOrderEdit, NobodySpeaksTwice) {
+// 101 and 103 were deleted, which left the cells but not the places; 103 was named anew.
+TEST(ReasonsOrderEdit, NobodySpeaksOrWaitsTwice) {
   Contest contest = twoGroups();
   placeGroup(contest, 0, {103, 101, 102, kNobody, kNobody});
-  contest.reasonsPlace[103] = {};
+  contest.contestantNames[101] = "";
+  contest.reasonsPlace[101] = contest.reasonsPlace[103] = {};
   OrderEditing editing(contest);
-  editing.dialog.choose(Edit::kGroups, 0);
-  editing.dialog.choose(Edit::kUnassigned, 0);
-  editing.expect({101, 102, 103}, {105, 106});
+  MemoryDialog& dialog = editing.dialog;
+  dialog.choose(Edit::kGroups, 0);
+  for (int removed = 0; removed < 2; ++removed) {
+    dialog.choose(Edit::kOrder, 0);
+    dialog.click(Edit::kRemove);
+  }
+  EXPECT_EQ(dialog.lines(Edit::kUnassigned),
+            (Lines{"     101 - ", "     103 - Taker 103", "     105 - Taker 105",
+                   "     106 - Taker 106"}));
+  dialog.pressCloseBox();
+
+  OrderEditing again(contest);
+  again.dialog.choose(Edit::kGroups, 0);
+  again.dialog.choose(Edit::kUnassigned, 0);
+  EXPECT_EQ(again.dialog.lines(Edit::kOrder),
+            (Lines{"     101 - ", "     102 - Taker 102", "     103 - Taker 103"}));
 }
 
 }  // namespace
