@@ -104,7 +104,7 @@ class ArgumentReader {
 
   /// "" or what is wrong.
   Fault readAll() {
-    options_.action = Action::oneReport;
+    options_.action = Action::printReports;
     while (!rest_.empty()) {
       Fault fault = readNext();
       if (!fault.empty()) return fault;
@@ -124,6 +124,8 @@ class ArgumentReader {
   Fault checkWords();
   Fault findReport(std::string_view word);
   [[nodiscard]] Fault checkUse() const;
+  [[nodiscard]] bool asks(ReportQuestion question) const;
+  [[nodiscard]] std::string whatIsAskedFor() const;
 
   Arguments rest_;
   bool onlyWords_ = false;
@@ -173,9 +175,11 @@ Fault ArgumentReader::checkWords() {
     return checkUse();
   }
   if (words_.size() < 2) return "no report is named";
-  if (words_.size() > 2) return quoted(words_[2]) + " is too much";
-  Fault fault = findReport(words_[1]);
-  return fault.empty() ? checkUse() : fault;
+  for (std::size_t i = 1; i < words_.size(); ++i) {
+    Fault fault = findReport(words_[i]);
+    if (!fault.empty()) return fault;
+  }
+  return checkUse();
 }
 
 Fault ArgumentReader::findReport(std::string_view word) {
@@ -183,29 +187,37 @@ Fault ArgumentReader::findReport(std::string_view word) {
   for (const Command& command : commandTable()) {
     if (command.report == nullptr) continue;
     if (id ? command.id != *id : !sameWord(command.caption, word)) continue;
-    options_.command = &command;
+    options_.commands.push_back(&command);
     return {};
   }
   return "there is no report " + quoted(word) + "; --list names all of them";
 }
 
-// Options and report must go together.
+// Options and reports must go together.
 Fault ArgumentReader::checkUse() const {
-  const bool one = options_.action == Action::oneReport;
   for (const OptionRule* rule : used_) {
-    if (!rule->question || (one && rule->question == options_.command->question)) continue;
-    return std::string(rule->name) + " does not belong to " +
-           (one ? "the report " + quoted(options_.command->caption) : "--all");
+    if (!rule->question || asks(*rule->question)) continue;
+    return std::string(rule->name) + " does not belong to " + whatIsAskedFor();
   }
-  if (!one) return {};
-  const ReportQuestion question = options_.command->question;
-  if (question == ReportQuestion::reasonsClass && !options_.classNumber) {
-    return quoted(options_.command->caption) + " needs --class";
-  }
-  if (question == ReportQuestion::round && !options_.round) {
-    return quoted(options_.command->caption) + " needs --round";
+  for (const Command* command : options_.commands) {
+    const std::string needs = quoted(command->caption) + " needs ";
+    if (command->question == ReportQuestion::reasonsClass && !options_.classNumber) {
+      return needs + "--class";
+    }
+    if (command->question == ReportQuestion::round && !options_.round) return needs + "--round";
   }
   return {};
+}
+
+bool ArgumentReader::asks(ReportQuestion question) const {
+  return std::any_of(options_.commands.begin(), options_.commands.end(),
+                     [question](const Command* c) { return c->question == question; });
+}
+
+std::string ArgumentReader::whatIsAskedFor() const {
+  if (options_.commands.empty()) return "--all";
+  if (options_.commands.size() > 1) return "these reports";
+  return "the report " + quoted(options_.commands[0]->caption);
 }
 
 }  // namespace
@@ -229,12 +241,13 @@ std::variant<CliOptions, UsageError> parseOptions(Arguments arguments) {
 }
 
 std::string_view usageText() {
-  return R"(usage: scorvane-report CONTEST.scv REPORT [options]
+  return R"(usage: scorvane-report CONTEST.scv REPORT... [options]
        scorvane-report CONTEST.scv --all DIR
        scorvane-report --list | --help | --version
 
-Prints a report of a contest file, byte for byte as the program shows it. REPORT is
-the number or the caption of a report command; --list prints both, one report a line.
+Prints a report of a contest file, byte for byte as the program shows it; several are
+printed one after the other. REPORT is the number or the caption of a report command;
+--list prints both, one report a line.
 
   --class N          Reasons Score Sheets, Verify Reasons Scores: class number, from 1
   --round N          Round Verification Report: round, from 1

@@ -13,11 +13,11 @@
 #include "results/score_kind.h"
 
 struct CliOptions {
-  enum class Action { help, version, list, oneReport, allReports };
+  enum class Action { help, version, list, printReports, allReports };
   Action action = Action::help;
   std::string contest;                      ///< path of the contest file
   std::string folder;                       ///< for allReports
-  const Command* command = nullptr;         ///< for oneReport: a command with a report
+  std::vector<const Command*> commands;     ///< for printReports: commands with a report, in order
   std::optional<std::int32_t> classNumber;  ///< from 1
   std::optional<std::int32_t> round;        ///< from 1
   std::optional<std::string> title;

@@ -1,6 +1,7 @@
 #include "cli/runner.h"
 
 #include <algorithm>
+#include <utility>
 #include <variant>
 
 #include "storage/contest_reader.h"
@@ -12,13 +13,13 @@ namespace {
 using Action = CliOptions::Action;
 
 CliResult failed(const std::string& reason) {
-  return {kFailed, "", "scorvane-report: " + reason + "\n"};
+  return {kFailed, "", "scorvane-report: " + reason + "\n", {}};
 }
 
 std::variant<Contest, std::string> openContest(const std::string& path, FileSystem& files) {
-  const std::optional<std::string> bytes = files.readWhole(path);
-  if (!bytes) return "cannot read '" + path + "': it does not exist or cannot be opened";
-  std::variant<Contest, ContestFault> contest = readContest(*bytes);
+  const std::optional<FileView> file = files.view(path);
+  if (!file) return "cannot read '" + path + "': it does not exist or cannot be opened";
+  std::variant<Contest, ContestFault> contest = readContest(file->bytes);
   if (auto* read = std::get_if<Contest>(&contest)) return std::move(*read);
   if (std::get<ContestFault>(contest) == ContestFault::scoreCountMismatch) {
     return "cannot read '" + path + "': the number of scores in the file is not correct";
@@ -90,12 +91,19 @@ ReportRequest requestOf(const Contest& contest, const CliOptions& options) {
   return request;
 }
 
-CliResult printReport(const Contest& contest, const CliOptions& options) {
+CliResult printReports(const Contest& contest, const CliOptions& options) {
   const std::string missing = missingPart(contest, options);
   if (!missing.empty()) return failed(missing);
-  std::optional<std::string> report = options.command->report(contest, requestOf(contest, options));
-  if (report) return {0, std::move(*report), ""};
-  return failed("the contest lacks what '" + std::string(options.command->caption) + "' needs");
+  const ReportRequest request = requestOf(contest, options);
+  CliResult result;
+  for (const Command* command : options.commands) {
+    const std::optional<std::string> report = command->report(contest, request);
+    if (!report) {
+      return failed("the contest lacks what '" + std::string(command->caption) + "' needs");
+    }
+    result.output += *report;
+  }
+  return result;
 }
 
 std::string fileNameOf(const Command& command) {
@@ -136,22 +144,26 @@ std::string reportList() {
 CliResult runCli(const CliOptions& options, FileSystem& files) {
   switch (options.action) {
     case Action::help:
-      return {0, std::string(usageText()), ""};
+      return {0, std::string(usageText()), "", {}};
     case Action::version:
-      return {0, "scorvane-report " SCORVANE_VERSION "\n", ""};
+      return {0, "scorvane-report " SCORVANE_VERSION "\n", "", {}};
     case Action::list:
-      return {0, reportList(), ""};
-    case Action::oneReport:
+      return {0, reportList(), "", {}};
+    case Action::printReports:
     case Action::allReports:
       break;
   }
-  const auto opened = openContest(options.contest, files);
+  auto opened = openContest(options.contest, files);
   if (const auto* fault = std::get_if<std::string>(&opened)) return failed(*fault);
-  const auto& contest = std::get<Contest>(opened);
-  if (options.action == Action::allReports) return writeAllReports(contest, options.folder, files);
-  return printReport(contest, options);
+  auto& contest = std::get<Contest>(opened);
+  CliResult result = options.action == Action::allReports
+                         ? writeAllReports(contest, options.folder, files)
+                         : printReports(contest, options);
+  result.contest = std::move(contest);
+  return result;
 }
 
 CliResult refuseUsage(const UsageError& error) {
-  return {kWrongUsage, "", "scorvane-report: " + error.reason + "\n\n" + std::string(usageText())};
+  return {
+      kWrongUsage, "", "scorvane-report: " + error.reason + "\n\n" + std::string(usageText()), {}};
 }

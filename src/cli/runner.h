@@ -11,6 +11,8 @@ struct CliResult {
   int status = 0;
   std::string output;
   std::string error;
+  /// What the reports were made of. Handed on so that the program can end without taking it apart.
+  Contest contest;
 };
 
 inline constexpr int kFailed = 1;

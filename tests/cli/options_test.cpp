@@ -20,11 +20,10 @@ CliOptions accepted(const Words& words) {
 
 TEST(CliOptions, ReportsGoByNumberOrCaption) {
   for (const char* word : {"32796", "High Individual Overall", "high individual OVERALL"}) {
-    const CliOptions options = accepted({"a.scv", word});
-    EXPECT_EQ(options.action, Action::oneReport);
+    const CliOptions options = accepted({"a.scv", word, "--round", "1", "32862"});
+    EXPECT_EQ(options.action, Action::printReports);
     EXPECT_EQ(options.contest, "a.scv");
-    ASSERT_NE(options.command, nullptr);
-    EXPECT_EQ(options.command->id, 32796);
+    EXPECT_EQ(options.commands, (std::vector{findCommand(32796), findCommand(32862)}));
   }
 }
 
@@ -56,7 +55,9 @@ TEST(CliOptions, WrongUsageIsNamed) {
            Case{{"a.scv"}, "no report is named"},
            Case{{"a.scv", "99"}, "there is no report '99'; --list names all of them"},
            Case{{"a.scv", "32771"}, "there is no report '32771'; --list names all of them"},
-           Case{{"a.scv", "32796", "x"}, "'x' is too much"},
+           Case{{"a.scv", "32796", "x"}, "there is no report 'x'; --list names all of them"},
+           Case{{"a.scv", "32796", "32801", "--round", "1"},
+                "--round does not belong to these reports"},
            Case{{"a.scv", "32796", "--clas", "1"}, "there is no option '--clas'"},
            Case{{"a.scv", "32796", "--class", "1"},
                 "--class does not belong to the report 'High Individual Overall'"},

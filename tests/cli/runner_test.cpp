@@ -48,6 +48,8 @@ TEST(CliRunner, PrintsWhatTheCommandReports) {
   EXPECT_EQ(result.error, "");
   EXPECT_NE(result.output.find("Gilts"), std::string::npos);
   EXPECT_EQ(run(smallContest(), {"32862", "--round=2"}).output.substr(0, 8), "Round 2 ");
+  EXPECT_EQ(run(smallContest(), {"32796", "Classes Report"}).output,
+            run(smallContest(), {"32796"}).output + result.output);
 }
 
 TEST(CliRunner, CustomReportDefaultsAsTheDialogDoes) {
