@@ -1,5 +1,6 @@
 // file_check FOLDER: saves into an empty folder under the circumstances that only Windows has, and
 // says what went wrong. file_check FOLDER save: saves two contents in turn until it is killed.
+// file_check FOLDER hold: keeps others from writing contest.scv until its standard input ends.
 #include <windows.h>
 
 #include <cstdio>
@@ -108,11 +109,24 @@ int countFiles(const std::string& folder) {
   return count;
 }
 
+int hold(const std::string& path) {
+  const HANDLE file =
+      CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return 1;
+  std::puts("holding");
+  std::fflush(stdout);
+  while (std::getchar() != EOF) {
+  }
+  CloseHandle(file);
+  return 0;
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
   if (count < 2) return 2;
   const std::string folder = arguments[1];
+  if (count > 2 && std::string(arguments[2]) == "hold") return hold(folder + "\\contest.scv");
   while (count > 2) {
     const std::string path = folder + "\\contest.scv";
     if (!save(path, std::string(9000, 'a')) || !save(path, std::string(300000, 'b'))) return 1;

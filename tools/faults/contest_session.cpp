@@ -1,0 +1,119 @@
+// contest_session: an operator without a window, for injecting faults around. Each line of standard
+// input is one command; each answer is one line: "ok", or the caption and the first line of the
+// message box that the program showed.
+//   open PATH     as File, Open          save          as File, Save
+//   save_as PATH  as File, Save As       name TEXT     sets the contest's name
+//   size N        an invented contest of N contestants, under the file name that is current
+//   bytes         a contest with names of every byte from 1 to 255
+//   reread        whether the current file holds the contest: "ok", or the bytes that ended names
+#include <cstdlib>
+#include <iostream>
+#include <string>
+#include <variant>
+
+#include "model/contest.h"
+#include "model/numbering.h"
+#include "storage/contest_commands.h"
+#include "storage/contest_reader.h"
+#include "storage/file.h"
+#include "tools/contest_maker.h"
+
+namespace {
+
+/// Remembers the last message box; its file dialog gives the path that is asked for.
+class Desk : public Window {
+ public:
+  std::string message;
+  std::string path;
+
+  Answer ask(const Message& shown) override {
+    message = shown.caption + ": " + shown.text.substr(0, shown.text.find_first_of("\r\n"));
+    return shown.defaultAnswer;
+  }
+  std::optional<std::string> chooseFile(const FileQuestion& /*question*/) override { return path; }
+  int runDialog(int /*resourceId*/, DialogBehaviour& /*behaviour*/) override { return 0; }
+};
+
+/// Different for each byte even when it ends at it.
+std::string nameWith(int byte) {
+  std::string name = std::to_string(byte);
+  name.append({'<', static_cast<char>(byte), '>'});
+  return name;
+}
+
+Contest contestOfBytes() {
+  ContestPlan plan;
+  plan.contestants = 0;
+  plan.classes = 0;
+  Contest contest = makeContest(plan);
+  contest.categories.clear();
+  for (int byte = 1; byte <= 255; ++byte) {
+    const std::string name = nameWith(byte);
+    const ContestantNumber number = 100 + byte;
+    contest.contestantNames[number] = name;
+    contest.classes.add(name, false, false, 'A', {1, 1, 1}, 0);
+    Team& team = contest.teams[name];
+    team.coach = name;
+    team.members.assign(teamSlots(contest.settings), number);
+  }
+  updateNextContestant(contest);
+  return contest;
+}
+
+// Only what the reader works out itself may differ: group letters and places of unknown numbers.
+std::string reread() {
+  const auto bytes = systemFiles().readWhole(currentFileName());
+  if (!bytes) return "unreadable";
+  const auto reading = readContest(*bytes);
+  const Contest* found = std::get_if<Contest>(&reading);
+  if (found == nullptr) return "no contest";
+  const Contest& kept = currentContest();
+  std::string ended;
+  for (const auto& [number, name] : kept.contestantNames) {
+    if (contestantName(*found, number) != name)
+      ended.append(" ").append(std::to_string(number - 100));
+  }
+  if (!ended.empty()) return "names end at bytes" + ended;
+  const bool same = found->classes == kept.classes && found->teams == kept.teams &&
+                    found->settings.contestName == kept.settings.contestName;
+  return same ? "ok" : "another contest";
+}
+
+std::string follow(const std::string& command, const std::string& value, Desk& desk) {
+  desk.message = "ok";
+  desk.path = value;
+  if (command == "open") {
+    currentFileName() = value;
+    loadContest(desk, true);
+  } else if (command == "save") {
+    saveCurrent(desk);
+  } else if (command == "save_as") {
+    saveContest(desk, true);
+  } else if (command == "name") {
+    currentContest().settings.contestName = value;
+  } else if (command == "size") {
+    ContestPlan plan;
+    plan.contestants = std::atoi(value.c_str());
+    currentContest() = makeContest(plan);
+  } else if (command == "bytes") {
+    currentContest() = contestOfBytes();
+  } else if (command == "reread") {
+    return reread();
+  } else {
+    return "unknown command";
+  }
+  return desk.message;
+}
+
+}  // namespace
+
+int main() {
+  Desk desk;
+  std::string line;
+  while (std::getline(std::cin, line)) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    const std::size_t blank = line.find(' ');
+    const std::string value = blank == std::string::npos ? "" : line.substr(blank + 1);
+    std::cout << follow(line.substr(0, blank), value, desk) << std::endl;
+  }
+}
