@@ -44,6 +44,7 @@ TEST(ReasonsOrderEdit, MovesASpeakerUpAndDownToTheEnds) {
   OrderEditing editing(twoGroups());
   MemoryDialog& dialog = editing.dialog;
   EXPECT_EQ(dialog.lines(Edit::kGroups), (Lines{"     1", "     2"}));
+  EXPECT_EQ(currentContest().reasonsPlace[103], (ReasonsPlace{0, 2}));
   dialog.choose(Edit::kGroups, 1);
   editing.expect({104}, {105, 106});
   dialog.choose(Edit::kGroups, 0);

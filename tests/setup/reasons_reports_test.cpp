@@ -75,11 +75,12 @@ TEST(ReasonsOrderReport, ShowsOrderUnassignedAndClassOrderInBands) {
 }
 
 TEST(ReasonsOrderReport, StandsWithoutReasonsClassesAndWithAGapInTheFirstRow) {
-  Contest contest = reasonsContest(1, 0, 2);
+  Contest contest = reasonsContest(1, 0, 3);
   placeGroup(contest, 0, {kNobody, 101});
   const std::string expected =
       "\n\n                 Reasons Order\n\n     1   \n   ----- \n"
-      "\n\t\tContestants Not Assigned in Reasons Order\n     102 - Taker 102\n"
+      "\n\t\tContestants Not Assigned in Reasons Order\n     102 - Taker 102\n     103 - Taker "
+      "103\n"
       "\n\nReasons Class Order\n-------------------\n\n\n\n";
   EXPECT_EQ(firstDifference(expected, reasonsOrderReport(contest, ReasonsOrderForm::plain)), "");
 }

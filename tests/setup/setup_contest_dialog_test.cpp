@@ -28,18 +28,18 @@ TEST(SetupContest, ChecksTheFieldsInOrder) {
        "There must be at least one (1) reasons taker.\nIf you do not have any reasons classes, "
        "this value will be ignored.|Error",
        "x2"},
-      {kNumberToScore, "The number to score must be one (1) or greater.|Information", "x3"},
+      {kNumberToScore, "The number to score must be one (1) or greater.|Information", "x5"},
       {kPerTeam, "The number of contestants per team must be one (1) or greater.|Information",
-       "x2"},
-      {kTotalPerTeam, "The total number per team must be one (1) or greater.|Information", "x3"},
+       "x4"},
+      {kTotalPerTeam, "The total number per team must be one (1) or greater.|Information", "x5"},
       {kPerTeam,
        "The number of contestants per team must be greater (or equal to) than the number of "
        "contestants to score.|Error",
-       "4"},
+       "6"},
       {kTotalPerTeam,
        "The total number of contestants per team must be greater than (or equal to) the number of "
        "contestants per team.|Error",
-       "4"},
+       "7"},
   };
   ContestSetup setup;
   EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kContestName, kDone));
@@ -52,9 +52,11 @@ TEST(SetupContest, ChecksTheFieldsInOrder) {
     EXPECT_FALSE(setup.isDone());
     setup.dialog.fill(field, correction);
   }
+  reportText() = "old report";
   setup.dialog.pressCloseBox();
   EXPECT_TRUE(setup.isDone());
-  const ContestSettings expected = {"County Fair", "Senior", "today", 301, 4,   4,  3,
+  EXPECT_EQ(reportText(), kWelcomeText);
+  const ContestSettings expected = {"County Fair", "Senior", "today", 301, 6,   7,  5,
                                     false,         15,       26,      2,   301, 'A'};
   EXPECT_EQ(currentContest().settings, expected);
 }
@@ -62,6 +64,7 @@ TEST(SetupContest, ChecksTheFieldsInOrder) {
 TEST(SetupContest, CancelPutsBackWhatARefusedDoneStored) {
   Contest before = reasonsContest(2, 1, 3);
   placeGroup(before, 0, {101, 102});
+  before.settings.reportPercent = true;
   ContestSetup setup(before);
   reportText() = "old report";
   setup.dialog.fill(kContestName, "Other");
@@ -72,7 +75,10 @@ TEST(SetupContest, CancelPutsBackWhatARefusedDoneStored) {
   setup.dialog.pressEnter();
   setup.dialog.click(kDone);
   EXPECT_EQ(currentContest().settings.contestName, "Other");
-  EXPECT_TRUE(currentContest().settings.reportPercent);
+  EXPECT_FALSE(currentContest().settings.reportPercent);
+  setup.dialog.fill(kReasonsTakers, "0");
+  setup.dialog.click(kDone);
+  EXPECT_EQ(currentContest().settings.numReasonsGroups, 2);
   setup.dialog.pressEscape();
   EXPECT_EQ(setup.dialog.result(), kCancelId);
   EXPECT_TRUE(setup.dialog.desktop.fileQuestions.empty());
@@ -105,6 +111,7 @@ TEST(SetupContest, CategoriesAreAddedUpdatedAndDeleted) {
   ContestSetup setup;
   MemoryDialog& dialog = setup.dialog;
   const Lines& stored = currentContest().categories;
+  EXPECT_EQ(dialog.lines(kCategoryList), Lines{"none"});
   // A lone "none" gives way to the first category; nobody looks for duplicates.
   for (const char* name : {"Swine", "none", "Swine", "Hay\tand\r\nGrain"}) {
     dialog.paste(kCategoryText, name);
@@ -112,50 +119,44 @@ TEST(SetupContest, CategoriesAreAddedUpdatedAndDeleted) {
   }
   EXPECT_EQ(stored, (Lines{"Swine", "none", "Swine", "Hay and  Grain"}));
   EXPECT_EQ(dialog.lines(kCategoryList), stored);
+  dialog.focus(kGroups);
+  EXPECT_EQ(dialog.defaultButton(), kDone);
+  EXPECT_EQ(setup.press(kAddCategory), "Category cannot be empty.|Information");
+  EXPECT_EQ(setup.press(kUpdateCategory), "No category selected.|Information");
+  EXPECT_EQ(setup.press(kDeleteCategory), "No category selected.|Information");
   // The first category's stored name is never updated, though its line is.
   for (const int line : {0, 2}) {
     dialog.choose(kCategoryList, line);
     EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kCategoryText, kUpdateCategory));
-    dialog.keys("s");
+    EXPECT_EQ(dialog.text(kCategoryText), "Swine");
+    EXPECT_EQ(setup.press(kAddCategory),
+              "When a category is selected Update and Delete are the only valid buttons.|"
+              "Information");
+    dialog.fill(kCategoryText, "");
+    EXPECT_EQ(setup.press(kUpdateCategory), "Category cannot be empty.|Information");
+    EXPECT_EQ(dialog.text(kCategoryText), "Swine");
+    dialog.fill(kCategoryText, "Hogs");
     dialog.pressEnter();
     EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kCategoryText, kAddCategory));
     EXPECT_EQ(dialog.text(kCategoryText), "");
   }
-  EXPECT_EQ(dialog.lines(kCategoryList), (Lines{"Swines", "none", "Swines", "Hay and  Grain"}));
-  EXPECT_EQ(stored, (Lines{"Swine", "none", "Swines", "Hay and  Grain"}));
+  EXPECT_EQ(dialog.lines(kCategoryList), (Lines{"Hogs", "none", "Hogs", "Hay and  Grain"}));
+  EXPECT_EQ(stored, (Lines{"Swine", "none", "Hogs", "Hay and  Grain"}));
+  currentContest().classes.className = {"Steers"};
+  EXPECT_EQ(setup.press(kDeleteCategory),
+            "Once classes have been entered, categories can no longer be deleted.  They can only "
+            "be added and/or updated.|Information");
+  currentContest().classes.clear();
   for (auto left = std::ssize(stored); left > 0; --left) {
     EXPECT_EQ(dialog.lineCount(kCategoryList), left);
     dialog.choose(kCategoryList, 0);
     dialog.click(kDeleteCategory);
+    EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kCategoryText, kAddCategory));
     EXPECT_EQ(dialog.text(kCategoryText), "");
   }
   EXPECT_TRUE(stored.empty());
   dialog.click(kDone);
   EXPECT_EQ(stored, Lines{"none"});
-}
-
-TEST(SetupContest, CategoryButtonsRefuseWhatDoesNotFit) {
-  ContestSetup setup(ContestBuilder().categories({"Beef", "Sheep"}).contest);
-  setup.dialog.focus(kCategoryText);
-  EXPECT_EQ(setup.dialog.defaultButton(), kAddCategory);
-  setup.dialog.focus(kGroups);
-  EXPECT_EQ(setup.dialog.defaultButton(), kDone);
-  EXPECT_EQ(setup.press(kAddCategory), "Category cannot be empty.|Information");
-  EXPECT_EQ(setup.press(kUpdateCategory), "No category selected.|Information");
-  EXPECT_EQ(setup.press(kDeleteCategory), "No category selected.|Information");
-  setup.dialog.choose(kCategoryList, 0);
-  setup.dialog.fill(kCategoryText, "");
-  EXPECT_EQ(setup.press(kAddCategory),
-            "When a category is selected Update and Delete are the only valid buttons.|"
-            "Information");
-  EXPECT_EQ(setup.press(kUpdateCategory), "Category cannot be empty.|Information");
-  EXPECT_EQ(setup.dialog.text(kCategoryText), "Beef");
-  EXPECT_EQ(setup.dialog.defaultButton(), kUpdateCategory);
-  currentContest().classes.className = {"Steers"};
-  EXPECT_EQ(setup.press(kDeleteCategory),
-            "Once classes have been entered, categories can no longer be deleted.  They can only "
-            "be added and/or updated.|Information");
-  EXPECT_EQ(currentContest().categories, (Lines{"Beef", "Sheep"}));
 }
 
 }  // namespace
