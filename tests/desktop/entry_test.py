@@ -6,7 +6,7 @@ import unittest
 from desktop import IDNO, IDOK, IDYES, VK, DesktopTest, wait_for
 
 LOOKUP, PLACINGS, REASONS, QUESTIONS = 32791, 32822, 32823, 32826
-NUMBER, LETTER, REASONS_SCORE, QUESTIONS_SCORE, CLASSES, GROUPS = 1054, 1027, 1028, 1056, 1016, 1053
+NUMBER, NUMBER_TYPED, LETTER, REASONS_SCORE, QUESTIONS_SCORE, CLASSES, GROUPS = 1054, 1026, 1027, 1028, 1056, 1016, 1053
 
 HEAD = (
     "contestName:\tFair", "divisionName:\tJunior Division", "contestDate:\tMay 1", "startNum:\t101",
@@ -40,23 +40,33 @@ class Entry(DesktopTest):
 
     def choose(self, dialog, class_line, group_line):
         """Takes the first or last line of both lists; the focus returns to the score field by itself."""
-        self.go_to(dialog, "alt+c", CLASSES)
-        dialog.press("Home", *["End"] * class_line, "Tab", "Home")
+        self.desktop.keys("alt+c")
+        self.wait_for_focus(dialog, CLASSES)
+        dialog.press("Home", *["End"] * class_line, "Tab")
+        self.wait_for_focus(dialog, GROUPS)
+        dialog.press("Home")
         if group_line:
-            self.go_to(dialog, "alt+g", GROUPS)
+            self.desktop.keys("alt+g")
+            self.wait_for_focus(dialog, GROUPS)
             dialog.press("End")
 
-    def go_to(self, dialog, key, control):
-        self.desktop.keys(key)
+    def wait_for_focus(self, dialog, control):
+        """Keys are posted to whatever has the focus, so a change of focus is waited for."""
         wait_for(lambda: dialog.focused() == control, f"the focus in {control}")
+
+    def wait_for_card(self, dialog, number, field):
+        wait_for(lambda: (dialog.text(NUMBER), dialog.focused()) == (number, field), f"contestant {number!r}")
 
     def enter(self, dialog, field, *cards):
         for number, typed in cards:
-            self.assertEqual((dialog.text(NUMBER), dialog.focused()), (number, field))
+            self.wait_for_card(dialog, number, field)
             dialog.type(typed)
             dialog.press("Return")
-        self.assertEqual((dialog.text(NUMBER), dialog.focused()), ("", field))
+        self.wait_for_card(dialog, "", field)
         self.assertEqual(dialog.selection(CLASSES) + dialog.selection(GROUPS), [])
+
+    def last_score(self, dialog):
+        return [dialog.text(i) for i in (1031, 1032, 1033, 1034, 1030, 1035, 1036)]
 
     def escape(self, dialog):
         dialog._tell("key", "virtual", VK["Escape"])
@@ -71,6 +81,7 @@ class Entry(DesktopTest):
         dialog = self.open(PLACINGS, "Input Placings Scores By Group")
         self.assertEqual(dialog.focused(), LETTER)
         self.choose(dialog, 0, 0)
+        self.wait_for_focus(dialog, LETTER)
         dialog.type("b")
         self.picture("placings")
         self.enter(dialog, LETTER, ("101", ""), ("103", "Z"), ("105", "x"))
@@ -91,6 +102,7 @@ class Entry(DesktopTest):
 
         dialog = self.open(QUESTIONS, "Input Questions Scores By Group")
         self.choose(dialog, 0, 1)
+        self.wait_for_focus(dialog, QUESTIONS_SCORE)
         dialog.type("a7")
         self.picture("questions")
         self.enter(dialog, QUESTIONS_SCORE, ("102", ""), ("104", "0"))
@@ -105,15 +117,19 @@ class Entry(DesktopTest):
         self.assertEqual([dialog.is_enabled(f) for f in (REASONS_SCORE, QUESTIONS_SCORE)], [True, False])
         dialog.type("104")
         dialog.press("Tab")
+        self.wait_for_focus(dialog, LETTER)
         dialog.type("x")
         dialog.press("Return")
-        dialog.type("104")
-        self.assertEqual(dialog.text(1032), "X")
-        self.desktop.keys("alt+l")
-        wait_for(lambda: dialog.default_button() == 1004 and dialog.focused() == 1026, "the look-up")
+        self.wait_for_focus(dialog, NUMBER_TYPED)
+        self.assertEqual(self.last_score(dialog), ["104", "X", "X", "(5,5,5)", "50", "0", "---"])
+        for number in ("102", "101"):  # the second over the first, which is marked
+            dialog.type(number)
+            self.desktop.keys("alt+l")
+            expected = [number, " ", "X", "(5,5,5)", "0", "0", "---"]
+            wait_for(lambda: self.last_score(dialog) == expected, f"the look-up of {number}")
+            self.wait_for_focus(dialog, NUMBER_TYPED)
+        self.assertEqual(dialog.default_button(), 1004)
         self.picture("lookup")
-        self.assertEqual([dialog.text(i) for i in (1031, 1032, 1033, 1034, 1030, 1035, 1036)],
-                         ["104", "X", "X", "(5,5,5)", "50", "0", "---"])
         self.escape(dialog)
         self.assertEqual(self.file.read_bytes(), self.content())
 
@@ -123,7 +139,7 @@ class Entry(DesktopTest):
         for answer, number in ((IDNO, ""), (IDYES, "102")):
             dialog.choose(GROUPS, 1)
             self.assertIn("This group has 1 (out of 2) placings scores", self.app.answer(answer, "Information"))
-            self.assertEqual((dialog.text(NUMBER), dialog.focused()), (number, LETTER))
+            self.wait_for_card(dialog, number, LETTER)
             if answer == IDNO:
                 dialog.choose(CLASSES, 1)
         dialog.close()
@@ -141,6 +157,7 @@ class Entry(DesktopTest):
                 (LOOKUP, "Lookup/Edit Individual Scores", letters, (102, 0), "{0}\t{1}\t0\t0"),
                 (REASONS, "Input Reasons Scores By Group", numbers, (103, 1), " \t0\t{0}\t0"),
                 (QUESTIONS, "Input Questions Scores By Group", numbers, (101, 0), "G\t48\t0\t{0}")):
+            field = {REASONS: REASONS_SCORE, QUESTIONS: QUESTIONS_SCORE}.get(command, LETTER)
             for typed, (way, close) in zip(cards, ways.items()):
                 with self.subTest(title=title, way=way):
                     dialog = self.open(command, title)
@@ -152,6 +169,8 @@ class Entry(DesktopTest):
                         dialog.choose(GROUPS, 0)
                         if way != "Escape":  # the first way leaves a score for the next ones
                             self.app.answer(IDYES, "Information")
+                        self.wait_for_card(dialog, str(place[0]), field)
+                    self.wait_for_focus(dialog, field)
                     dialog.type(typed)
                     dialog.press("Return")
                     close(dialog)
