@@ -9,6 +9,7 @@
 
 #include "ui/control_kind_win32.h"
 #include "ui/fixed_font_win32.h"
+#include "ui/typed_choice_win32.h"
 #include "ui/unsigned_number.h"
 
 namespace {
@@ -115,6 +116,7 @@ LRESULT CALLBACK linkedListProcedure(HWND list, UINT message, WPARAM wParam, LPA
 INT_PTR NativeDialog::initialize(HWND window) {
   window_ = window;
   useColumnFont();
+  letTypingChooseLines(window);
   behaviour_.opened(*this);
   drawDefaultButtons();
   // FALSE keeps the focus where the behaviour put it.

@@ -38,17 +38,12 @@ class Entry(DesktopTest):
         self.main.command(command)
         return self.app.window(title)
 
-    def choose(self, dialog, class_line, group_line):
-        """Takes the first or last line of both lists; the focus returns to the score field by itself."""
-        self.desktop.keys("alt+c")
-        self.wait_for_focus(dialog, CLASSES)
-        dialog.press("Home", *["End"] * class_line, "Tab")
-        self.wait_for_focus(dialog, GROUPS)
-        dialog.press("Home")
-        if group_line:
-            self.desktop.keys("alt+g")
-            self.wait_for_focus(dialog, GROUPS)
-            dialog.press("End")
+    def choose(self, dialog, class_key, group_key):
+        """Takes the lines that begin so; the focus returns to the score field by itself."""
+        for key, control, typed in (("alt+c", CLASSES, class_key), ("alt+g", GROUPS, group_key)):
+            self.desktop.keys(key)
+            self.wait_for_focus(dialog, control)
+            dialog.type(typed)
 
     def wait_for_focus(self, dialog, control):
         """Keys are posted to whatever has the focus, so a change of focus is waited for."""
@@ -80,12 +75,12 @@ class Entry(DesktopTest):
     def test_cards_typed_by_group_are_in_the_file(self):
         dialog = self.open(PLACINGS, "Input Placings Scores By Group")
         self.assertEqual(dialog.focused(), LETTER)
-        self.choose(dialog, 0, 0)
+        self.choose(dialog, "1", "a")
         self.wait_for_focus(dialog, LETTER)
         dialog.type("b")
         self.picture("placings")
         self.enter(dialog, LETTER, ("101", ""), ("103", "Z"), ("105", "x"))
-        self.choose(dialog, 1, 1)
+        self.choose(dialog, "2", "B")
         self.enter(dialog, LETTER, ("102", "x"), ("104", ""))
         self.escape(dialog)
         self.records.update({(101, 0): "B\t46\t0\t0", (103, 0): "Z\t0\t0\t0", (105, 0): "X\t20\t0\t0",
@@ -94,14 +89,14 @@ class Entry(DesktopTest):
 
         dialog = self.open(REASONS, "Input Reasons Scores By Group")
         self.assertEqual(dialog.lines(CLASSES), [" 2.  Ewes"])
-        self.choose(dialog, 0, 0)
+        self.choose(dialog, "2", "1")
         self.picture("reasons")
         self.enter(dialog, REASONS_SCORE, ("103", "41"), ("101", "50"))
         dialog.close()
         self.app.wait_closed(dialog)
 
         dialog = self.open(QUESTIONS, "Input Questions Scores By Group")
-        self.choose(dialog, 0, 1)
+        self.choose(dialog, "1", "b")
         self.wait_for_focus(dialog, QUESTIONS_SCORE)
         dialog.type("a7")
         self.picture("questions")
