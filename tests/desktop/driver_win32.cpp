@@ -238,12 +238,17 @@ Fields sendMessage(const Fields& f) {
                               static_cast<LPARAM>(toNumber(f.at(5)))))};
 }
 
-// Waits until the window's thread has answered everything sent or posted so far.
+// Waits until the window's thread has answered everything sent so far, and what was posted unless
+// the machine is very busy. A window that closes meanwhile has nothing more to answer.
 Fields settle(const Fields& f) {
   HWND window = toWindow(f.at(1));
-  send(window, WM_NULL, 0, 0);
-  if (watchedHandle != nullptr) WaitForInputIdle(watchedHandle, kPatience);
-  send(window, WM_NULL, 0, 0);
+  try {
+    send(window, WM_NULL, 0, 0);
+    if (watchedHandle != nullptr) WaitForInputIdle(watchedHandle, kPatience);
+    send(window, WM_NULL, 0, 0);
+  } catch (const Failure&) {
+    if (IsWindow(window) != 0) throw;
+  }
   return {};
 }
 
@@ -264,8 +269,10 @@ Fields isChecked(const Fields& f) {
   return {std::to_string(send(toControl(f), BM_GETCHECK, 0, 0))};
 }
 
+// Sent without waiting for the answer, as a message box may come of it: unlike something posted,
+// it is answered before all that is sent later, however busy the program is.
 Fields clickButton(const Fields& f) {
-  PostMessageA(toControl(f), BM_CLICK, 0, 0);
+  SendNotifyMessageA(toControl(f), BM_CLICK, 0, 0);
   return {};
 }
 
@@ -321,8 +328,8 @@ Fields choose(const Fields& f) {
     send(control, LB_SETCURSEL, index, 0);
   }
   const WPARAM notice = combo ? CBN_SELCHANGE : LBN_SELCHANGE;
-  PostMessageA(GetParent(control), WM_COMMAND, (notice << 16) | id,
-               reinterpret_cast<LPARAM>(control));
+  SendNotifyMessageA(GetParent(control), WM_COMMAND, (notice << 16) | id,
+                     reinterpret_cast<LPARAM>(control));
   return {};
 }
 
