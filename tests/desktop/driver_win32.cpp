@@ -238,13 +238,41 @@ Fields sendMessage(const Fields& f) {
                               static_cast<LPARAM>(toNumber(f.at(5)))))};
 }
 
-// Waits until the window's thread has answered everything sent so far, and what was posted unless
-// the machine is very busy. A window that closes meanwhile has nothing more to answer.
+// A number that a control keeps for the one who sets it, by messages that can be posted.
+struct Keepsake {
+  const char* controlClass;
+  UINT set;
+  UINT get;
+};
+
+constexpr Keepsake kKeepsakes[] = {{"Edit", EM_SETLIMITTEXT, EM_GETLIMITTEXT},
+                                   {"ListBox", LB_SETHORIZONTALEXTENT, LB_GETHORIZONTALEXTENT}};
+
+// Sent messages overtake posted keys, so the end of the posted ones is marked by a posted number
+// that can be read back: once it is there, everything posted before has been worked off.
+void awaitPosted(HWND window) {
+  for (const Keepsake& keepsake : kKeepsakes) {
+    HWND control = FindWindowExA(window, nullptr, keepsake.controlClass, nullptr);
+    if (control == nullptr) continue;
+    const LRESULT kept = send(control, keepsake.get, 0, 0);
+    const LRESULT mark = kept + 1;
+    PostMessageA(control, keepsake.set, static_cast<WPARAM>(mark), 0);
+    const ULONGLONG deadline = GetTickCount64() + kPatience;
+    while (IsWindow(control) != 0 && send(control, keepsake.get, 0, 0) != mark) {
+      if (GetTickCount64() > deadline) throw Failure{"posted keys are not worked off"};
+      Sleep(1);
+    }
+    PostMessageA(control, keepsake.set, static_cast<WPARAM>(kept), 0);
+    return;
+  }
+}
+
+// Waits until the window's thread has answered everything sent or posted so far; a window that
+// closes on it has.
 Fields settle(const Fields& f) {
   HWND window = toWindow(f.at(1));
   try {
-    send(window, WM_NULL, 0, 0);
-    if (watchedHandle != nullptr) WaitForInputIdle(watchedHandle, kPatience);
+    awaitPosted(window);
     send(window, WM_NULL, 0, 0);
   } catch (const Failure&) {
     if (IsWindow(window) != 0) throw;
