@@ -2,7 +2,7 @@
 
 import unittest
 
-from desktop import DesktopTest
+from desktop import DesktopTest, wait_for
 
 SETUP_CONTEST, SETUP_CLASSES, SETUP_TEAMS, EDIT_CONTESTANTS = 32787, 32788, 32789, 32856
 
@@ -70,8 +70,11 @@ class Setup(DesktopTest):
             for member in members:
                 dialog.type(member)
                 dialog.press("Return")
-            self.desktop.keys("alt+e", "alt+t")
+            self.desktop.keys("alt+e")
+            wait_for(lambda: name in dialog.lines(1019), "the team in the list")
             dialog.settle()
+            self.desktop.keys("alt+t")
+            wait_for(lambda: dialog.focused() == 1017, "the focus in the team's name")
         self.assertEqual(dialog.lines(1019), ["Ash", "Elm"])
         dialog.choose(1019, "Ash")
         self.assertEqual(dialog.lines(1060), ["204 - Cy   A", "205 - Dee   B", "206 - Eve   C (alternate)"])
