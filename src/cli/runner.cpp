@@ -17,9 +17,9 @@ CliResult failed(const std::string& reason) {
 }
 
 std::variant<Contest, std::string> openContest(const std::string& path, FileSystem& files) {
-  const std::optional<FileView> file = files.view(path);
+  const std::optional<std::string> file = files.readWhole(path);
   if (!file) return "cannot read '" + path + "': it does not exist or cannot be opened";
-  std::variant<Contest, ContestFault> contest = readContest(file->bytes);
+  std::variant<Contest, ContestFault> contest = readContest(*file);
   if (auto* read = std::get_if<Contest>(&contest)) return std::move(*read);
   if (std::get<ContestFault>(contest) == ContestFault::scoreCountMismatch) {
     return "cannot read '" + path + "': the number of scores in the file is not correct";

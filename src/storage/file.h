@@ -42,12 +42,6 @@ class OutputFile {
   [[nodiscard]] virtual bool close() = 0;
 };
 
-/// Bytes to look at, and what they live in.
-struct FileView {
-  std::string_view bytes;
-  std::shared_ptr<const void> owner;
-};
-
 /// Paths are 8-bit text as the operator's system understands it, at most kMaxPathLength bytes.
 class FileSystem {
  public:
@@ -59,9 +53,6 @@ class FileSystem {
   /// All bytes of a file; nothing when it cannot be opened or read to its end, is a folder, or
   /// holds more than kMaxFileSize.
   [[nodiscard]] virtual std::optional<std::string> readWhole(const std::string& path) = 0;
-  /// The same, for looking through the bytes once. They may be the file itself instead of a copy,
-  /// so this is for programs that do not write to it.
-  [[nodiscard]] virtual std::optional<FileView> view(const std::string& path);
 
   /// The full name of the file that a path means, links followed; the file need not exist, its
   /// folder must. Nothing when there is no such place.

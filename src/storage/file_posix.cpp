@@ -1,5 +1,4 @@
 #include <fcntl.h>
-#include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -122,20 +121,6 @@ std::optional<std::string> linkTarget(const std::string& path) {
   return target.starts_with('/') ? target : folderOf(path) + "/" + target;
 }
 
-/// The content of an open file as memory, without copying it; nothing for anything but a plain file
-/// with bytes in it.
-std::optional<FileView> mapped(const Descriptor& descriptor) {
-  struct stat status {};
-  if (::fstat(descriptor.number(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
-  const auto size = static_cast<std::uint64_t>(status.st_size);
-  if (size == 0 || size > kMaxFileSize) return std::nullopt;
-  void* bytes =
-      ::mmap(nullptr, size, PROT_READ, MAP_PRIVATE | MAP_POPULATE, descriptor.number(), 0);
-  if (bytes == MAP_FAILED) return std::nullopt;
-  const std::shared_ptr<const void> owner(bytes, [size](void* start) { ::munmap(start, size); });
-  return FileView{{static_cast<const char*>(bytes), size}, owner};
-}
-
 class PosixFileSystem : public FileSystem {
  public:
   std::optional<std::string> readWhole(const std::string& path) override {
@@ -159,14 +144,6 @@ class PosixFileSystem : public FileSystem {
     }
     bytes.resize(length);
     return bytes;
-  }
-
-  std::optional<FileView> view(const std::string& path) override {
-    const Descriptor descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
-    if (descriptor.isOpen()) {
-      if (auto view = mapped(descriptor)) return view;
-    }
-    return FileSystem::view(path);
   }
 
   std::optional<std::string> resolve(const std::string& path) override {

@@ -11,7 +11,9 @@ namespace {
 using Words = std::vector<std::string_view>;
 
 std::string contestFile(const std::string& bytes) {
-  const std::string path = testing::TempDir() + "cli.scv";
+  // One folder a process: tests of several builds may run side by side.
+  static const TemporaryFolder folder;
+  const std::string path = folder.file("cli.scv");
   makeFile(path, bytes);
   return path;
 }
