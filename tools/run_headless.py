@@ -7,7 +7,7 @@ import pathlib
 import sys
 
 ROOT = pathlib.Path(__file__).resolve().parents[1]
-sys.path.insert(0, str(ROOT / "tests" / "desktop"))
+sys.path.insert(0, str(ROOT / "tools" / "desktop"))
 
 import desktop  # noqa: E402
 

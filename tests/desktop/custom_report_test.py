@@ -2,7 +2,7 @@
 
 import unittest
 
-from desktop import IDCANCEL, IDOK, DesktopTest, wait_for
+from desktop_case import IDCANCEL, IDOK, DesktopTest, wait_for
 
 CUSTOM_REPORT = 32800
 TITLE, CATEGORY, NUMBER, PERCENT, TEAM, CLASSES = 1045, 1075, 1037, 1041, 1057, 1036

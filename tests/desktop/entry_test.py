@@ -3,7 +3,7 @@
 import os
 import unittest
 
-from desktop import IDNO, IDOK, IDYES, VK, DesktopTest, wait_for
+from desktop_case import IDNO, IDOK, IDYES, VK, DesktopTest, wait_for
 
 LOOKUP, PLACINGS, REASONS, QUESTIONS = 32791, 32822, 32823, 32826
 NUMBER, NUMBER_TYPED, LETTER, REASONS_SCORE, QUESTIONS_SCORE, CLASSES, GROUPS = 1054, 1026, 1027, 1028, 1056, 1016, 1053

@@ -5,16 +5,16 @@ import subprocess
 import time
 import unittest
 
-import desktop
+from desktop_case import BUILD, IDOK, ROOT, DesktopTest, wait_for, windows_path
 
 SAVE, SETUP_CONTEST, CONTEST_NAME = 32773, 32787, 1001
 
 
-class Files(desktop.DesktopTest):
-    PROGRAM = desktop.BUILD / "file_check.exe"
+class Files(DesktopTest):
+    PROGRAM = BUILD / "file_check.exe"
 
     def test_saving_where_windows_is_peculiar(self):
-        done = self.desktop.wine(self.PROGRAM, desktop.windows_path(self.folder), check=False)
+        done = self.desktop.wine(self.PROGRAM, windows_path(self.folder), check=False)
         self.assertEqual(done.stdout.decode(), "")
         self.assertEqual(done.returncode, 0)
 
@@ -28,10 +28,10 @@ class Files(desktop.DesktopTest):
         for kill in range(30):
             before = path.stat()
             saver = subprocess.Popen(
-                ["wine", self.PROGRAM, desktop.windows_path(self.folder), "save"],
+                ["wine", self.PROGRAM, windows_path(self.folder), "save"],
                 env=self.desktop.environment, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
                 stderr=subprocess.DEVNULL)
-            desktop.wait_for(lambda: path.stat() != before, "the first save")
+            wait_for(lambda: path.stat() != before, "the first save")
             time.sleep(moments.uniform(0, 0.02))
             saver.kill()
             self.assertEqual(saver.wait(), -9, "it saved until it was killed")
@@ -46,11 +46,11 @@ class Files(desktop.DesktopTest):
 
     def test_a_file_that_another_process_holds_is_said_and_stays(self):
         contest = self.folder / "contest.scv"
-        contest.write_bytes((desktop.ROOT / "samples/county.scv").read_bytes())
+        contest.write_bytes((ROOT / "samples/county.scv").read_bytes())
         before = contest.read_bytes()
         app = self.start(contest)
         main = app.main()
-        holder = subprocess.Popen(["wine", self.PROGRAM, desktop.windows_path(self.folder), "hold"],
+        holder = subprocess.Popen(["wine", self.PROGRAM, windows_path(self.folder), "hold"],
                                   env=self.desktop.environment, stdin=subprocess.PIPE,
                                   stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
         self.assertEqual(holder.stdout.readline().strip(), b"holding")
@@ -60,14 +60,14 @@ class Files(desktop.DesktopTest):
         self.assertEqual([file.name for file in self.folder.iterdir()], ["contest.scv"])
         holder.communicate()
         main.command(SAVE)
-        desktop.wait_for(lambda: b"Held Fair" in contest.read_bytes(), "the save once the file is free")
+        wait_for(lambda: b"Held Fair" in contest.read_bytes(), "the save once the file is free")
 
     def test_of_two_programs_with_one_contest_the_last_to_save_wins(self):
         contest = self.sample()
         first, second = self.start(contest), self.start(contest)
         for app, name in ((first, "First Fair"), (second, "Second Fair"), (first, "Third Fair")):
             self.rename_contest(app, app.main(), name)
-            desktop.wait_for(lambda: app.main().title().endswith(name), f"the title of {name}")
+            wait_for(lambda: app.main().title().endswith(name), f"the title of {name}")
             self.assertEqual(contest.read_bytes().split(b"\r\n")[0], f"contestName:\t{name}".encode())
         self.assertEqual([file.name for file in self.folder.iterdir()], [contest.name])
 
@@ -76,7 +76,7 @@ class Files(desktop.DesktopTest):
         main.command(SETUP_CONTEST)
         dialog = app.window("Setup Contest")
         dialog.set_text(CONTEST_NAME, name)
-        dialog.command(desktop.IDOK)
+        dialog.command(IDOK)
 
 
 if __name__ == "__main__":

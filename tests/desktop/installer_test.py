@@ -6,7 +6,7 @@ import subprocess
 import tempfile
 import unittest
 
-from desktop import BUILD, ROOT, Desktop, DesktopTest, wait_for, windows_path
+from desktop_case import BUILD, ROOT, Desktop, DesktopTest, wait_for, windows_path
 
 HELP, OPEN = 32857, 32772
 SETUP = BUILD / "ScorvaneSetup.exe"

@@ -4,8 +4,7 @@ import os
 import re
 import unittest
 
-import private_cups
-from desktop import BUILD, IDCANCEL, IDOK, DesktopTest, wait_for
+from desktop_case import BUILD, IDCANCEL, IDOK, DesktopTest, private_cups, wait_for
 
 PRINT, PRINT_SMALL = 32805, 32811
 TEAM_REPORT, REASONS_ORDER, TIE_BREAKERS, HIGH_INDIVIDUAL = 32840, 32841, 32855, 32796

@@ -3,7 +3,7 @@
 import re
 import unittest
 
-from desktop import DesktopTest
+from desktop_case import DesktopTest
 
 GENERATE, EDIT, ORDER_REPORT, ORDER_SHEET, VERIFICATION_SHEET = 32867, 32864, 32841, 32843, 32844
 GROUPS, MOVE_UP, ORDER, UNASSIGNED, REMOVE, DONE = 1081, 1082, 1083, 1084, 1088, 1086

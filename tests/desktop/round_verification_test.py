@@ -2,7 +2,7 @@
 
 import unittest
 
-from desktop import IDCANCEL, IDOK, DesktopTest
+from desktop_case import IDCANCEL, IDOK, DesktopTest
 
 ROUND_VERIFICATION = 32862
 ROUNDS, GROUPS, CLASSES = 1080, 1053, 1016

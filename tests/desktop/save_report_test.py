@@ -2,7 +2,7 @@
 
 import unittest
 
-from desktop import DesktopTest
+from desktop_case import DesktopTest
 
 
 class SaveReport(DesktopTest):

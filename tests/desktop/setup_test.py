@@ -2,7 +2,7 @@
 
 import unittest
 
-from desktop import DesktopTest, wait_for
+from desktop_case import DesktopTest, wait_for
 
 SETUP_CONTEST, SETUP_CLASSES, SETUP_TEAMS, EDIT_CONTESTANTS = 32787, 32788, 32789, 32856
 

@@ -2,7 +2,7 @@
 
 import unittest
 
-from desktop import IDCANCEL, DesktopTest, wait_for, windows_path
+from desktop_case import IDCANCEL, DesktopTest, wait_for, windows_path
 
 NEW, OPEN, SAVE, SAVE_AS, EXIT, ABOUT, SETUP_CONTEST = 32771, 32772, 32773, 32774, 105, 104, 32787
 HIGH_INDIVIDUAL = {"Overall": 32796, "Placings": 32799, "Reasons": 32798, "Questions": 32827}

@@ -13,7 +13,7 @@ import sys
 import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-sys.path.insert(0, str(ROOT / "tests" / "desktop"))
+sys.path.insert(0, str(ROOT / "tools" / "desktop"))
 
 import private_cups  # noqa: E402
 from desktop import BUILD, IDNO, NATIVE, Desktop, wait_for  # noqa: E402

@@ -8,11 +8,8 @@ wait is for a condition, with a deadline.
 import contextlib
 import os
 import pathlib
-import shutil
 import subprocess
-import tempfile
 import time
-import unittest
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 BUILD = pathlib.Path(os.environ.get("SCORVANE_WINDOWS_BUILD", ROOT / "build" / "windows"))
@@ -310,33 +307,3 @@ class Window:
     def close(self):
         """As the close box does."""
         self._tell("post", 0x0010, 0, 0)
-
-
-class DesktopTest(unittest.TestCase):
-    """A test with a desktop for its class, a fresh folder for each test, and programs that end with it."""
-
-    @classmethod
-    def setUpClass(cls):
-        cls.desktop = Desktop()
-        cls.addClassCleanup(cls.desktop.close)
-
-    def setUp(self):
-        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="scorvane-"))
-        self.addCleanup(shutil.rmtree, self.folder, ignore_errors=True)
-        self.maxDiff = None
-
-    def start(self, *arguments):
-        """Starts the program; a contest file may be given as one path."""
-        app = self.desktop.start(*[f'"{windows_path(a)}"' for a in arguments])
-        self.addCleanup(app.close)
-        return app
-
-    def sample(self, name="county.scv"):
-        """A copy of a sample contest that the test may change."""
-        return pathlib.Path(shutil.copy(ROOT / "samples" / name, self.folder / name))
-
-    def expected_report(self, *arguments):
-        """What scorvane-report prints for these arguments."""
-        done = subprocess.run([NATIVE / "scorvane-report", *map(str, arguments)], check=True,
-                              stdout=subprocess.PIPE)
-        return done.stdout.decode("latin-1")
