@@ -1,10 +1,9 @@
 #include "reports/roster_reports.h"
 
-#include <algorithm>
-#include <utility>
 #include <vector>
 
 #include "model/numbering.h"
+#include "model/team_index.h"
 #include "reports/report_parts.h"
 #include "text/format.h"
 
@@ -19,18 +18,6 @@ int countContestants(const Contest& contest) {
     }
   }
   return count;
-}
-
-// The team of each number; the first team by name that holds it.
-using TeamOfNumber = FlatMap<ContestantNumber, const std::string*>;
-
-TeamOfNumber teamsByNumber(const Contest& contest) {
-  std::vector<TeamOfNumber::Entry> entries;
-  for (const auto& [teamName, team] : contest.teams) {
-    for (const ContestantNumber number : team.members) entries.emplace_back(number, &teamName);
-  }
-  std::reverse(entries.begin(), entries.end());  // of several entries the last one stays
-  return TeamOfNumber::fromEntries(std::move(entries));
 }
 
 void appendTeamLine(std::string& out, const Contest& contest, const char* teamName,
@@ -63,7 +50,7 @@ void appendTeam(std::string& out, const Contest& contest, const std::string& tea
 
 std::string contestantsReport(const Contest& contest) {
   static const std::string noTeam;
-  const TeamOfNumber teams = teamsByNumber(contest);
+  const TeamIndex teams(contest);
   // A number that no team holds counts to the last team that was looked through.
   const std::string* lastTeam = contest.teams.empty() ? &noTeam : &contest.teams.rbegin()->first;
 
@@ -74,8 +61,7 @@ std::string contestantsReport(const Contest& contest) {
   const std::string* previousTeam = nullptr;
   std::int32_t position = 0;
   for (const auto& [number, name, scores] : listedContestants(contest)) {
-    const std::string* const* found = teams.find(number);
-    const std::string* team = found != nullptr ? *found : lastTeam;
+    const std::string* team = teams.hasTeam(number) ? &teams.teamOf(number) : lastTeam;
     if (previousTeam != nullptr && team != previousTeam) {
       out += "\n";
       position = 0;
