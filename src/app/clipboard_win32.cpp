@@ -36,7 +36,8 @@ MainWindow::CopyResult putOnClipboard(NativeWindow owner, std::string_view text)
   }
   EmptyClipboard();
   // The clipboard owns the block once it has taken it.
-  if (SetClipboardData(CF_TEXT, block) == nullptr) GlobalFree(block);
+  const bool taken = SetClipboardData(CF_TEXT, block) != nullptr;
+  if (!taken) GlobalFree(block);
   CloseClipboard();
-  return Result::copied;
+  return taken ? Result::copied : Result::noLock;
 }

@@ -8,5 +8,5 @@
 using NativeWindow = struct HWND__*;
 
 /// Puts the text on the clipboard in the name of `owner`. A clipboard that another program keeps
-/// open counts as memory that cannot be locked.
+/// open, or that does not take the text, counts as memory that cannot be locked.
 MainWindow::CopyResult putOnClipboard(NativeWindow owner, std::string_view text);
