@@ -66,6 +66,7 @@ std::vector<std::string> readCategories(FieldScanner& fields) {
 
 bool readSettings(LineScanner& lines, Contest& contest) {
   constexpr int kMaxSettingsLines = 15;
+  contest.categories = {kNoCategory};
   for (int counter = 1; const auto line = lines.next(); ++counter) {
     FieldScanner fields(*line);
     const std::string_view key = fields.nextOrEmpty();

@@ -74,8 +74,8 @@ TEST(ContestReader, TakesDefaultsForMissingValues) {
   const Contest bare = read(sections);  // no settings at all
   EXPECT_EQ(bare.settings.numToScore, 3);
   EXPECT_EQ(bare.settings.numToReport, 20);
-  EXPECT_TRUE(bare.categories.empty());
   using Names = std::vector<std::string>;
+  EXPECT_EQ(bare.categories, Names{"none"});
   EXPECT_EQ(read("unknown\tx\r\n" + sections).categories, Names{"none"});
   EXPECT_EQ(read("categories:\t\r\n" + sections).categories, Names{"none"});
   EXPECT_EQ(read("categories:\tA\r\nx\r\n" + sections).categories, Names{"none"});
