@@ -54,7 +54,7 @@ constexpr std::array kCommands = {
     Command{32832, "File", "Save Report To File", saveReportToFile},
     Command{105, "File", "Exit", exitCommand},
 
-    Command{32777, "Edit", "Copy", copyReportCommand},
+    Command{32777, "Edit", "Copy", copyReportToClipboard},
 
     Command{32787, "Setup", "Setup Contest", runSetupContest},
     Command{32788, "Setup", "Setup Classes", runSetupClasses},

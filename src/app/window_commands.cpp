@@ -4,7 +4,7 @@
 #include "text/format.h"
 #include "view/report_text.h"
 
-void copyReportCommand(MainWindow& window) {
+void copyReportToClipboard(MainWindow& window) {
   switch (window.copyToClipboard(reportText())) {
     case MainWindow::CopyResult::noMemory:
       window.show("Could not allocate the memory for the clipboard.", "Error");

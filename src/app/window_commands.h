@@ -5,7 +5,8 @@
 
 #include "app/main_window.h"
 
-void copyReportCommand(MainWindow& window);
+/// Puts the whole report text on the clipboard and says so, or says why it could not.
+void copyReportToClipboard(MainWindow& window);
 void exitCommand(MainWindow& window);
 void helpCommand(MainWindow& window);
 void aboutCommand(MainWindow& window);
