@@ -8,6 +8,6 @@
 /// Today's local date as "March 05, 2024" ("%B %d, %Y").
 [[nodiscard]] std::string todaysDate();
 
-/// A contest with the defaults of a new one, dated today; it has no group letters yet, as those
-/// are made when a contest is loaded or set up.
+/// A contest with the defaults of a new one, dated today. Deliberately it has no group letters yet:
+/// those are made when a contest is loaded or set up, and when the program starts.
 [[nodiscard]] Contest newContest();
