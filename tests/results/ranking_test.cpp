@@ -144,7 +144,8 @@ TEST(Ranking, CountsAbsurdScoresWithoutHarm) {
   EXPECT_EQ(rankTeams(builder.contest, totals, TieOrder::overall)[0].values.score, 1);
 }
 
-// Where the team lacks slots, these come between the members with 0 and those below 0.
+// Where the team lacks slots, these are exchanged like members with 0, which can turn round members
+// below 0 who are equal.
 TEST(TeamScoring, CountsTheBestRegularMembers) {
   struct Case {
     std::int32_t perTeam, toScore;
@@ -159,6 +160,7 @@ TEST(TeamScoring, CountsTheBestRegularMembers) {
                               {3, 2, {0, 0, 50}, {2, 1}},  // the exchange puts the first 0 last
                               {5, 3, {-1, 0, 7}, {2, 1}},
                               {5, 5, {-1, 0, 7}, {2, 1, 0}},
+                              {4, 3, {-1, 7, -1}, {1, 2}},
                               {2147483647, 2147483646, {-1, 7, -2}, {1, 0}}}) {
     ContestSettings settings;
     settings.numPerTeam = example.perTeam;
