@@ -20,12 +20,13 @@ class MemoryFiles : public FileSystem {
   bool stayBroken = false;  ///< all operations after it fail too, except that files still vanish
   FileOutcome failure = FileOutcome::failed;
   bool folderIsProtected = false;  ///< no file can be made, removed or renamed
-  bool replacingIsDenied = false;
+  int deniedReplacings = 0;        ///< how often another program is in the way
+  bool hasOtherNames = false;
   std::size_t room = 1U << 20;  ///< bytes on the disk
-  FileFacts targetFacts = {true, true, false, false};
 
   int calls = 0;
   bool replacedUnflushed = false;  ///< a file was put in place before the medium held it
+  bool writtenOver = false;        ///< bytes of a file that was there before were written over
 
   std::optional<std::string> readWhole(const std::string& path) override {
     return fails() || !files.contains(path) ? std::nullopt : std::optional(files[path].content);
@@ -35,31 +36,29 @@ class MemoryFiles : public FileSystem {
   }
   std::optional<FileFacts> facts(const std::string& path) override {
     if (fails()) return std::nullopt;
-    return files.contains(path) ? targetFacts : FileFacts{};
+    return files.contains(path) ? FileFacts{true, true, false, hasOtherNames} : FileFacts{};
   }
   Opened create(const std::string& path) override {
     if (fails()) return {failure, nullptr};
     if (folderIsProtected) return {FileOutcome::denied, nullptr};
     if (files.contains(path)) return {FileOutcome::exists, nullptr};
     files[path] = {"", false};
-    return {FileOutcome::done, std::make_unique<Output>(*this, files[path])};
+    return {FileOutcome::done, std::make_unique<Output>(*this, files[path], true)};
   }
   Opened openExisting(const std::string& path) override {
-    if (fails()) return {failure, nullptr};
-    if (!files.contains(path)) return {FileOutcome::failed, nullptr};
-    return {FileOutcome::done, std::make_unique<Output>(*this, files[path])};
+    if (fails() || !files.contains(path)) return {failure, nullptr};
+    return {FileOutcome::done, std::make_unique<Output>(*this, files[path], false)};
   }
   FileOutcome replace(const std::string& from, const std::string& to) override {
     if (fails()) return failure;
-    if (replacingIsDenied || folderIsProtected) return FileOutcome::denied;
+    if (folderIsProtected || deniedReplacings-- > 0) return FileOutcome::denied;
     replacedUnflushed = replacedUnflushed || !files[from].isFlushed;
     files[to] = files[from];
     files.erase(from);
     return FileOutcome::done;
   }
   void remove(const std::string& path) override {
-    const bool broken = fails() && !stayBroken;
-    if (!broken && !folderIsProtected) files.erase(path);
+    if ((!fails() || stayBroken) && !folderIsProtected) files.erase(path);
   }
   std::string temporaryName(const std::string& path, int attempt) override {
     return path + "." + std::to_string(attempt);
@@ -67,9 +66,12 @@ class MemoryFiles : public FileSystem {
   void pause(int /*milliseconds*/) override {}
 
  private:
-  class Output : public OutputFile {
+  class Output final : public OutputFile {
    public:
-    Output(MemoryFiles& disk, File& file) : disk_(disk), file_(file) {}
+    Output(MemoryFiles& disk, File& file, bool isNew) : disk_(disk), file_(file), isNew_(isNew) {}
+    ~Output() override {
+      if (isOpen_) static_cast<void>(close());
+    }
 
     bool write(std::string_view bytes) override {
       // A write that fails has often written a part.
@@ -79,20 +81,31 @@ class MemoryFiles : public FileSystem {
       file_.content.replace(position_, taken, bytes.substr(0, taken));
       file_.isFlushed = false;
       position_ += taken;
+      disk_.writtenOver = disk_.writtenOver || !isNew_;
       return taken == bytes.size();
     }
+    // One that fails to make the file longer has made it a little longer.
     bool resize(std::uint64_t size) override {
-      if (disk_.fails() || size > file_.content.size() + disk_.freeRoom()) return false;
-      file_.content.resize(size);
+      const bool done = !disk_.fails() && size <= file_.content.size() + disk_.freeRoom();
+      const std::size_t longer = file_.content.size() + std::min<std::size_t>(disk_.freeRoom(), 1);
+      if (done || size > longer) file_.content.resize(done ? size : longer);
       file_.isFlushed = false;
-      return true;
+      return done;
     }
     bool flush() override { return file_.isFlushed = !disk_.fails(); }
-    bool close() override { return !disk_.fails(); }
+    // One that fails loses what was written last.
+    bool close() override {
+      isOpen_ = false;
+      if (!disk_.fails()) return true;
+      if (position_ > 0) file_.content.pop_back();
+      return false;
+    }
 
    private:
     MemoryFiles& disk_;
     File& file_;
+    bool isNew_;
+    bool isOpen_ = true;
     std::size_t position_ = 0;
   };
 
