@@ -88,7 +88,7 @@ class Operator {
     answerEverything(window_.desktop);
     promises_.commandStarts(command.id);
     runCommand(command.id, window_);
-    window_.shown.clear();
+    window_.log.clear();
     promises_.check(currentContest());
   }
 

@@ -1,11 +1,11 @@
-// A main window in memory: what it shows is recorded, what it asks is answered from a script, and
-// the dialogs it runs are operated as a test says.
+// A main window in memory: what it shows and does is written down, what it asks is answered from a
+// script, and the dialogs it runs are operated as a test says.
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "app/main_window.h"
 #include "tests/ui/memory_dialog.h"
@@ -14,39 +14,51 @@
 class MemoryMainWindow : public MainWindow {
  public:
   ScriptedDesktop desktop;
-  std::string title;
-  int refreshes = 0;
-  std::vector<std::string> shown;  ///< the report text at every refresh
+  std::string log;  ///< a line for all that an operator would see, above all the report shown
   CopyResult copyResult = CopyResult::copied;
-  std::string clipboard;
   bool manualOpens = true;
   std::optional<FontFields> font;
-  bool destroyed = false;
-  std::vector<int> dialogs;  ///< resource ids of the dialogs run
   /// What the operator does in the dialogs; by default closes them at once.
   std::function<void(MemoryDialog&)> operate = [](MemoryDialog& dialog) { dialog.pressCloseBox(); };
 
-  Answer ask(const Message& message) override { return desktop.ask(message); }
+  Answer ask(const Message& message) override {
+    note(message.caption, message.text + (message.informationIcon ? " (i)" : "") +
+                              (message.defaultAnswer == Answer::cancel ? " (Enter cancels)" : ""));
+    return desktop.ask(message);
+  }
   std::optional<std::string> chooseFile(const FileQuestion& question) override {
+    note(question.purpose == FileQuestion::Purpose::open ? "open" : "save",
+         question.filters.at(0).name);
     return desktop.chooseFile(question);
   }
   int runDialog(int resourceId, DialogBehaviour& behaviour) override {
-    dialogs.push_back(resourceId);
     MemoryDialog dialog(resourceId, behaviour);
+    note("dialog", dialog.caption());
     operate(dialog);
+    for (const Message& message : dialog.desktop.messages) note(message.caption, message.text);
+    note("ended with", std::to_string(dialog.result().value_or(-1)));
     return dialog.result().value_or(0);
   }
-  void setTitle(std::string_view text) override { title = text; }
+  void setTitle(std::string_view text) override { note("title", text); }
   void refreshReportView() override {
-    ++refreshes;
-    shown.push_back(reportText());
+    const std::string& report = reportText();
+    const std::size_t start = std::min(report.find_first_not_of("\n\t "), report.size());
+    const auto lines = std::count(report.begin(), report.end(), '\n');
+    note("shown", report.substr(start, report.find('\n', start) - start) +
+                      ", lines: " + std::to_string(lines));
   }
   CopyResult copyToClipboard(std::string_view text) override {
-    clipboard = text;
+    note("copied", text);
     return copyResult;
   }
-  void print(bool /*small*/) override {}
+  void print(bool small) override { note("printed", small ? "small" : "large"); }
   bool openManual() override { return manualOpens; }
   std::optional<FontFields> chooseFont() override { return font; }
-  void destroy() override { destroyed = true; }
+  void destroy() override { note("ended", ""); }
+
+ private:
+  void note(std::string_view what, std::string_view text) {
+    log.append("  ").append(what).append(": ").append(text).append("\n");
+    std::erase(log, '\r');
+  }
 };

@@ -1,0 +1,97 @@
+// What an operator sees of the commands, as approved.
+#include <gtest/gtest.h>
+
+#include "app/command_table.h"
+#include "reports/round_verification_dialog.h"
+#include "setup/reasons_class_dialog.h"
+#include "setup/reasons_order_edit_dialog.h"
+#include "storage/contest_commands.h"
+#include "tests/app/memory_main_window.h"
+#include "tests/setup/reasons_contest.h"
+#include "tests/support/approved.h"
+
+namespace {
+
+constexpr int kCopy = 32777, kGenerate = 32867, kSheet = 32843, kReasons = 32823;
+constexpr int kHelp = 32857, kFont = 32809;
+
+// Chooses what a dialog must be told, and presses Enter.
+void operate(MemoryDialog& dialog) {
+  using Edit = ReasonsOrderEditDialog;
+  for (const ControlId list : {RoundVerificationDialog::kRounds, ReasonsClassDialog::kClasses,
+                               Edit::kGroups, Edit::kUnassigned}) {
+    if (dialog.controls().contains(list)) dialog.choose(list, 1);
+  }
+  dialog.pressEnter();
+}
+
+class Commands : public testing::Test {
+ protected:
+  Commands() { start(); }
+  ~Commands() override { currentContest() = Contest{}; }
+
+  // A contest whose folder is gone.
+  void start() {
+    currentContest() = reasonsContest(3, 3, 6);
+    currentFileName() = "gone/fair.scv";
+    reportText() = "before\n";
+    window.desktop.answers = {Answer::ok};
+    window.operate = operate;
+  }
+  void run(int id) {
+    const Command* command = findCommand(id);
+    window.log += std::to_string(id) + " ";
+    window.log.append(command == nullptr ? "(no command)" : command->caption).append("\n");
+    runCommand(id, window);
+  }
+  MemoryMainWindow window;
+};
+
+TEST_F(Commands, DoWhatTheMenuSays) {
+  for (const Command& command : commandTable()) {
+    start();
+    run(command.id);
+  }
+  expectApproved(window.log, "app/commands.txt");
+}
+
+TEST_F(Commands, SayWhatIsInTheirWay) {
+  using Copied = MainWindow::CopyResult;
+  for (const Copied result : {Copied::noMemory, Copied::noLock}) {
+    window.copyResult = result;
+    run(kCopy);
+  }
+  window.manualOpens = false;
+  run(kHelp);
+  window.font = FontFields{};
+  window.font->height = -13;
+  window.font->faceName = "Consolas";
+  run(kFont);
+
+  const Contest before = currentContest();
+  window.desktop.answers = {Answer::cancel, Answer::ok};
+  run(kGenerate);
+  EXPECT_EQ(currentContest(), before);
+  currentContest().settings.numReasonsGroups = 2;
+  run(kGenerate);
+
+  window.operate = [](MemoryDialog& dialog) {
+    dialog.pressEnter();
+    dialog.pressEscape();
+  };
+  run(kSheet);
+  window.operate = [](MemoryDialog& dialog) {
+    dialog.choose(ReasonsClassDialog::kClasses, 0);
+    dialog.pressCloseBox();
+  };
+  run(kSheet);
+  window.operate = operate;
+  currentContest().reasonsOrder.reset(0, 3);
+  run(kSheet);
+  EXPECT_EQ(reportText(), "before\n");
+  run(kReasons);
+  run(1);  // no command
+  expectApproved(window.log, "app/obstacles.txt");
+}
+
+}  // namespace
