@@ -47,9 +47,9 @@ std::array<std::int32_t, 4> keyOf(const RankValues& v, TieOrder order) {
 RankValues teamSlowly(const Contest& contest, const Team& team, ScoreKind kind,
                       const ClassSet& classSet) {
   std::vector<RankValues> members;
-  members.reserve(16);
   for (std::int32_t slot = 0; slot < contest.settings.numPerTeam; ++slot) {
-    const ContestantNumber number = team.members.at(static_cast<std::size_t>(slot));
+    const auto at = static_cast<std::size_t>(slot);
+    const ContestantNumber number = at < team.members.size() ? team.members[at] : 0;
     const bool empty = contestantName(contest, number).empty();
     members.push_back(empty ? RankValues{} : sumSlowly(contest, number, kind, classSet));
   }
@@ -69,7 +69,8 @@ RankValues teamSlowly(const Contest& contest, const Team& team, ScoreKind kind,
   return sum;
 }
 
-// Few different scores, so that ties go deep; some contestants without some or all records.
+// Few different scores, so that ties go deep; some contestants without some or all records, some
+// teams without some of their slots.
 Contest randomContest(std::mt19937& random) {
   const auto upTo = [&](int most) {
     return static_cast<int>(random() % (static_cast<unsigned>(most) + 1U));
@@ -86,7 +87,9 @@ Contest randomContest(std::mt19937& random) {
     for (int slot = 0; slot < builder.contest.settings.totalNumPerTeam; ++slot) {
       members.emplace_back(upTo(5) == 0 ? "" : "Ann");
     }
-    builder.team("Team " + std::to_string(t), "", members);
+    const std::string name = "Team " + std::to_string(t);
+    builder.team(name, "", members);
+    if (upTo(5) == 0) builder.contest.teams[name].members.resize(1);
   }
   for (const auto& [number, name] : builder.contest.contestantNames) {
     for (int k = 0; k < classes; ++k) {
@@ -144,42 +147,26 @@ TEST(Ranking, CountsAbsurdScoresWithoutHarm) {
   EXPECT_EQ(rankTeams(builder.contest, totals, TieOrder::overall)[0].values.score, 1);
 }
 
-// Where the team lacks slots, these are exchanged like members with 0, which can turn round members
-// below 0 who are equal.
-TEST(TeamScoring, CountsTheBestRegularMembers) {
+// Exchanging so many would never end; missing slots rank between members with 0 and those below.
+TEST(TeamScoring, CountsTheBestOfAbsurdlyManyMembers) {
+  std::vector<std::int32_t> many(100000, 10);
+  many[500] = many[99999] = 11;
   struct Case {
     std::int32_t perTeam, toScore;
     std::vector<std::int32_t> scores;  ///< of the slots that the team has
     std::vector<std::size_t> counting;
   };
   std::vector<std::size_t> counting = {7, 7};
-  for (const Case& example : {Case{4, 3, {40, 45, 30, 45}, {1, 3, 0}},
-                              {4, 5, {40, 45, 30, 45}, {}},
-                              {4, 0, {40, 45, 30, 45}, {}},
-                              {-1, -2, {}, {}},
-                              {3, 2, {0, 0, 50}, {2, 1}},  // the exchange puts the first 0 last
-                              {5, 3, {-1, 0, 7}, {2, 1}},
-                              {5, 5, {-1, 0, 7}, {2, 1, 0}},
-                              {4, 3, {-1, 7, -1}, {1, 2}},
-                              {2147483647, 2147483646, {-1, 7, -2}, {1, 0}}}) {
+  for (const auto& [perTeam, toScore, scores, expected] :
+       {Case{100000, 3, many, {500, 99999, 0}}, Case{65, 65, {-1, 0, 7}, {2, 1, 0}},
+        Case{65, 64, {-1, 7, -2}, {1, 0}}, Case{2147483647, 2147483646, {-1, 7, -2}, {1, 0}},
+        Case{-1, -2, {}, {}}}) {
     ContestSettings settings;
-    settings.numPerTeam = example.perTeam;
-    settings.numToScore = example.toScore;
-    chooseCountingSlots(settings, example.scores, counting);
-    EXPECT_EQ(counting, example.counting) << example.perTeam << ", " << example.toScore;
+    settings.numPerTeam = perTeam;
+    settings.numToScore = toScore;
+    chooseCountingSlots(settings, scores, counting);
+    EXPECT_EQ(counting, expected) << perTeam << ", " << toScore;
   }
-}
-
-// Exchanging so many would never end.
-TEST(TeamScoring, OrdersAHugeTeam) {
-  ContestSettings settings;
-  settings.numPerTeam = 100000;
-  settings.numToScore = 3;
-  std::vector<std::int32_t> scores(100000, 10);
-  scores[500] = scores[99999] = 11;
-  std::vector<std::size_t> counting;
-  chooseCountingSlots(settings, scores, counting);
-  EXPECT_EQ(counting, (std::vector<std::size_t>{500, 99999, 0}));
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include <filesystem>
 
 #include "tests/storage/memory_files.h"
@@ -112,12 +114,13 @@ TEST_F(SafeSaveOnDisk, MakesFilesAndReplacesThemWithTheirRightsAndLinks) {
 TEST_F(SafeSaveOnDisk, RefusesWhatIsNotToBeWrittenOrRead) {
   makeFile(path, kOld);
   std::filesystem::permissions(path, std::filesystem::perms{0444});
+  ASSERT_EQ(::mkfifo(folder.file("pipe").c_str(), 0600), 0);
   for (const std::string& target : {path, folder.path(), folder.file("none/a.scv"), path + "/a.scv",
-                                    std::string(), std::string("/dev/null"), folder.path() + "/"}) {
+                                    std::string(), folder.file("pipe"), folder.path() + "/"}) {
     EXPECT_FALSE(save(target, kLonger)) << target;
   }
   EXPECT_EQ(systemFiles().readWhole(path), kOld);
-  EXPECT_EQ(folder.count(), 1U);
+  EXPECT_EQ(folder.count(), 2U);
 
   const std::string huge = folder.file("huge.scv");
   makeFile(huge, "");

@@ -1,0 +1,115 @@
+// The reports of the best individuals and teams.
+#include <gtest/gtest.h>
+
+#include "results/high_individual_report.h"
+#include "results/high_team_report.h"
+#include "results/tie_breaker_report.h"
+#include "tests/support/approved.h"
+#include "tests/support/contest_builder.h"
+
+namespace {
+
+HighReportRequest twenty(ScoreKind kind, ClassSet classes, const std::string& title = "") {
+  return {.classes = std::move(classes),
+          .kind = kind,
+          .numToReport = 20,
+          .percent = false,
+          .title = title};
+}
+
+// In the overall ranking Cat and the nameless 106 are equal up to the third value, Bob and Ann up
+// to the second, Dan has the same score only, and Eve, who has nothing, ties with the zeros behind
+// the list. In the reasons ranking the lower placings come first, then the higher overall score.
+TEST(HighIndividualReport, ShowsTheValuesThatSplitEachTie) {
+  ContestBuilder builder;
+  builder.addClass({}).addClass({.reasons = true});
+  builder.team("A team of thirty-one characters", "Coach Hill", {"Bob", "Ann", "Dan", "Cat"});
+  builder.contestant("Eve has a name of thirty-one ch").team("Boone", "", {""});
+  builder.scores(101, {{40}, {45, 40}}).scores(102, {{45}, {40, 40}});
+  builder.scores(103, {{46}, {40, 39}}).scores(104, {{50}, {50}});
+  builder.scores(105, {{0}, {0}}).scores(106, {{49}, {51}});
+  expectApproved(highIndividualReport(builder.contest, twenty(ScoreKind::overall, {0, 1})) +
+                     highIndividualReport(builder.contest, twenty(ScoreKind::reasons, {0, 1})),
+                 "results/high_individual_ties.txt");
+}
+
+// Fay, the last one listed, is compared with zeros, not with the nameless 107 who has her score.
+TEST(HighIndividualReport, OfACategoryShowsUpToThreeValues) {
+  ContestBuilder builder;
+  builder.addClass({}).addClass({.reasons = true}).addClass({.reasons = true});
+  builder.team("Adams", "", {"Ann", "Bob", "Cat", "Dan", "Eve"});
+  builder.scores(101, {{10}, {30, 20}, {10, 10}}).scores(102, {{11}, {30, 20}, {10, 10}});
+  builder.scores(103, {{10}, {30, 20}, {0, 11}}).scores(104, {{50}, {29, 21}, {50, 0}});
+  builder.scores(105, {{50}, {50, 1}, {50, 50}});
+  builder.contestant("Fay").contestant("").scores(106, {{1}, {40}}).scores(107, {{0}, {40}});
+  expectApproved(highIndividualReport(builder.contest, twenty(ScoreKind::overall, {1}, "Sheep")),
+                 "results/high_individual_category.txt");
+}
+
+// Neither the empty slot 102, which kept a deleted contestant's scores, nor the alternate counts:
+// 30 and 0 for the first team, 29 and 0 for the second.
+TEST(HighTeamReport, ShowsATeamWithItsRegularMembersAndCoach) {
+  ContestBuilder builder;
+  builder.members(3, 4, 2).addClass({});
+  builder.team("Adams County Senior Team One", "Coach Hill", {"Ann", "", "Cat", "Alternate"});
+  builder.team("Boone", "", {"", "Eve with a long name for the list", "", ""});
+  builder.scores(101, {{30}}).scores(102, {{50}}).scores(103, {{-2}}).scores(104, {{50}});
+  builder.scores(106, {{29}});
+  const auto request = wholeContestRequest(builder.contest, ScoreKind::placings);
+  expectApproved(highTeamReport(builder.contest, request), "results/high_team_members.txt");
+}
+
+// The last team ties with the zeros behind the list. At the end nobody counts, so that all are
+// equal.
+TEST(HighTeamReport, KeepsTheUnevenSpacingOfEachOrdering) {
+  ContestBuilder builder;
+  builder.members(1, 1, 1).addClass({}).addClass({.reasons = true}).addClass({.reasons = true});
+  for (const char* name : {"A", "B", "C", "D", "E"}) builder.team(name, "", {"Ann"});
+  builder.scores(101, {{0}, {30, 20}, {20, 10}}).scores(102, {{1}, {30, 20}, {24, 5}});
+  builder.scores(103, {{1}, {30, 20}, {23, 5}}).scores(104, {{0}, {31, 19}, {23, 6}});
+  builder.scores(105, {{12}, {0}, {0}});
+  std::string reports;
+  for (const auto& request : {twenty(ScoreKind::overall, {0, 1, 2}),
+                              twenty(ScoreKind::overall, {1}), twenty(ScoreKind::reasons, {1})}) {
+    reports += highTeamReport(builder.contest, request);
+  }
+  builder.contest.settings.numToScore = 2;
+  reports += highTeamReport(builder.contest, twenty(ScoreKind::overall, {0, 1, 2}));
+  expectApproved(reports, "results/high_team_ties.txt");
+}
+
+TEST(HighReports, ListTheNumberOrPercentageAskedForButOneRowAtLeast) {
+  ContestBuilder builder;
+  builder.addClass({});
+  for (int i = 0; i < 18; ++i) {
+    builder.team("Team " + std::to_string(i), "", {"Ann"}).scores(101 + i, {{50 - i}});
+  }
+  struct Case {
+    std::int32_t number;
+    bool percent;
+    std::ptrdiff_t rows;
+  };
+  for (const auto& [number, percent, rows] :
+       {Case{0, false, 1}, Case{-5, false, 1}, Case{3, false, 3}, Case{2147483647, false, 18},
+        Case{25, true, 4}, Case{5, true, 1}, Case{100, true, 18}, Case{2147483647, true, 18}}) {
+    builder.contest.settings.numToReport = number;
+    builder.contest.settings.reportPercent = percent;
+    const auto request = wholeContestRequest(builder.contest, ScoreKind::overall);
+    const std::string individuals = highIndividualReport(builder.contest, request);
+    const std::string teams = highTeamReport(builder.contest, request);
+    EXPECT_EQ(std::count(individuals.begin(), individuals.end(), '\n') - 4, rows) << number;
+    EXPECT_EQ((std::count(teams.begin(), teams.end(), '\n') - 4) / 3, rows) << number;
+  }
+}
+
+TEST(HighReports, OfTheCountySampleAreAsApproved) {
+  const Contest contest = contestOfFile("samples/county.scv");
+  const auto request = wholeContestRequest(contest, ScoreKind::overall);
+  expectApproved(highIndividualReport(contest, request) +
+                     highIndividualReport(contest, twenty(ScoreKind::overall, {0, 3, 6}, "Beef")),
+                 "results/county_high_individuals.txt");
+  expectApproved(highTeamReport(contest, request), "results/county_high_team_overall.txt");
+  expectApproved(tieBreakerReport(), "results/tie_breaker_rules.txt");
+}
+
+}  // namespace
