@@ -1,0 +1,105 @@
+// What scorvane-report answers to its command lines, as approved.
+#include <gtest/gtest.h>
+
+#include "cli/options.h"
+#include "cli/runner.h"
+#include "storage/contest_writer.h"
+#include "tests/storage/memory_files.h"
+#include "tests/support/approved.h"
+#include "tests/support/contest_builder.h"
+
+namespace {
+
+// `fair.scv` has three classes, the second with reasons, in two categories; `bare.scv` has nobody
+// who could give reasons, and two files cannot be read.
+struct ContestFiles : MemoryFiles {
+  ContestFiles() {
+    ContestBuilder bare;
+    bare.addClass({.name = "Ewes", .reasons = true});
+    files["bare.scv"].content = writeContest(bare.contest);
+    ContestBuilder fair;
+    fair.contest.settings.numToReport = 1;
+    fair.categories({"Beef", "Swine"});
+    fair.addClass({.name = "Heifers"}).addClass({.name = "Gilts", .reasons = true, .category = 1});
+    fair.addClass({.name = "Barrows", .category = 1});
+    fair.team("Team", "Coach", {"Ann", "Bob", "Cy", "Dee"});
+    fair.placings(101, "AAB").placings(102, "BAA");
+    fair.contest.reasonsPlace[101] = {0, 0};
+    const std::string bytes = writeContest(fair.contest);
+    files["fair.scv"].content = bytes;
+    files["damaged.scv"].content = "not a contest\r\n";
+    files["count.scv"].content = bytes;
+    files["count.scv"].content.replace(bytes.find("Scores~~~~~\r\n12"), 15, "Scores~~~~~\r\n11");
+  }
+};
+
+/// The answer to a command line, whose words are parted by bars.
+CliResult run(std::string_view line, FileSystem& files) {
+  std::vector<std::string_view> words;
+  for (std::size_t bar = 0; bar != std::string_view::npos && !line.empty();) {
+    bar = line.find('|');
+    words.push_back(line.substr(0, bar));
+    line.remove_prefix(bar == std::string_view::npos ? 0 : bar + 1);
+  }
+  const auto parsed = parseOptions(words);
+  if (const auto* error = std::get_if<UsageError>(&parsed)) return refuseUsage(*error);
+  return runCli(std::get<CliOptions>(parsed), files);
+}
+
+TEST(Cli, AnswersAsApproved) {
+  ContestFiles disk;
+  std::string log;
+  for (const char* line :
+       {// Reports go by number or caption; values follow or stand behind "=".
+        "fair.scv|Classes Report", "fair.scv|32796", "bare.scv|high team OVERALL|--round|1|32862",
+        "fair.scv|32862|--round=3", "fair.scv|32843|--class|2",
+        "--title|-x-|fair.scv|--classes=3,1|32800|--kind|placings|--number=0|--team",
+        "fair.scv|32800|--number|50|--percent|--kind=Reasons|--title=",
+        // A category proposes its name and classes.
+        "fair.scv|32800|--category|Swine", "fair.scv|32800|--classes|3,2,3|--title|Swine",
+        "fair.scv|32800|--category|Beef|--classes|2,3",
+        "fair.scv|32800|--classes=", "fair.scv|32800",
+        // Options that only stand alone.
+        "--list", "--version|x", "-h|x",
+        // What is missing.
+        "nowhere.scv|32796", "damaged.scv|32796", "count.scv|32796", "--|--odd.scv|32796",
+        "fair.scv|32843|--class|4", "fair.scv|32843|--class|1", "bare.scv|32843|--class|1",
+        "fair.scv|32862|--round|4", "fair.scv|32800|--classes|1,4",
+        "fair.scv|32800|--category|Sheep",
+        // Wrong usage.
+        "", "fair.scv", "fair.scv|99", "fair.scv|32771", "fair.scv|32796|x", "fair.scv|-",
+        "fair.scv|32796|32801|--round|1", "fair.scv|32796|--clas|1", "fair.scv|32796|--class|1",
+        "fair.scv|32843", "fair.scv|32862", "fair.scv|32862|--round", "fair.scv|32862|--round|0",
+        "fair.scv|32862|--round|2x", "fair.scv|32862|--round|2147483648",
+        "fair.scv|32800|--classes|1,,2", "fair.scv|32800|--kind|total",
+        "fair.scv|32800|--number|-1", "fair.scv|32800|--team=yes", "fair.scv|32800|--team|--team",
+        "fair.scv|32796|--all|out", "fair.scv|--all|out|--team", "fair.scv|--all="}) {
+    const CliResult result = run(line, disk);
+    log.append("> ").append(line).append("\n").append(result.output);
+    log.append(result.error.substr(0, result.error.find('\n'))).append("\n");
+    log.append("status ").append(std::to_string(result.status)).append("\n\n");
+    EXPECT_EQ(result.error.ends_with(usageText()), result.status == kWrongUsage) << line;
+  }
+  expectApproved(log, "cli/answers.txt");
+  EXPECT_EQ(run("--version", disk).output, "scorvane-report " SCORVANE_VERSION "\n");
+  EXPECT_EQ(run("--help", disk).output, usageText());
+}
+
+TEST(Cli, WritesEveryReportThatAsksNothing) {
+  ContestFiles disk;
+  const std::size_t before = disk.files.size();
+  EXPECT_EQ(run("fair.scv|--all|out", disk).status, 0);
+  std::size_t reports = 0;
+  for (const Command& command : commandTable()) {
+    if (command.report == nullptr || command.question != ReportQuestion::nothing) continue;
+    ++reports;
+    const std::string& text = disk.files["out/" + std::string(command.caption) + ".txt"].content;
+    EXPECT_NE(text.find("\r\n"), std::string::npos) << command.caption;
+  }
+  EXPECT_EQ(disk.files.size(), before + reports);
+  disk.stayBroken = true;
+  disk.failingCall = disk.calls + 3;
+  EXPECT_EQ(run("fair.scv|--all|out", disk).status, kFailed);
+}
+
+}  // namespace
