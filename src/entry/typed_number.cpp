@@ -1,9 +1,10 @@
 #include "entry/typed_number.h"
 
-#include <algorithm>
+#include "text/number.h"
 
 std::optional<std::int64_t> typedNumber(std::string_view text) {
   constexpr std::int64_t kLargest = 999'999'999'999'999'999;
+  text = withoutOuterBlanks(text);
   const bool negative = !text.empty() && text.front() == '-';
   if (negative) text.remove_prefix(1);
   if (text.empty()) return std::nullopt;

@@ -34,3 +34,9 @@ std::int32_t leadingNumber(std::string_view text) {
   }
   return static_cast<std::int32_t>(value);
 }
+
+std::string_view withoutOuterBlanks(std::string_view text) {
+  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+  return text;
+}

@@ -32,8 +32,8 @@ class Dialog : public Window {
   [[nodiscard]] virtual std::string text(ControlId id) const = 0;
   /// Sets an edit field's or static's text. An edit field reports textChanged.
   virtual void setText(ControlId id, std::string_view text) = 0;
-  /// The field's text as an unsigned number; nothing when it is empty, holds anything but digits
-  /// or is too large for 32 bits.
+  /// The field's text as an unsigned number; nothing when it is empty, holds anything but digits,
+  /// with or without blanks around them, or is too large for 32 bits.
   [[nodiscard]] virtual std::optional<std::uint32_t> number(ControlId id) const = 0;
 
   [[nodiscard]] virtual bool isChecked(ControlId id) const = 0;

@@ -19,7 +19,7 @@ inline constexpr std::size_t kMaxFieldText = 499;
 /// An edit field's text as it is stored: at most kMaxFieldText bytes, no control characters.
 [[nodiscard]] std::string fieldText(const Dialog& dialog, ControlId id);
 
-/// A number field's value. An empty one, or one holding anything but digits, reads as 0. Values
+/// A number field's value. An empty one, or one that holds no number, reads as 0. Values
 /// beyond 2^31 - 1 wrap to below 0, so that a number below 0 out of a contest file, shown unsigned
 /// by showNumber, reads back as the same.
 [[nodiscard]] std::int32_t fieldNumber(const Dialog& dialog, ControlId id);

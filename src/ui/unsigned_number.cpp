@@ -2,7 +2,10 @@
 
 #include <charconv>
 
-std::optional<std::uint32_t> unsignedNumber(std::string_view digits) {
+#include "text/number.h"
+
+std::optional<std::uint32_t> unsignedNumber(std::string_view text) {
+  const std::string_view digits = withoutOuterBlanks(text);
   std::uint32_t value = 0;
   const char* end = digits.data() + digits.size();
   const auto [stop, error] = std::from_chars(digits.data(), end, value);

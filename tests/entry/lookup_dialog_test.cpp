@@ -53,7 +53,7 @@ TEST_F(Lookup, StoresWhatIsGivenAndLeavesTheRest) {
   contest().classes.officialLetter[2] = 'A';
   dialog_.choose(kClasses, 2);
   EXPECT_EQ(press(kScore, {"101", "b", "50", "0"}), "101|B|A|(2,3,4)|46|50|0| ||||1026");
-  EXPECT_EQ(press(kScore, {"101", "", "", "31"}), "101|B|A|(2,3,4)|46|50|31| ||||1026");
+  EXPECT_EQ(press(kScore, {" 101\t", "", "", " 31 "}), "101|B|A|(2,3,4)|46|50|31| ||||1026");
   EXPECT_EQ(press(kScore, {"101", "Z", "", ""}), "101|Z|A|(2,3,4)|0|50|31| ||||1026");
   EXPECT_EQ(record(101, 2), (ScoreRecord{'Z', 0, 50, 31}));
   press(kScore, {"103", "", "7", ""});
