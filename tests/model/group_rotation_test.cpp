@@ -39,15 +39,12 @@ TEST(RoundGroups, RotateGroupsThroughClasses) {
 TEST(RoundGroups, AnswerWhatIsNotInTheTable) {
   const RoundGroups rotation(3, 5);
   EXPECT_EQ(rotation.judgingGroups(), 3);
-  EXPECT_EQ(rotation.groupAt(0, 1), 'C');
-  for (const char idle : {'D', '@', ' '}) {
-    EXPECT_EQ(rotation.classOf(idle, 0), std::nullopt);
-    EXPECT_EQ(rotation.roundOf(idle, 0), 3);
+  for (const auto& [letter, index] : {std::pair{'D', 0}, {'@', 0}, {' ', 0}, {'A', 3}, {'A', -1}}) {
+    EXPECT_EQ(rotation.classOf(letter, index), std::nullopt);
+    EXPECT_EQ(rotation.roundOf(letter, index), 3);
+    EXPECT_EQ(rotation.groupAt(index, -1), ' ');
+    EXPECT_EQ(rotation.groupAt(3, index), ' ');
   }
-  EXPECT_EQ(rotation.groupAt(3, 0), ' ');
-  EXPECT_EQ(rotation.groupAt(0, -1), ' ');
-  EXPECT_EQ(rotation.classOf('A', 3), std::nullopt);
-  EXPECT_EQ(rotation.roundOf('A', 3), 3);
   EXPECT_EQ(RoundGroups(3, -1).groupAt(0, 0), ' ');
   EXPECT_EQ(RoundGroups(300, 2147483647).groupAt(190, 0), '\xFF');
   EXPECT_EQ(RoundGroups(300, 2147483647).groupAt(191, 0), ' ');

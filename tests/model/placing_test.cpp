@@ -18,38 +18,32 @@ TEST(PlacingLetters, NumberTheOrdersOfFourAnimalsAscending) {
 }
 
 TEST(PlacingScore, SubtractsTheCutsOfEveryReversedPair) {
-  const Cuts cuts = {2, 3, 4};
-  EXPECT_EQ(placingScore('A', 'A', cuts), 50);
-  EXPECT_EQ(placingScore('B', 'A', cuts), 46);
-  EXPECT_EQ(placingScore('G', 'A', cuts), 48);
-  EXPECT_EQ(placingScore('X', 'A', cuts), 20);
-  // Official 3-1-4-2; the contestant's 1-2-3-4 reverses 3/1 (2), 3/2 (2+3+4) and 4/2 (4).
-  EXPECT_EQ(placingScore('A', 'N', cuts), 50 - 2 - 9 - 4 - 0);
-  EXPECT_EQ(placingScore('Q', 'Q', {5, 5, 5}), 50);
-  EXPECT_EQ(placingScore('X', 'A', {0, 0, 0}), 50);
-}
-
-TEST(PlacingScore, IsNotClampedBelowZero) {
-  EXPECT_EQ(placingScore('X', 'A', {0, 13, 0}), -2);
-  EXPECT_EQ(placingScore('X', 'A', {0, 12, 1}), -1);
-}
-
-TEST(PlacingScore, IsZeroWithoutAnOrderOnEitherSide) {
-  for (const char letter : {' ', 'Y', 'Z'}) {
-    EXPECT_EQ(placingScore(letter, 'A', {1, 2, 3}), 0);
-    EXPECT_EQ(placingScore('A', letter, {1, 2, 3}), 0);
+  struct Case {
+    char letter, official;
+    Cuts cuts;
+    std::int32_t score;
+  };
+  for (const auto& [letter, official, cuts, score] :
+       {Case{'A', 'A', {2, 3, 4}, 50}, Case{'B', 'A', {2, 3, 4}, 46}, Case{'G', 'A', {2, 3, 4}, 48},
+        Case{'X', 'A', {2, 3, 4}, 20}, Case{'Q', 'Q', {5, 5, 5}, 50}, Case{'X', 'A', {0, 0, 0}, 50},
+        // Official 3-1-4-2; 1-2-3-4 reverses 3/1 (2), 3/2 (2+3+4) and 4/2 (4).
+        Case{'A', 'N', {2, 3, 4}, 50 - 2 - 9 - 4},
+        // Not clamped below 0.
+        Case{'X', 'A', {0, 13, 0}, -2}, Case{'X', 'A', {0, 12, 1}, -1},
+        // Without an order on either side.
+        Case{' ', 'A', {1, 2, 3}, 0}, Case{'Y', 'A', {1, 2, 3}, 0}, Case{'A', 'Z', {1, 2, 3}, 0}}) {
+    EXPECT_EQ(placingScore(letter, official, cuts), score) << letter << official;
   }
 }
 
 TEST(Cuts, AreLegalUpToFifteenWithASmallMiddleCut) {
-  EXPECT_TRUE(validateCuts(5, 5, 5));
-  EXPECT_FALSE(validateCuts(5, 6, 4));
-  EXPECT_TRUE(validateCuts(3, 8, 3));
-  EXPECT_TRUE(validateCuts(2, 8, 4));
-  EXPECT_FALSE(validateCuts(2, 9, 3));
-  EXPECT_FALSE(validateCuts(6, 5, 5));
-  EXPECT_TRUE(validateCuts(0, 13, 0));
-  EXPECT_FALSE(validateCuts(4294967295U, 1, 0));
+  using Three = std::array<std::uint32_t, 3>;
+  for (const auto& [a, b, c] : {Three{5, 5, 5}, {3, 8, 3}, {0, 13, 0}}) {
+    EXPECT_TRUE(validateCuts(a, b, c)) << b;
+  }
+  for (const auto& [a, b, c] : {Three{5, 6, 4}, {2, 9, 3}, {6, 5, 5}, {4294967295U, 1, 0}}) {
+    EXPECT_FALSE(validateCuts(a, b, c)) << b;
+  }
 }
 
 }  // namespace

@@ -82,7 +82,7 @@ TEST(ReasonsOrderReport, StandsWithoutReasonsClassesAndWithAGapInTheFirstRow) {
       "\n\t\tContestants Not Assigned in Reasons Order\n     102 - Taker 102\n     103 - Taker "
       "103\n"
       "\n\nReasons Class Order\n-------------------\n\n\n\n";
-  EXPECT_EQ(firstDifference(expected, reasonsOrderReport(contest, ReasonsOrderForm::plain)), "");
+  EXPECT_EQ(reasonsOrderReport(contest, ReasonsOrderForm::plain), expected);
 }
 
 }  // namespace

@@ -6,49 +6,33 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 #include <variant>
 
 #include "storage/contest_reader.h"
 
-namespace {
-
-std::string_view lineAround(std::string_view text, std::size_t lineStart) {
-  return text.substr(lineStart, text.find('\n', lineStart) - lineStart);
-}
-
-bool isRenewing() {
+void expectApproved(const std::string& report, const std::string& name) {
   const char* renew = std::getenv("SCORVANE_RENEW");
-  return renew != nullptr && std::string_view(renew) == "1";
-}
-
-}  // namespace
-
-std::string firstDifference(std::string_view expected, std::string_view actual) {
-  if (expected == actual) return {};
-  const auto [inExpected, inActual] =
-      std::mismatch(expected.begin(), expected.end(), actual.begin(), actual.end());
-  const auto place = static_cast<std::size_t>(inExpected - expected.begin());
-  const std::string_view same = expected.substr(0, place);
-  const std::size_t lineStart = same.find_last_of('\n') + 1;  // npos + 1 is 0: the first line
-  const auto line = 1 + std::count(same.begin(), same.end(), '\n');
-  std::string report = "line " + std::to_string(line) + ", column " +
-                       std::to_string(place - lineStart + 1) + ":\nexpected: ";
-  report.append(lineAround(expected, lineStart)).append("\nactual:   ");
-  return report.append(lineAround(actual, lineStart));
-}
-
-void expectApproved(std::string_view report, const std::string& name) {
-  const std::string path = std::string(SOURCE_DIR "/tests/") + name;
-  if (isRenewing()) {
-    std::ofstream file(path, std::ios::binary);
-    ASSERT_TRUE(file << report) << "cannot write " << path;
+  if (renew != nullptr && std::string_view(renew) == "1") {
+    std::ofstream file(SOURCE_DIR "/tests/" + name, std::ios::binary);
+    ASSERT_TRUE(file << report) << "cannot write " << name;
     return;
   }
-  std::ifstream file(path, std::ios::binary);
-  ASSERT_TRUE(file) << "no approved text " << path << "; SCORVANE_RENEW=1 writes it";
-  const std::string approved((std::istreambuf_iterator<char>(file)), {});
-  const std::string difference = firstDifference(approved, report);
-  EXPECT_TRUE(difference.empty()) << name << ", " << difference;
+  const std::string approved = sourceFile("tests/" + name);
+  if (approved == report) return;
+  std::istringstream expectedLines(approved), actualLines(report);
+  std::string expected, actual;
+  int line = 0;
+  do {
+    ++line;
+    if (!std::getline(expectedLines, expected)) expected.clear();
+    if (!std::getline(actualLines, actual)) actual.clear();
+  } while (expected == actual && (expectedLines || actualLines));
+  const auto place =
+      std::mismatch(expected.begin(), expected.end(), actual.begin(), actual.end()).first;
+  ADD_FAILURE() << name << ", line " << line << ", column " << place - expected.begin() + 1
+                << ":\nexpected: " << expected << "\nactual:   " << actual
+                << "\nSCORVANE_RENEW=1 writes the approved text anew.";
 }
 
 std::string sourceFile(const std::string& name) {

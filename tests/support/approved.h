@@ -2,19 +2,15 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "model/contest.h"
 
 /// Holds a report against the approved text in tests/<name>; fails with line and column of the
 /// first difference. With the environment variable SCORVANE_RENEW=1 the approved text is
 /// rewritten instead: read the diff before committing it.
-void expectApproved(std::string_view report, const std::string& name);
+void expectApproved(const std::string& report, const std::string& name);
 
 /// The bytes of a file of the source, such as "samples/county.scv"; "" when there is none.
 [[nodiscard]] std::string sourceFile(const std::string& name);
 /// The contest of such a file.
 [[nodiscard]] Contest contestOfFile(const std::string& name);
-
-/// Where two texts first differ, as "line 3, column 7: ..." with both lines; "" when they do not.
-[[nodiscard]] std::string firstDifference(std::string_view expected, std::string_view actual);
