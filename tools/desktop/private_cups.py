@@ -22,7 +22,7 @@ SYSTEM_HELPERS = pathlib.Path("/usr/lib/cups")
 # Called by the server as: backend job-id user title copies options [file]. The finished document
 # appears under its name in one step, so that whoever waits for it never sees half of it.
 BACKEND = """#!/bin/sh
-[ $# -eq 0 ] && { echo 'direct testpdf "Unknown" "PDF printer of Scorvane's tools"'; exit 0; }
+[ $# -eq 0 ] && { echo 'direct testpdf "Unknown" "PDF printer of the tools"'; exit 0; }
 cat ${6+"$6"} > "@OUTPUT@/$1.ps" || exit 1
 gs -q -dNOPAUSE -dBATCH -dSAFER -sDEVICE=pdfwrite -dAutoRotatePages=/None \\
   -sOutputFile="@OUTPUT@/$1.part" "@OUTPUT@/$1.ps" < /dev/null >&2 || exit 1
