@@ -149,19 +149,18 @@ class Operator {
   }
 
   void useControl(MemoryDialog& dialog) {
-    using Kind = MemoryDialog::Control::Kind;
     if (dialog.controls().empty()) return;
     auto place = dialog.controls().begin();
     std::advance(place, bytes_.below(dialog.controls().size()));
     const auto& [id, control] = *place;
-    if (control.kind == Kind::edit) {
+    if (control.isEdit()) {
       const bool pasted = bytes_.below(3) == 0;
       const std::string text = textOf(bytes_);
       pasted ? dialog.paste(id, text) : dialog.fill(id, text);
-    } else if (control.kind == Kind::list || control.kind == Kind::combo) {
+    } else if (control.isList()) {
       const int lines = dialog.lineCount(id);
       if (lines > 0) dialog.choose(id, bytes_.below(256) % lines);
-    } else if (control.kind != Kind::text && control.kind != Kind::group) {
+    } else if (!control.statement.ends_with("TEXT")) {
       dialog.click(id);
     }
   }

@@ -57,9 +57,6 @@ class Dialog : public Window {
   /// The selected lines of a multiple-selection list, ascending.
   [[nodiscard]] virtual std::vector<int> selections(ControlId id) const = 0;
   virtual void setSelected(ControlId id, int index, bool selected) = 0;
-  /// First line shown, so that lists standing side by side can scroll together.
-  [[nodiscard]] virtual int topLine(ControlId id) const = 0;
-  virtual void setTopLine(ControlId id, int index) = 0;
   /// Makes lists stand side by side as the columns of one table: scrolling one of them, by
   /// mouse, wheel or keyboard, scrolls the others to the same first line.
   virtual void linkScrolling(std::vector<ControlId> ids) = 0;

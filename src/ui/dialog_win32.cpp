@@ -58,8 +58,6 @@ class NativeDialog final : public Dialog {
   void select(ControlId id, std::optional<int> index) override;
   [[nodiscard]] std::vector<int> selections(ControlId id) const override;
   void setSelected(ControlId id, int index, bool selected) override;
-  [[nodiscard]] int topLine(ControlId id) const override;
-  void setTopLine(ControlId id, int index) override;
   void linkScrolling(std::vector<ControlId> ids) override;
   void setEnabled(ControlId id, bool enabled) override;
   void focus(ControlId id) override;
@@ -286,15 +284,6 @@ std::vector<int> NativeDialog::selections(ControlId id) const {
 void NativeDialog::setSelected(ControlId id, int index, bool selected) {
   if (!hasLine(id, index)) return;
   send(id, LB_SETSEL, selected ? TRUE : FALSE, index);
-}
-
-int NativeDialog::topLine(ControlId id) const {
-  return static_cast<int>(send(id, LB_GETTOPINDEX));
-}
-
-void NativeDialog::setTopLine(ControlId id, int index) {
-  send(id, LB_SETTOPINDEX, static_cast<WPARAM>(index));
-  linkedListMoved(control(id));
 }
 
 void NativeDialog::linkScrolling(std::vector<ControlId> ids) {

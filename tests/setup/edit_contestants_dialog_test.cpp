@@ -19,27 +19,27 @@ TEST(EditContestants, UpdateReplacesTheNameOnly) {
   Contest contest = builder.team("Elm", "", {"Ann - Lee", "Ben", ""}).contest;
   contest.contestantGroup[100] = 'Q';
   ContestantEditing editing(contest);
-  EXPECT_EQ(editing.dialog.lines(kList), (Lines{"100 - Ben - Q", "99 - Ann - Lee - A"}));
+  EXPECT_EQ(editing.lines(kList), (Lines{"100 - Ben - Q", "99 - Ann - Lee - A"}));
   EXPECT_EQ(editing.press(kUpdate), "No Contestant Selected to Update.|Warning");
-  editing.dialog.choose(kList, 0);
-  EXPECT_EQ(editing.dialog.focused(), kContestantName);
-  editing.dialog.fill(kNumber, "99");
-  editing.dialog.fill(kGroup, "A");
+  editing.choose(kList, 0);
+  EXPECT_EQ(editing.focused(), kContestantName);
+  editing.fill(kNumber, "99");
+  editing.fill(kGroup, "A");
   EXPECT_EQ(editing.fields(), "100|Ben|Q");
-  editing.dialog.paste(kContestantName, "Bo\tBell");
-  editing.dialog.pressEnter();
+  editing.paste(kContestantName, "Bo\tBell");
+  editing.pressEnter();
   EXPECT_EQ(editing.fields(), "||");
-  EXPECT_EQ(editing.dialog.lines(kList), (Lines{"100 - Bo Bell - Q", "99 - Ann - Lee - A"}));
-  editing.dialog.choose(kList, 1);
+  EXPECT_EQ(editing.lines(kList), (Lines{"100 - Bo Bell - Q", "99 - Ann - Lee - A"}));
+  editing.choose(kList, 1);
   EXPECT_EQ(editing.fields(), "99|Ann - Lee|A");
-  editing.dialog.fill(kContestantName, "");
-  editing.dialog.pressEnter();
+  editing.fill(kContestantName, "");
+  editing.pressEnter();
   EXPECT_EQ(editing.takeMessage(), "The name cannot be empty.|Error");
   EXPECT_EQ(editing.fields(), "||");
-  EXPECT_FALSE(editing.dialog.selection(kList));
+  EXPECT_FALSE(editing.selection(kList));
   contest.contestantNames[100] = "Bo Bell";
   EXPECT_EQ(currentContest(), contest);
-  editing.dialog.click(kDone);
+  editing.click(kDone);
   EXPECT_TRUE(editing.isDone());
 }
 
@@ -49,22 +49,22 @@ TEST(EditContestants, EscapeDeletesTheSelectedContestant) {
   placeGroup(contest, 1, {102, 103, 104});
   contest.scores[103][0].letter = 'B';
   ContestantEditing editing(contest);
-  editing.dialog.pressEscape();
+  editing.pressEscape();
   EXPECT_EQ(editing.takeMessage(), "No Contestant Selected to Delete.|Warning");
   for (const ContestantNumber number : {101, 102, 103}) {
-    editing.dialog.choose(kList, 0);
-    editing.dialog.pressEscape();
+    editing.choose(kList, 0);
+    editing.pressEscape();
     EXPECT_EQ(editing.fields(), "||");
     contest.contestantNames.erase(number);
     contest.contestantGroup.erase(number);
   }
-  EXPECT_EQ(editing.dialog.lines(kList), Lines{"104 - Taker 104 - D"});
+  EXPECT_EQ(editing.lines(kList), Lines{"104 - Taker 104 - D"});
   // The first group's and the first row's cells stay; 103's is closed up.
   placeGroup(contest, 1, {102, 104, kNobody});
   contest.reasonsPlace[101] = contest.reasonsPlace[102] = contest.reasonsPlace[103] = {};
   EXPECT_EQ(currentContest(), contest);
   EXPECT_FALSE(editing.isDone());
-  editing.dialog.pressCloseBox();
+  editing.pressCloseBox();
   EXPECT_TRUE(editing.isDone());
 }
 

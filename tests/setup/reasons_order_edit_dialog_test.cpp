@@ -31,10 +31,10 @@ struct OrderEditing : SetupDialog<Edit, Edit::kResourceId> {
       }
       return lines;
     };
-    EXPECT_EQ(dialog.lines(Edit::kOrder), linesOf(speakers));
-    EXPECT_EQ(dialog.lines(Edit::kUnassigned), linesOf(waiting));
+    EXPECT_EQ(lines(Edit::kOrder), linesOf(speakers));
+    EXPECT_EQ(lines(Edit::kUnassigned), linesOf(waiting));
     Contest expected = currentContest();
-    placeGroup(expected, *dialog.selection(Edit::kGroups), speakers);
+    placeGroup(expected, *selection(Edit::kGroups), speakers);
     EXPECT_EQ(currentContest(), expected);
     EXPECT_EQ(reasonsOrderFault(expected), "");
   }
@@ -42,46 +42,44 @@ struct OrderEditing : SetupDialog<Edit, Edit::kResourceId> {
 
 TEST(ReasonsOrderEdit, MovesASpeakerUpAndDownToTheEnds) {
   OrderEditing editing(twoGroups());
-  MemoryDialog& dialog = editing.dialog;
-  EXPECT_EQ(dialog.lines(Edit::kGroups), (Lines{"     1", "     2"}));
+  EXPECT_EQ(editing.lines(Edit::kGroups), (Lines{"     1", "     2"}));
   EXPECT_EQ(currentContest().reasonsPlace[103], (ReasonsPlace{0, 2}));
-  dialog.choose(Edit::kGroups, 1);
+  editing.choose(Edit::kGroups, 1);
   editing.expect({104}, {105, 106});
-  dialog.choose(Edit::kGroups, 0);
-  dialog.choose(Edit::kOrder, 2);
-  dialog.click(Edit::kMoveUp);
+  editing.choose(Edit::kGroups, 0);
+  editing.choose(Edit::kOrder, 2);
+  editing.click(Edit::kMoveUp);
   editing.expect({101, 103, 102}, {105, 106});
-  dialog.click(Edit::kMoveUp);
+  editing.click(Edit::kMoveUp);
   EXPECT_EQ(editing.press(Edit::kMoveUp), "The top Contestant cannot be moved up.|Error");
   editing.expect({103, 101, 102}, {105, 106});
-  dialog.click(Edit::kMoveDown);
-  dialog.click(Edit::kMoveDown);
+  editing.click(Edit::kMoveDown);
+  editing.click(Edit::kMoveDown);
   EXPECT_EQ(editing.press(Edit::kMoveDown), "The bottom Contestant cannot be moved down.|Error");
   editing.expect({101, 102, 103}, {105, 106});
-  dialog.pressEscape();
+  editing.pressEscape();
   EXPECT_FALSE(editing.isDone());
-  dialog.focus(Edit::kOrder);
-  dialog.pressEnter();
+  editing.focus(Edit::kOrder);
+  editing.pressEnter();
   EXPECT_TRUE(editing.isDone());
 }
 
 TEST(ReasonsOrderEdit, RemovesAndAssignsSpeakers) {
   OrderEditing editing(twoGroups());
-  MemoryDialog& dialog = editing.dialog;
-  dialog.choose(Edit::kUnassigned, 0);
+  editing.choose(Edit::kUnassigned, 0);
   EXPECT_EQ(editing.takeMessage(),
             "A Reasons Group must be selected to move an unassigned contestant.|Warning");
-  EXPECT_FALSE(dialog.selection(Edit::kUnassigned));
-  dialog.choose(Edit::kGroups, 0);
-  dialog.choose(Edit::kOrder, 1);
-  dialog.click(Edit::kRemove);
+  EXPECT_FALSE(editing.selection(Edit::kUnassigned));
+  editing.choose(Edit::kGroups, 0);
+  editing.choose(Edit::kOrder, 1);
+  editing.click(Edit::kRemove);
   editing.expect({101, 103}, {102, 105, 106});
   for (const ControlId button : {Edit::kMoveUp, Edit::kMoveDown, Edit::kRemove}) {
     EXPECT_EQ(editing.press(button), "A Reasons Group and Contestant must be selected.|Warning");
   }
-  dialog.choose(Edit::kUnassigned, 2);
+  editing.choose(Edit::kUnassigned, 2);
   editing.expect({101, 103, 106}, {102, 105});
-  dialog.pressCloseBox();
+  editing.pressCloseBox();
   EXPECT_TRUE(editing.isDone());
 }
 
@@ -90,12 +88,12 @@ TEST(ReasonsOrderEdit, TakesNobodyIntoAFullGroup) {
   contest.reasonsOrder.reset(3, 2);
   placeGroup(contest, 0, {101, 102, 103});
   OrderEditing editing(contest);
-  editing.dialog.choose(Edit::kGroups, 0);
-  editing.dialog.choose(Edit::kUnassigned, 0);
+  editing.choose(Edit::kGroups, 0);
+  editing.choose(Edit::kUnassigned, 0);
   EXPECT_EQ(editing.takeMessage(),
             "That reasons group is full, select another group to add this contestant to.|Warning");
-  EXPECT_FALSE(editing.dialog.selection(Edit::kUnassigned));
-  EXPECT_FALSE(editing.dialog.selection(Edit::kGroups));
+  EXPECT_FALSE(editing.selection(Edit::kUnassigned));
+  EXPECT_FALSE(editing.selection(Edit::kGroups));
   EXPECT_EQ(currentContest(), contest);
 }
 
@@ -106,21 +104,20 @@ TEST(ReasonsOrderEdit, NobodySpeaksOrWaitsTwice) {
   contest.contestantNames[101] = "";
   contest.reasonsPlace[101] = contest.reasonsPlace[103] = {};
   OrderEditing editing(contest);
-  MemoryDialog& dialog = editing.dialog;
-  dialog.choose(Edit::kGroups, 0);
+  editing.choose(Edit::kGroups, 0);
   for (int removed = 0; removed < 2; ++removed) {
-    dialog.choose(Edit::kOrder, 0);
-    dialog.click(Edit::kRemove);
+    editing.choose(Edit::kOrder, 0);
+    editing.click(Edit::kRemove);
   }
-  EXPECT_EQ(dialog.lines(Edit::kUnassigned),
+  EXPECT_EQ(editing.lines(Edit::kUnassigned),
             (Lines{"     101 - ", "     103 - Taker 103", "     105 - Taker 105",
                    "     106 - Taker 106"}));
-  dialog.pressCloseBox();
+  editing.pressCloseBox();
 
   OrderEditing again(contest);
-  again.dialog.choose(Edit::kGroups, 0);
-  again.dialog.choose(Edit::kUnassigned, 0);
-  EXPECT_EQ(again.dialog.lines(Edit::kOrder),
+  again.choose(Edit::kGroups, 0);
+  again.choose(Edit::kUnassigned, 0);
+  EXPECT_EQ(again.lines(Edit::kOrder),
             (Lines{"     101 - ", "     102 - Taker 102", "     103 - Taker 103"}));
 }
 

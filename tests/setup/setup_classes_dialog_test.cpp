@@ -11,25 +11,25 @@ namespace {
 struct ClassSetup : SetupDialog<SetupClassesDialog, kDialog> {
   using SetupDialog::SetupDialog;
 
-  void paste(const char* name, const char* official, const char* middleCut) {
-    dialog.paste(kClassName, name);
-    dialog.paste(kOfficial, official);
-    dialog.paste(kCut1, "3");
-    dialog.paste(kCut2, middleCut);
+  void type(const char* name, const char* official, const char* middleCut) {
+    paste(kClassName, name);
+    paste(kOfficial, official);
+    paste(kCut1, "3");
+    paste(kCut2, middleCut);
   }
   [[nodiscard]] std::string form() const {
     return texts({kClassName, kOfficial, kOfficialOrder, kCut1, kCut2, kCut3}) +
-           (dialog.isChecked(kReasons) ? "|R" : "|-") + (dialog.isChecked(kQuestions) ? "Q" : "-") +
-           "|" + dialog.line(kCategory, dialog.selection(kCategory).value_or(-1));
+           (isChecked(kReasons) ? "|R" : "|-") + (isChecked(kQuestions) ? "Q" : "-") + "|" +
+           line(kCategory, selection(kCategory).value_or(-1));
   }
-  [[nodiscard]] Lines row(int line) const {
+  [[nodiscard]] Lines row(int index) const {
     Lines texts;
-    for (const ControlId list : kTable) texts.push_back(dialog.line(list, line));
+    for (const ControlId list : kTable) texts.push_back(line(list, index));
     return texts;
   }
   void expectReset() const {
     EXPECT_EQ(form(), "|A|( 1 , 2 , 3 , 4 )|0|0|0|--|" + currentContest().categories[0]);
-    for (const ControlId list : kTable) EXPECT_FALSE(dialog.selection(list)) << list;
+    for (const ControlId list : kTable) EXPECT_FALSE(selection(list)) << list;
     EXPECT_EQ(focusAndDefault(), FocusAndDefault(kClassName, kAdd));
   }
 };
@@ -45,20 +45,20 @@ Contest twoClasses() {
 TEST(SetupClasses, AClassIsTypedWithoutLeavingTheKeyboard) {
   ClassSetup setup;
   setup.expectReset();
-  setup.dialog.keys("Steers");
-  setup.dialog.focus(kOfficial);
-  setup.dialog.selectText(kOfficial);
-  setup.dialog.keys("d");
-  EXPECT_EQ(setup.dialog.text(kOfficialOrder), "( 1 , 3 , 4 , 2 )");
-  setup.dialog.keys("x24x3");
-  EXPECT_EQ(setup.dialog.focused(), kCategory);
+  setup.keys("Steers");
+  setup.focus(kOfficial);
+  setup.selectText(kOfficial);
+  setup.keys("d");
+  EXPECT_EQ(setup.text(kOfficialOrder), "( 1 , 3 , 4 , 2 )");
+  setup.keys("x24x3");
+  EXPECT_EQ(setup.focused(), kCategory);
   EXPECT_EQ(setup.form(), "Steers|D|( 1 , 3 , 4 , 2 )|2|4|3|--|none");
-  setup.dialog.pressEnter();
+  setup.pressEnter();
   EXPECT_EQ(setup.row(0), (Lines{" 1.  Steers", "   ---", "   D (1,3,4,2)", "  (2,4,3)", "none"}));
   setup.expectReset();
   EXPECT_EQ(currentContest().classes.cuts(0), (Cuts{2, 4, 3}));
-  setup.dialog.fill(kOfficial, "");
-  EXPECT_EQ(setup.dialog.text(kOfficialOrder), "( 1 , 2 , 3 , 4 )");
+  setup.fill(kOfficial, "");
+  EXPECT_EQ(setup.text(kOfficialOrder), "( 1 , 2 , 3 , 4 )");
 }
 
 TEST(SetupClasses, AnyColumnSelectsTheWholeRow) {
@@ -67,20 +67,19 @@ TEST(SetupClasses, AnyColumnSelectsTheWholeRow) {
   contest.classes.questionsFlag[0] = true;
   ClassSetup setup(contest);
   EXPECT_EQ(setup.row(0), (Lines{" 1.  Steers", "   R-Q", "   B (1,2,4,3)", "  (1,2,3)", "Beef"}));
-  EXPECT_EQ(setup.dialog.line(kFlagsList, 1), "   --Q");
+  EXPECT_EQ(setup.line(kFlagsList, 1), "   --Q");
   for (const ControlId list : kTable) {
-    setup.dialog.click(kNewClass);
+    setup.click(kNewClass);
     setup.expectReset();
-    setup.dialog.choose(list, 1);
-    for (const ControlId other : kTable) EXPECT_EQ(setup.dialog.selection(other), 1);
+    setup.choose(list, 1);
+    for (const ControlId other : kTable) EXPECT_EQ(setup.selection(other), 1);
     EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(list, kUpdate));
     EXPECT_EQ(setup.form(), "Ewes|C|( 1 , 3 , 2 , 4 )|2|3|4|-Q|Sheep");
   }
-  setup.dialog.setTopLine(kCutsList, 1);
-  EXPECT_EQ(setup.dialog.topLine(kNameList), 1);
-  setup.dialog.choose(kCutsList, 0);
+  EXPECT_EQ(setup.linkedLists(), std::vector(kTable.begin(), kTable.end()));
+  setup.choose(kCutsList, 0);
   EXPECT_EQ(setup.form(), "Steers|B|( 1 , 2 , 4 , 3 )|1|2|3|RQ|");
-  setup.dialog.pressEnter();
+  setup.pressEnter();
   EXPECT_EQ(currentContest(), contest);
 }
 
@@ -114,8 +113,8 @@ TEST(SetupClasses, RefusalsAndTheirUndo) {
   const JudgingClasses& classes = currentContest().classes;
   for (const Case& refused : cases) {
     ClassSetup setup(twoClasses());
-    if (refused.updated) setup.dialog.choose(kNameList, *refused.updated);
-    setup.paste("Hogs", refused.official, refused.middleCut);
+    if (refused.updated) setup.choose(kNameList, *refused.updated);
+    setup.type("Hogs", refused.official, refused.middleCut);
     EXPECT_EQ(setup.press(refused.updated ? kUpdate : kAdd), refused.message);
     EXPECT_EQ(classes.className, refused.names) << refused.message;
     const auto& letters = classes.officialLetter;
@@ -125,8 +124,8 @@ TEST(SetupClasses, RefusalsAndTheirUndo) {
     EXPECT_EQ(classes.categoryIndex.size(), letters.size());
     EXPECT_EQ(classes.cut2.size(), 2U);
     // Table and form stay as they are.
-    EXPECT_EQ(setup.dialog.lines(kNameList), (Lines{" 1.  Steers", " 2.  Ewes"}));
-    EXPECT_EQ(setup.dialog.text(kClassName), "Hogs");
+    EXPECT_EQ(setup.lines(kNameList), (Lines{" 1.  Steers", " 2.  Ewes"}));
+    EXPECT_EQ(setup.text(kClassName), "Hogs");
   }
 }
 
@@ -134,25 +133,25 @@ TEST(SetupClasses, RefusalsAndTheirUndo) {
 // the corrected update is stored, and a line left without its class goes with the next class added.
 TEST(SetupClasses, RecoverFromTheUndo) {
   ClassSetup first;
-  first.paste("Hogs", "D", "16");
-  first.dialog.click(kAdd);
+  first.type("Hogs", "D", "16");
+  first.click(kAdd);
   EXPECT_EQ(currentContest().classes, JudgingClasses{});
   ClassSetup setup(twoClasses());
   const auto update = [&](int line, const char* name, const char* official, const char* cut) {
-    setup.dialog.choose(kNameList, line);
-    setup.paste(name, official, cut);
-    setup.dialog.click(kUpdate);
+    setup.choose(kNameList, line);
+    setup.type(name, official, cut);
+    setup.click(kUpdate);
   };
   update(1, "Hogs", "D", "16");
-  setup.dialog.choose(kNameList, 1);
+  setup.choose(kNameList, 1);
   EXPECT_EQ(setup.form(), "| |( 0 , 0 , 0 , 0 )|2|3|4|--|Beef");
   update(1, "Hogs", "D", "1");
   EXPECT_EQ(setup.row(1), (Lines{" 2.  Hogs", "   ---", "   D (1,3,4,2)", "  (3,1,4)", "Beef"}));
   update(0, "Kids", "", "0");
-  setup.dialog.click(kNewClass);
-  setup.paste("Does", "E", "1");
-  setup.dialog.click(kAdd);
-  EXPECT_EQ(setup.dialog.lines(kNameList), (Lines{" 1.  Kids", " 2.  Does"}));
+  setup.click(kNewClass);
+  setup.type("Does", "E", "1");
+  setup.click(kAdd);
+  EXPECT_EQ(setup.lines(kNameList), (Lines{" 1.  Kids", " 2.  Does"}));
 }
 
 TEST(SetupClasses, ClassesAreRemovedWithoutScoresAndClearedWithThem) {
@@ -163,32 +162,32 @@ TEST(SetupClasses, ClassesAreRemovedWithoutScoresAndClearedWithThem) {
   EXPECT_EQ(setup.press(kUpdate), "No class is selected, so an update is not possible.|Warning");
   const std::string tooLate = "You cannot delete a class once scores have been input.|Error";
   EXPECT_EQ(setup.press(kRemove), tooLate);
-  setup.dialog.choose(kNameList, 0);
-  setup.dialog.setDefaultButton(kAdd);
+  setup.choose(kNameList, 0);
+  setup.setDefaultButton(kAdd);
   EXPECT_EQ(setup.press(kAdd), "Once a class is selected you can only update it.|Warning");
-  EXPECT_EQ(setup.dialog.defaultButton(), kUpdate);
+  EXPECT_EQ(setup.defaultButton(), kUpdate);
   EXPECT_EQ(setup.press(kRemove), tooLate);
   setup.expectReset();
   EXPECT_EQ(currentContest(), contest);
   currentContest().scores.clear();
   EXPECT_EQ(setup.press(kRemove), "No items selected.|Warning");
-  setup.dialog.choose(kCutsList, 0);
-  setup.dialog.click(kRemove);
+  setup.choose(kCutsList, 0);
+  setup.click(kRemove);
   setup.expectReset();
-  EXPECT_EQ(setup.dialog.lines(kNameList), Lines{" 1.  Ewes"});
+  EXPECT_EQ(setup.lines(kNameList), Lines{" 1.  Ewes"});
   contest.classes.clear();
   contest.classes.add("Ewes", false, true, 'C', {2, 3, 4}, 1);
   EXPECT_EQ(currentContest().classes, contest.classes);
 
   currentContest().scores = contest.scores;
-  setup.dialog.choose(kNameList, 0);
+  setup.choose(kNameList, 0);
   EXPECT_EQ(setup.press(kClearAll, Answer::cancel),
             "This will delete all classes!  Continue?|Warning");
-  EXPECT_EQ(setup.dialog.defaultButton(), kAdd);
+  EXPECT_EQ(setup.defaultButton(), kAdd);
   EXPECT_EQ(currentContest(), contest);
   setup.press(kClearAll, Answer::ok);
   EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kClassName, kAdd));
-  for (const ControlId list : kTable) EXPECT_EQ(setup.dialog.lineCount(list), 0);
+  for (const ControlId list : kTable) EXPECT_EQ(setup.lineCount(list), 0);
   contest.classes.clear();
   EXPECT_EQ(currentContest(), contest);
 }
@@ -201,9 +200,9 @@ TEST(SetupClasses, ClosingRecomputesThePlacingScoresAndSaves) {
   EXPECT_EQ(currentContest().categories, Lines{"none"});
   currentContest().classes.officialLetter[0] = 'A';
   reportText() = "old report";
-  setup.dialog.pressEscape();
+  setup.pressEscape();
   EXPECT_FALSE(setup.isDone());
-  setup.dialog.pressCloseBox();
+  setup.pressCloseBox();
   EXPECT_TRUE(setup.isDone());
   EXPECT_EQ(reportText(), kWelcomeText);
   EXPECT_EQ(scoreRecord(currentContest(), 101, 0).placingScore, 46);

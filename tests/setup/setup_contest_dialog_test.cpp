@@ -43,17 +43,17 @@ TEST(SetupContest, ChecksTheFieldsInOrder) {
   };
   ContestSetup setup;
   EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kContestName, kDone));
-  for (const Step& step : steps) setup.dialog.fill(step.field, "");
-  setup.dialog.fill(kStartNumber, "x301");
-  setup.dialog.fill(kNumberToReport, "x15");
+  for (const Step& step : steps) setup.fill(step.field, "");
+  setup.fill(kStartNumber, "x301");
+  setup.fill(kNumberToReport, "x15");
   for (const auto& [field, message, correction] : steps) {
     EXPECT_EQ(setup.press(kDone), message);
-    EXPECT_EQ(setup.dialog.focused(), field == kContestDate ? kContestName : field) << message;
+    EXPECT_EQ(setup.focused(), field == kContestDate ? kContestName : field) << message;
     EXPECT_FALSE(setup.isDone());
-    setup.dialog.fill(field, correction);
+    setup.fill(field, correction);
   }
   reportText() = "old report";
-  setup.dialog.pressCloseBox();
+  setup.pressCloseBox();
   EXPECT_TRUE(setup.isDone());
   EXPECT_EQ(reportText(), kWelcomeText);
   const ContestSettings expected = {"County Fair", "Senior", "today", 301, 6,   7,  5,
@@ -67,21 +67,21 @@ TEST(SetupContest, CancelPutsBackWhatARefusedDoneStored) {
   before.settings.reportPercent = true;
   ContestSetup setup(before);
   reportText() = "old report";
-  setup.dialog.fill(kContestName, "Other");
-  setup.dialog.click(kReportPercent);
-  setup.dialog.fill(kReasonsTakers, "3");
-  setup.dialog.fill(kNumberToScore, "0");
-  setup.dialog.fill(kCategoryText, "Swine");
-  setup.dialog.pressEnter();
-  setup.dialog.click(kDone);
+  setup.fill(kContestName, "Other");
+  setup.click(kReportPercent);
+  setup.fill(kReasonsTakers, "3");
+  setup.fill(kNumberToScore, "0");
+  setup.fill(kCategoryText, "Swine");
+  setup.pressEnter();
+  setup.click(kDone);
   EXPECT_EQ(currentContest().settings.contestName, "Other");
   EXPECT_FALSE(currentContest().settings.reportPercent);
-  setup.dialog.fill(kReasonsTakers, "0");
-  setup.dialog.click(kDone);
+  setup.fill(kReasonsTakers, "0");
+  setup.click(kDone);
   EXPECT_EQ(currentContest().settings.numReasonsGroups, 2);
-  setup.dialog.pressEscape();
-  EXPECT_EQ(setup.dialog.result(), kCancelId);
-  EXPECT_TRUE(setup.dialog.desktop.fileQuestions.empty());
+  setup.pressEscape();
+  EXPECT_EQ(setup.result(), kCancelId);
+  EXPECT_TRUE(setup.desktop.fileQuestions.empty());
   EXPECT_EQ(reportText(), kWelcomeText);
   // The reasons order is gone nevertheless.
   before.reasonsOrder.reset(3, 3);
@@ -95,10 +95,10 @@ TEST(SetupContest, DoneRegroupsEverybodyAndKeepsTheOrderOfAsManyTakers) {
   placeGroup(contest, 1, {103});
   contest.contestantGroup[102] = 'Q';
   ContestSetup setup(contest);
-  EXPECT_FALSE(setup.dialog.isEnabled(kStartNumber) || setup.dialog.isEnabled(kTotalPerTeam));
-  setup.dialog.fill(kReasonsTakers, "2");
-  setup.dialog.fill(kGroups, "3");
-  setup.dialog.click(kDone);
+  EXPECT_FALSE(setup.isEnabled(kStartNumber) || setup.isEnabled(kTotalPerTeam));
+  setup.fill(kReasonsTakers, "2");
+  setup.fill(kGroups, "3");
+  setup.click(kDone);
   contest.settings.numGroups = 3;
   contest.settings.nextContestantNum = 101;
   contest.groupLetters = {'A', 'B', 'C'};
@@ -109,38 +109,37 @@ TEST(SetupContest, DoneRegroupsEverybodyAndKeepsTheOrderOfAsManyTakers) {
 
 TEST(SetupContest, CategoriesAreAddedUpdatedAndDeleted) {
   ContestSetup setup;
-  MemoryDialog& dialog = setup.dialog;
   const Lines& stored = currentContest().categories;
-  EXPECT_EQ(dialog.lines(kCategoryList), Lines{"none"});
+  EXPECT_EQ(setup.lines(kCategoryList), Lines{"none"});
   // A lone "none" gives way to the first category; nobody looks for duplicates.
   for (const char* name : {"Swine", "none", "Swine", "Hay\tand\r\nGrain"}) {
-    dialog.paste(kCategoryText, name);
-    dialog.pressEnter();
+    setup.paste(kCategoryText, name);
+    setup.pressEnter();
   }
   EXPECT_EQ(stored, (Lines{"Swine", "none", "Swine", "Hay and  Grain"}));
-  EXPECT_EQ(dialog.lines(kCategoryList), stored);
-  dialog.focus(kGroups);
-  EXPECT_EQ(dialog.defaultButton(), kDone);
+  EXPECT_EQ(setup.lines(kCategoryList), stored);
+  setup.focus(kGroups);
+  EXPECT_EQ(setup.defaultButton(), kDone);
   EXPECT_EQ(setup.press(kAddCategory), "Category cannot be empty.|Information");
   EXPECT_EQ(setup.press(kUpdateCategory), "No category selected.|Information");
   EXPECT_EQ(setup.press(kDeleteCategory), "No category selected.|Information");
   // The first category's stored name is never updated, though its line is.
   for (const int line : {0, 2}) {
-    dialog.choose(kCategoryList, line);
+    setup.choose(kCategoryList, line);
     EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kCategoryText, kUpdateCategory));
-    EXPECT_EQ(dialog.text(kCategoryText), "Swine");
+    EXPECT_EQ(setup.text(kCategoryText), "Swine");
     EXPECT_EQ(setup.press(kAddCategory),
               "When a category is selected Update and Delete are the only valid buttons.|"
               "Information");
-    dialog.fill(kCategoryText, "");
+    setup.fill(kCategoryText, "");
     EXPECT_EQ(setup.press(kUpdateCategory), "Category cannot be empty.|Information");
-    EXPECT_EQ(dialog.text(kCategoryText), "Swine");
-    dialog.fill(kCategoryText, "Hogs");
-    dialog.pressEnter();
+    EXPECT_EQ(setup.text(kCategoryText), "Swine");
+    setup.fill(kCategoryText, "Hogs");
+    setup.pressEnter();
     EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kCategoryText, kAddCategory));
-    EXPECT_EQ(dialog.text(kCategoryText), "");
+    EXPECT_EQ(setup.text(kCategoryText), "");
   }
-  EXPECT_EQ(dialog.lines(kCategoryList), (Lines{"Hogs", "none", "Hogs", "Hay and  Grain"}));
+  EXPECT_EQ(setup.lines(kCategoryList), (Lines{"Hogs", "none", "Hogs", "Hay and  Grain"}));
   EXPECT_EQ(stored, (Lines{"Swine", "none", "Hogs", "Hay and  Grain"}));
   currentContest().classes.className = {"Steers"};
   EXPECT_EQ(setup.press(kDeleteCategory),
@@ -148,14 +147,14 @@ TEST(SetupContest, CategoriesAreAddedUpdatedAndDeleted) {
             "be added and/or updated.|Information");
   currentContest().classes.clear();
   for (auto left = std::ssize(stored); left > 0; --left) {
-    EXPECT_EQ(dialog.lineCount(kCategoryList), left);
-    dialog.choose(kCategoryList, 0);
-    dialog.click(kDeleteCategory);
+    EXPECT_EQ(setup.lineCount(kCategoryList), left);
+    setup.choose(kCategoryList, 0);
+    setup.click(kDeleteCategory);
     EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kCategoryText, kAddCategory));
-    EXPECT_EQ(dialog.text(kCategoryText), "");
+    EXPECT_EQ(setup.text(kCategoryText), "");
   }
   EXPECT_TRUE(stored.empty());
-  dialog.click(kDone);
+  setup.click(kDone);
   EXPECT_EQ(stored, Lines{"none"});
 }
 

@@ -11,44 +11,44 @@ using Lines = std::vector<std::string>;
 /// Where the operator's keys go, and the button that Enter presses.
 using FocusAndDefault = std::pair<ControlId, ControlId>;
 
-/// A dialog's behaviour in an open dialog over `contest`, which becomes the current one. The
-/// contest is untitled, so a save shows as a question for its file.
-template <typename Behaviour, int resourceId>
-struct SetupDialog {
-  explicit SetupDialog(Contest contest = ContestBuilder().contest)
-      : dialog((currentContest() = std::move(contest), currentFileName().clear(), resourceId),
-               behaviour) {}
-
+template <typename Behaviour>
+struct Held {
   Behaviour behaviour;
-  MemoryDialog dialog;
+};
+
+/// An open dialog over `contest`, which becomes the current one. The contest is untitled, so a save
+/// shows as a question for its file.
+template <typename Behaviour, int resourceId>
+struct SetupDialog : Held<Behaviour>, MemoryDialog {
+  explicit SetupDialog(Contest contest = ContestBuilder().contest)
+      : MemoryDialog((currentContest() = std::move(contest), currentFileName().clear(), resourceId),
+                     Held<Behaviour>::behaviour) {}
 
   /// Whether the dialog has saved and ended; that it did only one of them fails the test.
   [[nodiscard]] bool isDone() const {
-    EXPECT_EQ(dialog.desktop.fileQuestions.size(), dialog.result() ? 1U : 0U);
-    return dialog.result().has_value();
+    EXPECT_EQ(desktop.fileQuestions.size(), result() ? 1U : 0U);
+    return result().has_value();
   }
   /// The fields' texts with bars between.
   [[nodiscard]] std::string texts(std::initializer_list<ControlId> fields) const {
     std::string joined;
-    for (const ControlId id : fields) joined += dialog.text(id) + "|";
+    for (const ControlId id : fields) joined += text(id) + '|';
     joined.pop_back();
     return joined;
   }
-  [[nodiscard]] FocusAndDefault focusAndDefault() const {
-    return {dialog.focused(), dialog.defaultButton()};
-  }
+  [[nodiscard]] FocusAndDefault focusAndDefault() const { return {focused(), defaultButton()}; }
   /// Text of the last message and, after a bar, its caption; "" without one. Forgets them.
   std::string takeMessage() {
-    if (dialog.desktop.messages.empty()) return "";
-    const std::string caption = dialog.desktop.messages.back().caption;
-    return dialog.desktop.takeMessage() + "|" + caption;
+    if (desktop.messages.empty()) return "";
+    const std::string caption = desktop.messages.back().caption;
+    return desktop.takeMessage() + '|' + caption;
   }
   /// Presses a button; gives the message this shows, as takeMessage(). A question must propose
   /// Cancel, and gets `answer`.
   std::string press(ControlId button, Answer answer = Answer::ok) {
-    dialog.desktop.answers = {answer};
-    dialog.click(button);
-    for (const Message& shown : dialog.desktop.messages) {
+    desktop.answers = {answer};
+    click(button);
+    for (const Message& shown : desktop.messages) {
       EXPECT_EQ(shown.defaultAnswer == Answer::cancel, shown.buttons == Buttons::okCancel);
     }
     return takeMessage();

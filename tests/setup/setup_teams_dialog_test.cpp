@@ -16,8 +16,8 @@ struct TeamSetup : SetupDialog<SetupTeamsDialog, kDialog> {
 
   void addMembers(const std::vector<const char*>& names) {
     for (const char* name : names) {
-      dialog.fill(kContestantName, name);
-      dialog.pressEnter();
+      fill(kContestantName, name);
+      pressEnter();
     }
   }
   [[nodiscard]] std::string fields() const {
@@ -25,8 +25,8 @@ struct TeamSetup : SetupDialog<SetupTeamsDialog, kDialog> {
   }
   // Adding mode: nothing selected or listed, the next number and group shown.
   [[nodiscard]] bool isReset(const std::string& number, const std::string& group) const {
-    return fields() == "||" + number + "||" + group && !dialog.selection(kTeamList) &&
-           dialog.lineCount(kMemberList) == 0 && dialog.defaultButton() == kAddMember;
+    return fields() == "||" + number + "||" + group && !selection(kTeamList) &&
+           lineCount(kMemberList) == 0 && defaultButton() == kAddMember;
   }
 };
 
@@ -50,24 +50,23 @@ TEST(SetupTeams, TeamsAreTypedInAndGetNumbersForAllTheirSlots) {
   contest.scores[105][0].letter = 'B';  // of a contestant removed long ago
   TeamSetup setup(contest);
   EXPECT_TRUE(setup.isReset("101", "A"));
-  EXPECT_EQ(setup.dialog.focused(), kTeamName);
-  setup.dialog.keys("Elm");
-  setup.dialog.paste(kCoach, "Mr.\tOak");
+  EXPECT_EQ(setup.focused(), kTeamName);
+  setup.keys("Elm");
+  setup.paste(kCoach, "Mr.\tOak");
   setup.addMembers({"Ann", "Ben - B", "Cy", "Dee", "Eve", "Fay"});
   EXPECT_EQ(setup.takeMessage(),
             "This team is full or you need to select a member position from the member list to "
             "update.|Warning");
-  EXPECT_EQ(setup.dialog.lines(kMemberList),
-            (Lines{"101 - Ann   A", "102 - Ben - B   B", "103 - Cy   C", "104 - Dee   D",
-                   "105 - Eve   A (alternate)"}));
+  EXPECT_EQ(setup.lines(kMemberList), (Lines{"101 - Ann   A", "102 - Ben - B   B", "103 - Cy   C",
+                                             "104 - Dee   D", "105 - Eve   A (alternate)"}));
   EXPECT_EQ(setup.fields(), "Elm|Mr.\tOak|106||B");
-  setup.dialog.click(kAddTeam);
+  setup.click(kAddTeam);
   EXPECT_TRUE(setup.isReset("106", "B"));
-  setup.dialog.fill(kTeamName, "ash");
+  setup.fill(kTeamName, "ash");
   setup.addMembers({"Fay", "Gus"});
-  setup.dialog.click(kAddTeam);
-  EXPECT_EQ(setup.dialog.lines(kTeamList), (Lines{"ash", "Elm"}));
-  setup.dialog.click(kNewTeam);  // discards nothing of the team just written
+  setup.click(kAddTeam);
+  EXPECT_EQ(setup.lines(kTeamList), (Lines{"ash", "Elm"}));
+  setup.click(kNewTeam);  // discards nothing of the team just written
   Contest expected = twoTeams();
   for (ContestantNumber n = 101; n <= 107; ++n) expected.scores[n][0] = {};
   for (ContestantNumber n = 108; n <= 110; ++n) expected.contestantGroup.erase(n);
@@ -84,12 +83,12 @@ TEST(SetupTeams, MembersOfAnUnwrittenTeamLeaveAgain) {
     contest.scores[101][0] = {'B', 11, 0, 0};
     TeamSetup setup(contest);
     for (const ControlId button : {kUpdateTeam, kNewTeam}) {
-      setup.dialog.choose(kTeamList, 1);
-      setup.dialog.click(button);
+      setup.choose(kTeamList, 1);
+      setup.click(button);
       setup.addMembers({"Hal", "Ida"});
       EXPECT_TRUE(currentContest().contestantNames.contains(112));
     }
-    leave(setup.dialog);
+    leave(setup);
     EXPECT_EQ(currentContest().contestantNames, contest.contestantNames);
     EXPECT_EQ(currentContest().contestantGroup, contest.contestantGroup);
     EXPECT_EQ(scoreRecord(currentContest(), 101, 0).placingScore, setup.isDone() ? 46 : 11);
@@ -102,30 +101,30 @@ TEST(SetupTeams, AShownTeamIsChangedSlotBySlot) {
   contest.reasonsOrder.reset(10, 2);
   placeGroup(contest, 1, {101, 107, 103});
   TeamSetup setup(contest);
-  setup.dialog.choose(kTeamList, 0);
+  setup.choose(kTeamList, 0);
   EXPECT_EQ(setup.fields(), "ash||||");
   EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kContestantName, kAddMember));
-  setup.dialog.choose(kMemberList, 1);
-  setup.dialog.fill(kNumber, "999");
-  setup.dialog.fill(kGroup, "Z");
+  setup.choose(kMemberList, 1);
+  setup.fill(kNumber, "999");
+  setup.fill(kGroup, "Z");
   EXPECT_EQ(setup.fields(), "ash||107|Gus|C");
-  setup.dialog.choose(kMemberList, 0);
+  setup.choose(kMemberList, 0);
   EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kContestantName, kUpdateMember));
-  setup.dialog.keys("Hal");
-  setup.dialog.pressEnter();
-  setup.dialog.choose(kMemberList, 1);
-  setup.dialog.click(kDeleteMember);
+  setup.keys("Hal");
+  setup.pressEnter();
+  setup.choose(kMemberList, 1);
+  setup.click(kDeleteMember);
   EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kContestantName, kAddMember));
   EXPECT_EQ(setup.fields(), "ash||||");
-  EXPECT_EQ(setup.dialog.lines(kMemberList), (Lines{"106 - Hal   B", "107 -    C", "108 -    D",
-                                                    "109 -    A", "110 -    B (alternate)"}));
-  EXPECT_FALSE(setup.dialog.selection(kMemberList));
+  EXPECT_EQ(setup.lines(kMemberList), (Lines{"106 - Hal   B", "107 -    C", "108 -    D",
+                                             "109 -    A", "110 -    B (alternate)"}));
+  EXPECT_FALSE(setup.selection(kMemberList));
   // What was changed in a written team stays without Update Team.
-  setup.dialog.choose(kTeamList, 1);
+  setup.choose(kTeamList, 1);
   EXPECT_EQ(setup.fields(), "Elm|Mr. Oak|||");
-  setup.dialog.click(kNewTeam);
+  setup.click(kNewTeam);
   EXPECT_TRUE(setup.isReset("111", "C"));
-  EXPECT_EQ(setup.dialog.focused(), kTeamName);
+  EXPECT_EQ(setup.focused(), kTeamName);
   contest.contestantNames[106] = "Hal";
   contest.contestantNames[107] = "";
   contest.reasonsPlace[107] = {};
@@ -136,12 +135,12 @@ TEST(SetupTeams, AShownTeamIsChangedSlotBySlot) {
 TEST(SetupTeams, UpdateTeamRenamesAndKeepsTheCoachOfAnEmptyField) {
   TeamSetup setup(twoTeams());
   const auto rename = [&](int line, const char* name, const char* coach) {
-    setup.dialog.choose(kTeamList, line);
-    setup.dialog.fill(kTeamName, name);
-    setup.dialog.fill(kCoach, coach);
-    setup.dialog.click(kUpdateTeam);
+    setup.choose(kTeamList, line);
+    setup.fill(kTeamName, name);
+    setup.fill(kCoach, coach);
+    setup.click(kUpdateTeam);
     EXPECT_TRUE(setup.isReset("111", "C"));
-    return setup.dialog.lines(kTeamList);
+    return setup.lines(kTeamList);
   };
   EXPECT_EQ(rename(1, "Yew", ""), (Lines{"ash", "Yew"}));
   EXPECT_EQ(currentContest().teams.at("Yew"), twoTeams().teams.at("Elm"));
@@ -155,7 +154,6 @@ TEST(SetupTeams, UpdateTeamRenamesAndKeepsTheCoachOfAnEmptyField) {
 
 TEST(SetupTeams, ButtonsRefuseWhatDoesNotFit) {
   TeamSetup setup(twoTeams());
-  MemoryDialog& dialog = setup.dialog;
   EXPECT_EQ(setup.press(kUpdateMember),
             "A member cannot be updated unless they are selected from the list box.|Error.");
   EXPECT_EQ(setup.press(kDeleteMember),
@@ -164,26 +162,26 @@ TEST(SetupTeams, ButtonsRefuseWhatDoesNotFit) {
             "A team cannot be updated unless it is selected from the list box.|Error.");
   EXPECT_EQ(setup.press(kRemoveTeam), "No Team selected to remove.|Warning");
   EXPECT_EQ(setup.press(kAddMember), "You didn't enter a contestant name!|Warning");
-  dialog.fill(kTeamName, "Elm");
+  setup.fill(kTeamName, "Elm");
   EXPECT_EQ(setup.press(kAddTeam), "That team name has already been used!|Warning");
   setup.addMembers({"Hal"});
-  dialog.choose(kMemberList, 0);
-  dialog.setDefaultButton(kAddMember);
+  setup.choose(kMemberList, 0);
+  setup.setDefaultButton(kAddMember);
   EXPECT_EQ(setup.press(kAddMember), "Once a member is selected you can only update it.|Warning");
   EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kContestantName, kUpdateMember));
-  dialog.setText(kGroup, "AB");
+  setup.setText(kGroup, "AB");
   EXPECT_EQ(setup.press(kUpdateMember), "Invalid, group must be a single letter!|Error");
-  dialog.setText(kGroup, "@");
+  setup.setText(kGroup, "@");
   EXPECT_EQ(setup.press(kUpdateMember), "Invalid group letter, must be between A and Z!|Error");
-  EXPECT_EQ(dialog.line(kMemberList, 0), "111 - Hal   C");
-  dialog.fill(kTeamName, "");
-  dialog.fill(kCoach, "Mr. Fir");
+  EXPECT_EQ(setup.line(kMemberList, 0), "111 - Hal   C");
+  setup.fill(kTeamName, "");
+  setup.fill(kCoach, "Mr. Fir");
   EXPECT_EQ(setup.press(kAddTeam), "You didn't enter a team name!|Warning");
   // The number shown is a new member's now, so no old line may take it.
   EXPECT_EQ(setup.fields(), "||112||D");
-  EXPECT_FALSE(dialog.selection(kMemberList));
+  EXPECT_FALSE(setup.selection(kMemberList));
   EXPECT_EQ(setup.focusAndDefault(), FocusAndDefault(kTeamName, kAddMember));
-  dialog.choose(kTeamList, 0);
+  setup.choose(kTeamList, 0);
   EXPECT_EQ(setup.press(kAddTeam), "Once a team is selected you can only update it.|Error");
   EXPECT_EQ(currentContest().teams, twoTeams().teams);
 }
@@ -194,8 +192,8 @@ TEST(SetupTeams, RemovedTeamsLeaveTheirGroupsAndScores) {
   contest.scores[102][0].letter = 'B';
   TeamSetup setup(contest);
   const auto remove = [&](int line, ContestantNumber number) {
-    setup.dialog.choose(kTeamList, line);
-    setup.dialog.click(kRemoveTeam);
+    setup.choose(kTeamList, line);
+    setup.click(kRemoveTeam);
     EXPECT_TRUE(setup.isReset("104", "D"));
     contest.teams.erase("Team " + std::to_string(number));
     contest.contestantNames.erase(number);
@@ -205,7 +203,7 @@ TEST(SetupTeams, RemovedTeamsLeaveTheirGroupsAndScores) {
   remove(3, 104);
   EXPECT_EQ(currentContest(), contest);
   remove(1, 102);
-  EXPECT_EQ(setup.dialog.lines(kTeamList), (Lines{"Team 101", "Team 103"}));
+  EXPECT_EQ(setup.lines(kTeamList), (Lines{"Team 101", "Team 103"}));
   contest.reasonsPlace[102] = {};
   placeGroup(contest, 0, {101, 103, kNobody, kNobody});
   EXPECT_EQ(currentContest(), contest);
@@ -214,7 +212,7 @@ TEST(SetupTeams, RemovedTeamsLeaveTheirGroupsAndScores) {
   EXPECT_EQ(currentContest(), contest);
   setup.press(kClearAllTeams, Answer::ok);
   EXPECT_TRUE(setup.isReset("101", "A"));
-  EXPECT_EQ(setup.dialog.lineCount(kTeamList), 0);
+  EXPECT_EQ(setup.lineCount(kTeamList), 0);
   contest.teams.clear();
   contest.contestantNames.clear();
   updateNextContestant(contest);

@@ -2,26 +2,25 @@
 // tests that hold scripts and behaviour against each other.
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
 struct TemplateControl {
-  std::string statement;  ///< LTEXT, EDITTEXT, LISTBOX, ...; CONTROL by its window class
-  std::string caption;
+  std::string statement;  ///< LTEXT, EDITTEXT, LISTBOX, ...
+  std::string caption;    ///< with its "&"
   int id = -1;
   std::string styles;  ///< everything after the position, as written
-  int x = 0, y = 0, width = 0, height = 0;
+
+  [[nodiscard]] bool has(const char* style) const {
+    return styles.find(style) != std::string::npos;
+  }
 };
 
 struct DialogTemplate {
-  int id = 0;
-  std::string name;  ///< the resource's name as written, also when it is a number
   std::string caption;
-  int width = 0, height = 0;
   std::vector<TemplateControl> controls;  ///< in tab order
 };
 
-/// All DIALOGEX templates of src/**/*.rc.
-const std::vector<DialogTemplate>& dialogTemplates();
-/// The template of a resource id; null when no script declares it.
-const DialogTemplate* findDialogTemplate(int id);
+/// The dialogs of src/**/*.rc, one a script, by name or number as written there.
+const std::map<std::string, DialogTemplate>& dialogTemplates();

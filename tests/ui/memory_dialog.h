@@ -4,6 +4,8 @@
 // not answer the operator.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <deque>
 #include <map>
 #include <optional>
@@ -12,7 +14,9 @@
 #include <utility>
 #include <vector>
 
+#include "tests/ui/dialog_template.h"
 #include "ui/dialog.h"
+#include "ui/unsigned_number.h"
 
 /// Message boxes and file dialogs, recorded and answered from a script.
 struct ScriptedDesktop {
@@ -27,42 +31,41 @@ struct ScriptedDesktop {
   std::string takeMessage();
 };
 
-/// A window without a dialog, for operations that only need an owner.
-class MemoryWindow : public Window {
+/// A port to the desktop whose boxes are scripted, and which expects to run no dialog.
+template <typename Port>
+class Scripted : public Port {
  public:
   ScriptedDesktop desktop;
+
   Answer ask(const Message& message) override { return desktop.ask(message); }
   std::optional<std::string> chooseFile(const FileQuestion& question) override {
     return desktop.chooseFile(question);
   }
-  int runDialog(int resourceId, DialogBehaviour& behaviour) override;
+  int runDialog(int resourceId, DialogBehaviour& /*behaviour*/) override {
+    ADD_FAILURE() << "unexpected dialog " << resourceId;
+    return 0;
+  }
 };
 
-class MemoryDialog : public Dialog {
+/// A window without a dialog, for operations that only need an owner.
+using MemoryWindow = Scripted<Window>;
+
+class MemoryDialog : public Scripted<Dialog> {
  public:
   /// A control as the resource script declares it and as it stands now.
-  struct Control {
-    enum class Kind { edit, button, checkBox, radioButton, list, combo, text, group };
-    Kind kind = Kind::text;
-    std::string caption;  ///< text in the resource script, with its "&"
-    bool digitsOnly = false;
-    bool upperCase = false;
-    bool readOnly = false;
-    bool sorted = false;
-    bool multiple = false;
+  struct Control : TemplateControl {
+    std::string text;
     bool enabled = true;
     bool checked = false;
-    std::string text;
-    bool marked = false;  ///< the whole text is selected
-    std::vector<std::string> lines;
-    std::vector<bool> selected;
-    int topLine = 0;
+    bool marked = false;                              ///< the whole text is selected
+    std::vector<std::pair<std::string, bool>> lines;  ///< with whether they are selected
+
+    [[nodiscard]] bool isEdit() const { return statement == "EDITTEXT"; }
+    [[nodiscard]] bool isList() const { return statement == "LISTBOX" || statement == "COMBOBOX"; }
   };
 
-  /// The dialog of a resource id (fails the test when no script declares it), opened at once.
+  /// The dialog of a resource id, opened at once.
   MemoryDialog(int resourceId, DialogBehaviour& behaviour);
-
-  ScriptedDesktop desktop;
 
   // What the operator does. An event reaches the behaviour as it would from a real control.
   /// Presses keys one by one, each in the control that then has the focus.
@@ -77,64 +80,60 @@ class MemoryDialog : public Dialog {
   void choose(ControlId id, int line);
   /// Enter: the focused button, else the default button, else kOkId.
   void pressEnter();
-  void pressEscape();
+  void pressEscape() { raise(kCancelId, ControlEvent::clicked); }
   void pressCloseBox();
 
   // What the dialog shows.
-  [[nodiscard]] const Control& control(ControlId id) const;
   [[nodiscard]] const std::map<ControlId, Control>& controls() const { return controls_; }
   [[nodiscard]] const std::string& caption() const { return caption_; }
-  [[nodiscard]] std::vector<std::string> lines(ControlId id) const { return control(id).lines; }
+  [[nodiscard]] std::vector<std::string> lines(ControlId id) const;
   [[nodiscard]] bool isEnabled(ControlId id) const { return control(id).enabled; }
   [[nodiscard]] ControlId focused() const { return focused_; }
   [[nodiscard]] ControlId defaultButton() const { return defaultButton_; }
+  /// The lists that scroll together.
+  [[nodiscard]] const std::vector<ControlId>& linkedLists() const { return linkedLists_; }
   /// The result the dialog ended with; nothing while it is open.
   [[nodiscard]] std::optional<int> result() const { return result_; }
 
   // Dialog, as the behaviour uses it.
-  Answer ask(const Message& message) override { return desktop.ask(message); }
-  std::optional<std::string> chooseFile(const FileQuestion& question) override {
-    return desktop.chooseFile(question);
-  }
-  int runDialog(int resourceId, DialogBehaviour& behaviour) override;
-  [[nodiscard]] std::string text(ControlId id) const override;
+  [[nodiscard]] std::string text(ControlId id) const override { return control(id).text; }
   void setText(ControlId id, std::string_view text) override;
-  [[nodiscard]] std::optional<std::uint32_t> number(ControlId id) const override;
-  [[nodiscard]] bool isChecked(ControlId id) const override;
-  void setChecked(ControlId id, bool checked) override;
+  [[nodiscard]] std::optional<std::uint32_t> number(ControlId id) const override {
+    return unsignedNumber(text(id));
+  }
+  [[nodiscard]] bool isChecked(ControlId id) const override { return control(id).checked; }
+  void setChecked(ControlId id, bool checked) override { control(id).checked = checked; }
   [[nodiscard]] int lineCount(ControlId id) const override;
   [[nodiscard]] std::string line(ControlId id, int index) const override;
   int addLine(ControlId id, std::string_view line) override;
   void insertLine(ControlId id, int index, std::string_view line) override;
   void removeLine(ControlId id, int index) override;
-  void clearLines(ControlId id) override;
+  void clearLines(ControlId id) override { control(id).lines.clear(); }
   void setLines(ControlId id, const std::vector<std::string>& lines) override;
   [[nodiscard]] std::optional<int> selection(ControlId id) const override;
   void select(ControlId id, std::optional<int> index) override;
   [[nodiscard]] std::vector<int> selections(ControlId id) const override;
   void setSelected(ControlId id, int index, bool selected) override;
-  [[nodiscard]] int topLine(ControlId id) const override;
-  void setTopLine(ControlId id, int index) override;
-  void linkScrolling(std::vector<ControlId> ids) override {
-    linkedLists_.push_back(std::move(ids));
-  }
-  void setEnabled(ControlId id, bool enabled) override;
+  void linkScrolling(std::vector<ControlId> ids) override { linkedLists_ = std::move(ids); }
+  void setEnabled(ControlId id, bool enabled) override { control(id).enabled = enabled; }
   void focus(ControlId id) override;
-  void selectText(ControlId id) override;
-  void setDefaultButton(ControlId id) override;
+  void selectText(ControlId id) override { control(id).marked = !text(id).empty(); }
+  void setDefaultButton(ControlId id) override { defaultButton_ = control(id).id; }
   void end(int result) override { result_ = result; }
 
  private:
-  Control* find(ControlId id);
-  [[nodiscard]] const Control* find(ControlId id) const;
+  // An id that the dialog does not have fails the test.
+  [[nodiscard]] const Control& control(ControlId id) const;
+  Control& control(ControlId id) { return const_cast<Control&>(std::as_const(*this).control(id)); }
+  [[nodiscard]] bool hasLine(ControlId id, int i) const { return i >= 0 && i < lineCount(id); }
+  [[nodiscard]] bool takesKeys(ControlId id) const;
   void raise(ControlId id, ControlEvent event);
-  void replaceText(ControlId id, std::string text);
 
   DialogBehaviour& behaviour_;
   std::string caption_;
   std::map<ControlId, Control> controls_;
-  std::vector<std::vector<ControlId>> linkedLists_;
+  std::vector<ControlId> linkedLists_;
   ControlId focused_ = 0;
-  ControlId defaultButton_ = 0;
+  ControlId defaultButton_ = kOkId;
   std::optional<int> result_;
 };
