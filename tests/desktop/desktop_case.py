@@ -10,10 +10,10 @@ import unittest
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools" / "desktop"))
 
 import private_cups  # noqa: E402
-from desktop import (BUILD, IDCANCEL, IDNO, IDOK, IDYES, NATIVE, ROOT, VK, Desktop, wait_for,  # noqa: E402
+from desktop import (BUILD, IDCANCEL, IDNO, IDOK, IDYES, NATIVE, ROOT, Desktop, wait_for,  # noqa: E402
                      windows_path)
 
-__all__ = ["BUILD", "IDCANCEL", "IDNO", "IDOK", "IDYES", "ROOT", "VK", "Desktop", "DesktopTest",
+__all__ = ["BUILD", "IDCANCEL", "IDNO", "IDOK", "IDYES", "NATIVE", "ROOT", "Desktop", "DesktopTest",
            "private_cups", "wait_for", "windows_path"]
 
 

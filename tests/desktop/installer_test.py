@@ -34,10 +34,11 @@ class InstallerTest(DesktopTest):
     def setup(self, *options):
         return self.desktop.wine(SETUP, "/S", *options, check=False).returncode
 
-    def install(self, who):
+    def install(self, who, folder=None):
         """Installs for this test, /CurrentUser or /AllUsers; gives the folder."""
-        folder = self.for_all if who == "/AllUsers" else self.programs
-        self.assertEqual(self.setup(who), 0)
+        named = [f"/D=C:\\{folder.name}"] if folder else []
+        folder = folder or (self.for_all if who == "/AllUsers" else self.programs)
+        self.assertEqual(self.setup(who, *named), 0)
         self.addCleanup(self.uninstall, folder)
         return folder
 
@@ -48,14 +49,6 @@ class InstallerTest(DesktopTest):
             root = "HKLM" if folder == self.for_all else "HKCU"
             wait_for(lambda: self.desktop.wine("reg", "query", root + r"\Software\Scorvane",
                                                check=False).returncode, "the uninstaller to finish")
-
-    def start_installed(self, folder):
-        app = self.desktop.start(program=folder / "scorvane.exe")
-        self.addCleanup(app.close)
-        return app
-
-    def windows_programs(self):
-        return "C:\\" + str(self.programs.relative_to(self.drive)).replace("/", "\\")
 
     def files(self):
         return {file for root in (self.drive, self.documents) for file in root.rglob("*")
@@ -71,8 +64,8 @@ class InstallerTest(DesktopTest):
     def test_for_one_user_and_uninstalled_again(self):
         before = self.files()
         self.install("/CurrentUser")
-        self.assertIn("    (Default)    REG_SZ    "
-                      rf'"{self.windows_programs()}\scorvane.exe" "%1"', self.registered())
+        programs = str(self.programs.relative_to(self.drive)).replace("/", "\\")
+        self.assertIn(rf'    (Default)    REG_SZ    "C:\{programs}\scorvane.exe" "%1"', self.registered())
         installed = {str(file.relative_to(self.programs)) for file in self.programs.iterdir()}
         self.assertEqual(installed, {
             "scorvane.exe", "scorvane-report.exe", "ScorvaneUsersManual.htm", "LICENSE.txt",
@@ -107,11 +100,11 @@ class InstallerTest(DesktopTest):
         self.assertTrue(any("Scorvane Help" in file.name for file in self.drive.glob(
             "ProgramData/Microsoft/Windows/Start Menu/Programs/Scorvane/*")))
         # Whoever has both kinds loses only the one that is uninstalled.
-        self.install("/CurrentUser")
+        named = self.install("/CurrentUser", self.drive / "Fairs")
         self.uninstall(self.for_all)
-        self.assertTrue((self.programs / "scorvane.exe").exists())
+        self.assertTrue((named / "scorvane.exe").exists())
         self.assertTrue(self.menu.exists())
-        self.uninstall(self.programs)
+        self.uninstall(named)
         self.assertEqual(self.files() - before, set())
         self.assertEqual(self.registered(), [])
 
@@ -128,20 +121,12 @@ class InstallerTest(DesktopTest):
         self.assertEqual(self.setup("/AllUsers"), RUNNING)
         self.assertEqual(app.tell("exit_code"), ["running"])
 
-    def test_into_a_folder_named(self):
-        before = self.files()
-        self.assertEqual(self.setup("/CurrentUser", r"/D=C:\Fairs"), 0)
-        folder = self.drive / "Fairs"
-        self.addCleanup(self.uninstall, folder)
-        self.assertTrue((folder / "scorvane.exe").exists())
-        self.uninstall(folder)
-        self.assertEqual(self.files() - before, set())
-
-    def test_the_file_dialog_starts_in_documents(self):
+    def test_files_start_in_documents_and_help_opens_in_the_browser_or_says_where_it_is(self):
         folder = self.install("/CurrentUser")
         shutil.copy(ROOT / "samples" / "county.scv", self.documents / "mine.scv")
         self.addCleanup((self.documents / "mine.scv").unlink)
-        app = self.start_installed(folder)
+        app = self.desktop.start(program=folder / "scorvane.exe")
+        self.addCleanup(app.close)
         main = app.main()
         main.command(OPEN)
         box = app.window()
@@ -151,15 +136,13 @@ class InstallerTest(DesktopTest):
                                                " - Tallgrass County Fair Judging Contest"),
                  "the contest of the Documents folder")
 
-    def test_help_opens_in_the_browser_or_says_where_it_is(self):
-        folder = self.install("/CurrentUser")
         asked = self.folder / "asked"
         browser = self.folder / "browser.bat"
         browser.write_text(f"@echo %1>{windows_path(asked)}\n")
-        self.desktop.registry(r"HKLM\Software\Classes\http\shell\open\command", "", "REG_SZ",
-                              f'"{windows_path(browser)}" "%1"')
-        app = self.start_installed(folder)
-        app.main().command(HELP)
+        opening = r"HKLM\Software\Classes\http\shell\open\command"
+        self.desktop.registry(opening, "", "REG_SZ", f'"{windows_path(browser)}" "%1"')
+        self.addCleanup(self.desktop.wine, "reg", "delete", opening, "/f")
+        main.command(HELP)
         page = wait_for(lambda: asked.exists() and asked.read_text().strip(), "the browser")
         unix = subprocess.run(["winepath", "-u", page.strip('"')], env=self.desktop.environment,
                               stdout=subprocess.PIPE, check=True, text=True).stdout.strip()
@@ -167,7 +150,7 @@ class InstallerTest(DesktopTest):
         self.assertTrue(manual.samefile(unix), page)
 
         manual.unlink()
-        app.main().command(HELP)
+        main.command(HELP)
         self.assertEqual(app.answer(caption="Error"), NO_HELP)
 
 
