@@ -52,7 +52,7 @@ std::string contestPath(std::string_view commandLine) {
   } else {
     commandLine = commandLine.substr(0, commandLine.find_last_not_of(kBlanks) + 1);
   }
-  return std::string(commandLine.substr(0, kMaxPathLength));
+  return std::string(commandLine);
 }
 
 void openContestOfCommandLine(MainWindow& window, std::string_view commandLine) {
@@ -61,7 +61,7 @@ void openContestOfCommandLine(MainWindow& window, std::string_view commandLine) 
 }
 
 void openContestFile(MainWindow& window, const std::string& path) {
-  currentFileName() = path.substr(0, kMaxPathLength);
+  currentFileName() = path;
   if (!loadContest(window, true)) {
     newContestCommand(window);
     return;

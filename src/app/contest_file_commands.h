@@ -19,13 +19,14 @@ void showContestTitle(MainWindow& window);
 void prepareContest();
 
 /// The path that a command line names: without the quotes around it, or else all of it, blanks
-/// inside included. "" when it names none; at most kMaxPathLength bytes.
+/// inside included. "" when it names none.
 [[nodiscard]] std::string contestPath(std::string_view commandLine);
 
 /// Opens the contest that the command line names, if it names one.
 void openContestOfCommandLine(MainWindow& window, std::string_view commandLine);
 
-/// Opens a contest file; a new contest, after a message, when it cannot be read.
+/// Opens a contest file; a new contest, after a message, when it cannot be read. A path of more
+/// than kMaxPathLength bytes is refused: cut, it could be another file's.
 void openContestFile(MainWindow& window, const std::string& path);
 
 // The commands.

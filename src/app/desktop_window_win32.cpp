@@ -5,8 +5,6 @@
 #include <commdlg.h>
 #include <shellapi.h>
 
-#include <array>
-
 #include "app/clipboard_win32.h"
 #include "app/command_table.h"
 #include "app/contest_file_commands.h"
@@ -62,12 +60,13 @@ std::optional<std::intptr_t> DesktopWindow::handle(unsigned message, std::uintpt
 
 void DesktopWindow::openDroppedFile(std::uintptr_t drop) {
   auto* files = reinterpret_cast<HDROP>(drop);
-  std::array<char, kMaxPathLength + 1> path{};
-  const UINT length = DragQueryFileA(files, 0, path.data(), static_cast<UINT>(path.size()));
+  // One byte more for the NUL that ends it.
+  std::string path(DragQueryFileA(files, 0, nullptr, 0) + 1, '\0');
+  path.resize(DragQueryFileA(files, 0, path.data(), static_cast<UINT>(path.size())));
   DragFinish(files);
-  if (length == 0 || IsWindowEnabled(window_) == FALSE) return;
+  if (path.empty() || IsWindowEnabled(window_) == FALSE) return;
   SetForegroundWindow(window_);
-  openContestFile(*this, path.data());
+  openContestFile(*this, path);
 }
 
 void DesktopWindow::changeResolution(std::intptr_t suggestedPlace) {

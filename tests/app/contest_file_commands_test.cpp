@@ -54,6 +54,10 @@ TEST(ContestFileCommands, TellOfOneAfternoonAsApproved) {
   }
   step("named", [&] { openContestOfCommandLine(window, "\"" + path + "\""); });
   step("missing", [&] { openContestOfCommandLine(window, "nowhere.scv"); });
+  // Cut to the longest path there is, this would be the name of the contest.
+  const std::string slashes(kMaxPathLength - path.size(), '/');
+  step("too long", [&] { openContestOfCommandLine(window, slashes + path + "x"); });
+  log.erase(log.find(slashes), slashes.size());
   for (std::size_t at; (at = log.find(folder.path())) != std::string::npos;) {
     log.replace(at, folder.path().size(), "FOLDER");
   }
