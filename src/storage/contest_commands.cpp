@@ -1,6 +1,8 @@
 #include "storage/contest_commands.h"
 
+#include <functional>
 #include <optional>
+#include <string_view>
 #include <utility>
 #include <variant>
 
@@ -29,6 +31,52 @@ constexpr const char* kNotSaved =
     "Perhaps you previously saved to removable media like a thumb drive.\r\n"
     "Select File->Save As and save your file to another location.\r\n"
     "Again, your file did NOT save!  Please use File->Save As to ensure your work is saved.\r\n";
+
+/// What a file held when this program last read or wrote it.
+struct KnownContent {
+  std::string path;
+  std::size_t hash = 0;
+};
+
+KnownContent& knownContent() {
+  static KnownContent known;
+  return known;
+}
+
+std::size_t hashOf(std::string_view bytes) {
+  return std::hash<std::string_view>()(bytes);
+}
+
+/// Whether saving would take away what somebody else has put into the current file meanwhile, such
+/// as a second copy of the program with the same contest.
+bool holdsForeignChanges(std::string_view ownBytes) {
+  if (knownContent().path != currentFileName()) return false;
+  const std::optional<std::string> found = systemFiles().readWhole(currentFileName());
+  return found && hashOf(*found) != knownContent().hash && *found != ownBytes;
+}
+
+enum class ForeignChanges { keep, replace };
+enum class Saving { done, failed, wouldLoseForeignChanges };
+
+// No other copy of the program can save between the look at the file and its replacement.
+Saving save(std::string_view bytes, ForeignChanges foreignChanges) {
+  const auto turn = systemFiles().takeTurn(currentFileName());
+  if (foreignChanges == ForeignChanges::keep && holdsForeignChanges(bytes)) {
+    return Saving::wouldLoseForeignChanges;
+  }
+  if (!saveSafely(systemFiles(), currentFileName(), bytes)) return Saving::failed;
+  knownContent() = {currentFileName(), hashOf(bytes)};
+  return Saving::done;
+}
+
+bool agreesToReplaceForeignChanges(Window& owner) {
+  return owner.confirm(formatText(
+      "Another program has changed this file since you opened or last saved it:\r\n"
+      "%s\r\n"
+      "OK saves your contest there, and the other changes are lost.\r\n"
+      "Cancel does NOT save it.  Use File->Save As to save your contest under another name.\r\n",
+      currentFileName().c_str()));
+}
 
 void startNewContest() {
   resetContest();
@@ -87,7 +135,14 @@ void saveContest(Window& owner, bool askForName) {
     currentFileName() = std::move(*path);
   }
   Contest& contest = currentContest();
-  if (!saveSafely(systemFiles(), currentFileName(), writeContest(contest))) {
+  const std::string bytes = writeContest(contest);
+  // Whoever has just chosen a name has chosen to replace what it stands for.
+  Saving saving = save(bytes, askForName ? ForeignChanges::replace : ForeignChanges::keep);
+  if (saving == Saving::wouldLoseForeignChanges) {
+    if (!agreesToReplaceForeignChanges(owner)) return;
+    saving = save(bytes, ForeignChanges::replace);
+  }
+  if (saving == Saving::failed) {
     owner.show(kNotSaved, "File Save Error");
     return;
   }
@@ -115,5 +170,6 @@ bool loadContest(Window& owner, bool useGivenPath) {
     return false;
   }
   currentContest() = std::get<Contest>(std::move(reading));
+  knownContent() = {currentFileName(), hashOf(*bytes)};
   return true;
 }

@@ -14,8 +14,10 @@
 void resetContest();
 
 /// Writes the contest to the current file, or, with `askForName`, to a file the operator chooses;
-/// the name is forgotten before asking, so a cancelled choice leaves the contest untitled. A save
-/// that fails leaves the old file whole and shows a message ("File Save Error").
+/// the name is forgotten before asking, so a cancelled choice leaves the contest untitled. When
+/// somebody else has changed the current file since it was read or written here, the operator is
+/// asked before it is replaced. A save that fails leaves the old file whole and shows a message
+/// ("File Save Error").
 void saveContest(Window& owner, bool askForName);
 
 /// Saves to the current file; asks for a name when the contest is untitled.

@@ -75,9 +75,17 @@ class FileSystem {
   /// Removes a file. A file that stays is no harm to any caller, so nothing is reported.
   virtual void remove(const std::string& path) = 0;
 
-  /// A name in the folder of `path` that no other process makes; another one for each attempt.
-  [[nodiscard]] virtual std::string temporaryName(const std::string& path, int attempt) = 0;
+  enum class Place { beside, temporaryFolder };
+  /// A name beside `path`, or in the folder for temporary files, that no other process makes;
+  /// another one for each attempt.
+  [[nodiscard]] virtual std::string temporaryName(const std::string& path, Place place,
+                                                  int attempt) = 0;
   virtual void pause(int milliseconds) = 0;
+
+  /// Keeps other copies of the program on this machine from taking a turn for the same path until
+  /// the result is destroyed. Waits for five seconds at most: a turn that cannot be had is no
+  /// reason not to save.
+  [[nodiscard]] virtual std::shared_ptr<void> takeTurn(const std::string& path) = 0;
 };
 
 /// Larger files are not read: no contest comes near, and a device without end must not hang.

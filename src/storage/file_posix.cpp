@@ -1,4 +1,5 @@
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -6,6 +7,7 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
+#include <filesystem>
 #include <limits>
 #include <thread>
 
@@ -121,6 +123,17 @@ std::optional<std::string> linkTarget(const std::string& path) {
   return target.starts_with('/') ? target : folderOf(path) + "/" + target;
 }
 
+/// A folder that may be locked. It is unlocked before it is closed, as it is left open to the
+/// system whether closing that fails closes.
+struct Turn {
+  explicit Turn(int number) : folder(number) {}
+  Turn(const Turn&) = delete;
+  Turn& operator=(const Turn&) = delete;
+  ~Turn() { ::flock(folder.number(), LOCK_UN); }
+
+  Descriptor folder;
+};
+
 class PosixFileSystem : public FileSystem {
  public:
   std::optional<std::string> readWhole(const std::string& path) override {
@@ -193,13 +206,29 @@ class PosixFileSystem : public FileSystem {
 
   void remove(const std::string& path) override { static_cast<void>(::unlink(path.c_str())); }
 
-  std::string temporaryName(const std::string& path, int attempt) override {
-    return folderOf(path) + "/~scorvane-" + std::to_string(::getpid()) + "-" +
-           std::to_string(attempt) + ".tmp";
+  std::string temporaryName(const std::string& path, Place place, int attempt) override {
+    std::error_code ignored;
+    const std::string folder = place == Place::beside
+                                   ? folderOf(path)
+                                   : std::filesystem::temp_directory_path(ignored).string();
+    return folder + "/~scorvane-" + std::to_string(::getpid()) + "-" + std::to_string(attempt) +
+           ".tmp";
   }
 
   void pause(int milliseconds) override {
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+  }
+
+  // The folder is locked and not the file, which every save replaces by another one.
+  std::shared_ptr<void> takeTurn(const std::string& path) override {
+    auto turn =
+        std::make_shared<Turn>(::open(folderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    constexpr int kMostAttempts = 500;
+    for (int i = 0; i < kMostAttempts; ++i) {
+      if (::flock(turn->folder.number(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) break;
+      pause(10);
+    }
+    return turn;
   }
 };
 

@@ -1,6 +1,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <array>
 #include <vector>
 
 #include "storage/file.h"
@@ -85,6 +86,13 @@ std::string folderOf(const std::string& path) {
   const std::size_t slash = path.find_last_of("\\/");
   if (slash != std::string::npos) return path.substr(0, slash + 1);
   return path.size() >= 2 && path[1] == ':' ? path.substr(0, 2) : std::string();
+}
+
+/// With the backslash that ends it.
+std::string temporaryFolder() {
+  std::array<wchar_t, MAX_PATH + 1> folder{};
+  const DWORD length = GetTempPathW(static_cast<DWORD>(folder.size()), folder.data());
+  return narrow({folder.data(), std::min<std::size_t>(length, MAX_PATH)});
 }
 
 class WindowsOutputFile : public OutputFile {
@@ -234,12 +242,23 @@ class WindowsFileSystem : public FileSystem {
 
   void remove(const std::string& path) override { DeleteFileW(systemPath(path).c_str()); }
 
-  std::string temporaryName(const std::string& path, int attempt) override {
-    return folderOf(path) + "~scorvane-" + std::to_string(GetCurrentProcessId()) + "-" +
-           std::to_string(attempt) + ".tmp";
+  std::string temporaryName(const std::string& path, Place place, int attempt) override {
+    return (place == Place::beside ? folderOf(path) : temporaryFolder()) + "~scorvane-" +
+           std::to_string(GetCurrentProcessId()) + "-" + std::to_string(attempt) + ".tmp";
   }
 
   void pause(int milliseconds) override { Sleep(static_cast<DWORD>(milliseconds)); }
+
+  // One turn for all paths, as one file has many names. Windows ends the turn of a killed program.
+  std::shared_ptr<void> takeTurn(const std::string& /*path*/) override {
+    constexpr DWORD kPatience = 5000;
+    std::shared_ptr<void> turn(CreateMutexA(nullptr, FALSE, "Scorvane saves"), [](HANDLE mutex) {
+      ReleaseMutex(mutex);
+      CloseHandle(mutex);
+    });
+    WaitForSingleObject(turn.get(), kPatience);
+    return turn;
+  }
 };
 
 }  // namespace

@@ -13,11 +13,12 @@ struct Spare {
   std::string path;
 };
 
-/// Writes a complete, flushed file beside the target, or leaves nothing there.
-Spare writeBeside(FileSystem& files, const std::string& target, std::string_view bytes) {
+/// Writes a complete, flushed copy beside the target or elsewhere, or leaves nothing there.
+Spare writeSpare(FileSystem& files, const std::string& target, FileSystem::Place place,
+                 std::string_view bytes) {
   constexpr int kAttempts = 100;
   for (int attempt = 1; attempt <= kAttempts; ++attempt) {
-    Spare spare{FileOutcome::failed, files.temporaryName(target, attempt)};
+    Spare spare{FileOutcome::failed, files.temporaryName(target, place, attempt)};
     FileSystem::Opened opened = files.create(spare.path);
     if (opened.outcome == FileOutcome::exists) continue;
     spare.outcome = opened.outcome;
@@ -77,14 +78,17 @@ bool saveSafely(FileSystem& files, const std::string& path, std::string_view byt
   const std::optional<FileFacts> facts = files.facts(*target);
   if (!facts || (facts->exists && (!facts->isRegular || facts->isReadOnly))) return false;
 
-  const Spare spare = writeBeside(files, *target, bytes);
+  Spare spare = writeSpare(files, *target, FileSystem::Place::beside, bytes);
+  bool mayReplace = !facts->hasOtherNames;
   if (spare.outcome == FileOutcome::denied && facts->exists) {
-    return writeInPlace(files, *target, bytes) == InPlace::saved;
+    // A program killed while it writes in place must leave a whole copy somewhere.
+    spare = writeSpare(files, *target, FileSystem::Place::temporaryFolder, bytes);
+    mayReplace = false;
   }
   if (spare.outcome != FileOutcome::done) return false;
 
   FileOutcome outcome = FileOutcome::denied;
-  if (!facts->hasOtherNames) outcome = replacePatiently(files, spare.path, *target);
+  if (mayReplace) outcome = replacePatiently(files, spare.path, *target);
   if (outcome == FileOutcome::done) return true;
   InPlace result = InPlace::oldKept;
   if (outcome == FileOutcome::denied && facts->exists) {

@@ -113,4 +113,35 @@ TEST_F(ContestCommands, SavesToTheCurrentFileOrAsksForOneOrSaysThatItCouldNot) {
   EXPECT_TRUE(currentContest().categories.empty());
 }
 
+// Two copies of the program with one contest: what one has saved is not silently taken away by the
+// other.
+TEST_F(ContestCommands, AsksBeforeItReplacesWhatAnotherProgramSaved) {
+  currentContest().settings.contestName = "Ours";
+  const std::string ours = replaced(smallFile(), "County Fair", "Ours");
+  const std::string theirs = replaced(smallFile(), "County Fair", "Theirs");
+  makeFile(path, theirs);
+  window.desktop.answers = {Answer::cancel, Answer::ok};
+  saveCurrent(window);
+  EXPECT_EQ(contentOf(path), theirs);
+  ASSERT_EQ(window.desktop.messages.size(), 1U);
+  EXPECT_EQ(window.desktop.messages[0].caption, "Warning");
+  EXPECT_EQ(window.desktop.messages[0].defaultAnswer, Answer::cancel);
+  EXPECT_NE(window.desktop.messages[0].text.find(path), std::string::npos);
+  saveCurrent(window);
+  EXPECT_EQ(contentOf(path), ours);
+  EXPECT_EQ(window.desktop.messages.size(), 2U);
+
+  // Nothing is lost where the file is gone, holds the very same, or has just been chosen.
+  std::filesystem::remove(path);
+  saveCurrent(window);
+  makeFile(path, theirs);
+  window.desktop.files = {path};
+  saveContest(window, true);
+  currentContest().settings.contestName = "Theirs";
+  makeFile(path, theirs);
+  saveCurrent(window);
+  EXPECT_EQ(contentOf(path), theirs);
+  EXPECT_EQ(window.desktop.messages.size(), 2U);
+}
+
 }  // namespace

@@ -19,7 +19,7 @@ class MemoryFiles : public FileSystem {
   int failingCall = 0;      ///< the operation, counted from 1, that fails; 0 for none
   bool stayBroken = false;  ///< all operations after it fail too, except that files still vanish
   FileOutcome failure = FileOutcome::failed;
-  bool folderIsProtected = false;  ///< no file can be made, removed or renamed
+  bool folderIsProtected = false;  ///< no file of the folder can be made, removed or renamed
   int deniedReplacings = 0;        ///< how often another program is in the way
   bool hasOtherNames = false;
   std::size_t room = 1U << 20;  ///< bytes on the disk
@@ -40,7 +40,7 @@ class MemoryFiles : public FileSystem {
   }
   Opened create(const std::string& path) override {
     if (fails()) return {failure, nullptr};
-    if (folderIsProtected) return {FileOutcome::denied, nullptr};
+    if (isProtected(path)) return {FileOutcome::denied, nullptr};
     if (files.contains(path)) return {FileOutcome::exists, nullptr};
     files[path] = {"", false};
     return {FileOutcome::done, std::make_unique<Output>(*this, files[path], true)};
@@ -51,19 +51,20 @@ class MemoryFiles : public FileSystem {
   }
   FileOutcome replace(const std::string& from, const std::string& to) override {
     if (fails()) return failure;
-    if (folderIsProtected || deniedReplacings-- > 0) return FileOutcome::denied;
+    if (isProtected(to) || deniedReplacings-- > 0) return FileOutcome::denied;
     replacedUnflushed = replacedUnflushed || !files[from].isFlushed;
     files[to] = files[from];
     files.erase(from);
     return FileOutcome::done;
   }
   void remove(const std::string& path) override {
-    if ((!fails() || stayBroken) && !folderIsProtected) files.erase(path);
+    if ((!fails() || stayBroken) && !isProtected(path)) files.erase(path);
   }
-  std::string temporaryName(const std::string& path, int attempt) override {
-    return path + "." + std::to_string(attempt);
+  std::string temporaryName(const std::string& path, Place place, int attempt) override {
+    return (place == Place::beside ? path : "temporary/" + path) + "." + std::to_string(attempt);
   }
   void pause(int /*milliseconds*/) override {}
+  std::shared_ptr<void> takeTurn(const std::string& /*path*/) override { return nullptr; }
 
  private:
   class Output final : public OutputFile {
@@ -109,6 +110,9 @@ class MemoryFiles : public FileSystem {
     std::size_t position_ = 0;
   };
 
+  [[nodiscard]] bool isProtected(const std::string& path) const {
+    return folderIsProtected && !path.starts_with("temporary/");
+  }
   /// Counts one more operation; whether it is to fail.
   bool fails() {
     ++calls;

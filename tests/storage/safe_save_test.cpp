@@ -26,7 +26,8 @@ constexpr void (*kMoods[])(MemoryFiles&) = {
 
 // After one failure the name stands for the whole old or the whole new content, success is only
 // told of the new one, and nothing is left beside it. Where the disk stays broken, a complete copy
-// of the new content stands beside a file that could not be put right.
+// of the new content stands beside a file that could not be put right, or else among the temporary
+// files.
 void expectNothingLost(MemoryFiles& disk, bool saved, const std::string& bytes) {
   EXPECT_FALSE(disk.replacedUnflushed);
   EXPECT_TRUE(saved || disk.calls >= disk.failingCall);
@@ -37,8 +38,8 @@ void expectNothingLost(MemoryFiles& disk, bool saved, const std::string& bytes) 
   } else if (!disk.stayBroken) {
     EXPECT_EQ(content, kOld);
     EXPECT_EQ(disk.files.size(), 1U);
-  } else if (content != kOld && content != bytes && !disk.folderIsProtected) {
-    EXPECT_EQ(disk.files["a.scv.1"].content, bytes);
+  } else if (content != kOld && content != bytes) {
+    EXPECT_EQ(disk.files[disk.folderIsProtected ? "temporary/a.scv.1" : "a.scv.1"].content, bytes);
   }
 }
 

@@ -78,7 +78,7 @@ def squeezed(text):
 def unquoted(literals):
     """The text of one or more C++ string literals side by side."""
     text = "".join(re.findall(r'"((?:[^"\\\n]|\\.)*)"', literals))
-    return re.sub(r"\\(.)", lambda m: {"n": "\n", "t": "\t"}.get(m[1], m[1]), text)
+    return re.sub(r"\\(.)", lambda m: {"n": "\n", "t": "\t", "r": "\r"}.get(m[1], m[1]), text)
 
 
 def link_faults(page):
