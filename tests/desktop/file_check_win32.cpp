@@ -94,6 +94,20 @@ void checkLongPath(const std::string& folder) {
   check(save(path, kOld) && save(path, kNew) && contentOf(path) == kNew, "the longest path");
 }
 
+// Windows forbids names with control characters and nine more; of the bytes it allows none may
+// fail.
+void checkNames(const std::string& folder) {
+  constexpr int kForbidden = 31 + 9;
+  int saved = 0;
+  for (int byte = 1; byte <= 255; ++byte) {
+    const std::string path = folder + "\\n" + std::string(1, static_cast<char>(byte)) + "n.scv";
+    if (!save(path, kOld)) continue;
+    check(contentOf(path) == kOld, "a name that was saved to");
+    ++saved;
+  }
+  check(saved >= 255 - kForbidden, "every byte in file names");
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -108,6 +122,7 @@ int main(int count, char** arguments) {
   checkHardLinks(folder);
   checkFilesInUse(folder);
   checkLongPath(folder);
+  checkNames(folder);
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {
     check(entry.path().extension() != ".tmp", "nothing is left beside the files");
   }

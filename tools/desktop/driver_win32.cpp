@@ -401,10 +401,23 @@ Fields clipboard(const Fields& f) {
   return {content};
 }
 
+// Keeps other programs from writing to a file until another one is named, or "".
+Fields hold(const Fields& f) {
+  static HANDLE file = INVALID_HANDLE_VALUE;
+  if (file != INVALID_HANDLE_VALUE) CloseHandle(file);
+  file = INVALID_HANDLE_VALUE;
+  if (f.at(1).empty()) return {};
+  file =
+      CreateFileA(f[1].c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+  if (file == INVALID_HANDLE_VALUE) throw Failure{"cannot hold " + f[1]};
+  return {};
+}
+
 const std::map<std::string, std::function<Fields(const Fields&)>> kCommands = {
     {"start", start},
     {"open", open},
     {"drop", drop},
+    {"hold", hold},
     {"windows", windows},
     {"rectangle", rectangle},
     {"exit_code", exitCode},

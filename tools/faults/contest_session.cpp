@@ -2,7 +2,8 @@
 // input is one command; each answer is one line: "ok", or the caption and the first line of the
 // message box that the program showed.
 //   open PATH     as File, Open          save          as File, Save
-//   save_as PATH  as File, Save As       name TEXT     sets the contest's name
+//   save_as PATH  as File, Save As       save_over     as File, Save, answering OK to a warning
+//   name TEXT     sets the contest's name
 //   size N        an invented contest of N contestants, under the file name that is current
 //   bytes         a contest with names of every byte from 1 to 255
 //   reread        whether the current file holds the contest: "ok", or the bytes that ended names
@@ -25,8 +26,10 @@ class Desk : public Window {
  public:
   std::string message;
   std::string path;
+  bool agrees = false;
 
   Answer ask(const Message& shown) override {
+    if (agrees && shown.buttons == Buttons::okCancel) return Answer::ok;
     message = shown.caption + ": " + shown.text.substr(0, shown.text.find_first_of("\r\n"));
     return shown.defaultAnswer;
   }
@@ -82,10 +85,11 @@ std::string reread() {
 std::string follow(const std::string& command, const std::string& value, Desk& desk) {
   desk.message = "ok";
   desk.path = value;
+  desk.agrees = command == "save_over";
   if (command == "open") {
     currentFileName() = value;
     loadContest(desk, true);
-  } else if (command == "save") {
+  } else if (command == "save" || command == "save_over") {
     saveCurrent(desk);
   } else if (command == "save_as") {
     saveContest(desk, true);
