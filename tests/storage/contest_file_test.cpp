@@ -1,12 +1,15 @@
-#include "storage/contest_reader.h"
-
+// Contest files: what is read, what is written, and that both agree.
 #include <gtest/gtest.h>
 
 #include <sstream>
 
+#include "model/new_contest.h"
+#include "storage/contest_format.h"
+#include "storage/contest_reader.h"
 #include "storage/contest_writer.h"
 #include "tests/storage/contest_text.h"
 #include "tests/support/contest_builder.h"
+#include "tools/contest_maker.h"
 
 namespace {
 
@@ -145,6 +148,54 @@ TEST(ContestReader, NoticesEveryTruncationAndNeedsNeitherSettingsNorClasses) {
                    "~~~~~Teams~~~~~", "0", "~~~~~Scores~~~~~", "0"}));
   EXPECT_EQ(bare.scores.size(), 2U);
   EXPECT_EQ(bare.categories, std::vector<std::string>{"none"});
+}
+
+// The longest texts and the oddest ones: what would read as the end of a field or a line cannot
+// stand in a field. Of a team, 40 bytes of the name and 24 of the coach leave room for 86 whole
+// numbers.
+TEST(ContestWriter, CutsTextsAtSeparatorsAndToTheLineAsApproved) {
+  const std::string tooLong(600, 'x');
+  Contest contest = read(smallFile());
+  contest.settings.divisionName = tooLong;
+  contest.settings.totalNumPerTeam = 90;
+  contest.classes.className = {tooLong, "Steers\0!"s};
+  contest.contestantNames[101] = tooLong;
+  contest.contestantNames[102] = "Ann\tLee";
+  contest.contestantNames[103] = "Ben\r\nOde";
+  contest.teams["Clover"].coach = "\tPat";
+  contest.teams["Few members"] = {tooLong, {101}};
+  contest.teams["T" + tooLong] = {tooLong, std::vector<ContestantNumber>(90, 1234)};
+  contest.categories.assign(60, "Category!");
+  std::istringstream lines(writeContest(contest));
+  std::string approved;
+  for (std::string line; std::getline(lines, line);) {
+    EXPECT_LT(line.size(), kMaxContestLine);
+    ASSERT_TRUE(line.ends_with('\r'));
+    approved.append(line, 0, line.size() - 1).append("\n");
+  }
+  expectApproved(approved, "storage/long_texts.txt");
+}
+
+TEST(ContestWriter, SavesWhatItLoadedUnchanged) {
+  Contest fresh = newContest();
+  fresh.settings.contestDate = "March 05, 2024";
+  EXPECT_EQ(writeContest(fresh), sourceFile("fuzz/corpus/contests/new.scv"));
+  std::vector<std::string> files = {smallFile(), sourceFile("samples/county.scv"),
+                                    sourceFile("samples/state.scv")};
+  for (std::int32_t shape = 0; shape < 64; ++shape) {
+    ContestPlan plan;
+    plan.contestants = shape % 4 * 9;
+    plan.perTeam = 1 + shape % 5;
+    plan.alternates = shape % 3;
+    plan.emptyPercent = shape;
+    plan.classes = shape / 8;
+    plan.reasonsClasses = shape % 2;
+    files.push_back(writeContest(makeContest(plan)));
+  }
+  for (const std::string& bytes : files) {
+    EXPECT_TRUE(bytes.ends_with("0000-0000-0000-0000\r\n"));
+    EXPECT_EQ(writeContest(read(bytes)), bytes);
+  }
 }
 
 }  // namespace
