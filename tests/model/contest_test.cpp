@@ -9,22 +9,6 @@
 
 namespace {
 
-TEST(Numbering, GroupsFollowNumbersRoundRobin) {
-  struct Case {
-    std::int32_t startNum, numGroups, number;
-    char group;
-  };
-  for (const auto& [startNum, numGroups, number, group] :
-       {Case{101, 5, 105, 'E'}, Case{101, 5, 106, 'A'}, Case{101, 0, 107, 'A'},
-        Case{101, 5, 100, '@'},  // the remainder keeps its sign: one before 'A'
-        Case{INT32_MAX, -1, INT32_MIN, 'A'}}) {
-    ContestSettings settings;
-    settings.startNum = startNum;
-    settings.numGroups = numGroups;
-    EXPECT_EQ(groupOfNumber(settings, number), group) << number;
-  }
-}
-
 TEST(Numbering, NextNumberFollowsTheLargest) {
   struct Case {
     std::vector<ContestantNumber> numbers;
