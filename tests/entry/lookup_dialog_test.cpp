@@ -17,7 +17,9 @@ struct Lookup : Session<made<LookupDialog>, kLookupDialog> {
   // Fills number, letter, reasons and questions, where they can be reached, and presses a button.
   void press(ControlId button, const std::array<const char*, 4>& typed) {
     const std::array fields = {kNumber, kLetter, kReasons, kQuestions};
-    for (std::size_t i = 0; i < fields.size(); ++i) paste(fields[i], typed[i]);
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+      if (isEnabled(fields[i])) setText(fields[i], typed[i]);
+    }
     click(button);
   }
 };
