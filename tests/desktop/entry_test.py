@@ -2,36 +2,29 @@
 
 import unittest
 
-from desktop_case import IDNO, IDYES, DesktopTest, wait_for
+from desktop_case import IDNO, IDYES, ROOT, DesktopTest, wait_for
 
 LOOKUP, PLACINGS, REASONS, QUESTIONS = 32791, 32822, 32823, 32826
 NUMBER, NUMBER_TYPED, LETTER, REASONS_SCORE, QUESTIONS_SCORE, CLASSES, GROUPS = 1054, 1026, 1027, 1028, 1056, 1016, 1053
-
-HEAD = (
-    "contestName:\tFair", "divisionName:\tJunior Division", "contestDate:\tMay 1", "startNum:\t101",
-    "numPerTeam:\t5", "numToScore:\t3", "reportPercent:\t0", "numToReport:\t20", "numGroups:\t2",
-    "totalNumPerTeam:\t5", "numReasonsGroups:\t1", "categories:\tBeef",
-    "~~~~~Classes~~~~~", "2",
-    "Steers\tNo\tYes\tA\t2,3,4\t0", "Ewes\tYes\tNo\tX\t5,5,5\t0",
-    "~~~~~Contestants~~~~~", "5",
-    "101\tAnn\t0\t1", "102\tBob\t-1\t-1", "103\tCy\t0\t0", "104\tDee\t-1\t-1", "105\tEve\t-1\t-1",
-    "~~~~~Teams~~~~~", "1", "Elm\tOak\t101\t102\t103\t104\t105",
-    "~~~~~Scores~~~~~", "10")
-TRAILER = ("0000-0000-0000-0000", "0000-0000-0000-0000")
 
 
 class Entry(DesktopTest):
     def setUp(self):
         super().setUp()
+        self.contest = (ROOT / "tests/desktop/no_cards.scv").read_bytes()
         self.file = self.folder / "fair.scv"
-        self.records = {(n, k): " \t0\t0\t0" for n in range(101, 106) for k in (0, 1)}
-        self.file.write_bytes(self.content())
+        self.file.write_bytes(self.contest)
         self.app = self.start(self.file)
         self.main = self.app.main()
 
-    def content(self):
-        scores = (f"{n}\t{k}\t{record}" for (n, k), record in self.records.items())
-        return b"".join(line.encode() + b"\r\n" for line in (*HEAD, *scores, *TRAILER))
+    def expect_file(self, *records):
+        """Holds the file against the contest with these records in place of blank ones, from now on."""
+        for record in records:
+            number, judged, *_ = record.split()
+            blank = f"\r\n{number}\t{judged}\t \t0\t0\t0\r\n".encode()
+            self.assertIn(blank, self.contest)
+            self.contest = self.contest.replace(blank, f"\r\n{record}\r\n".encode())
+        self.assertEqual(self.file.read_bytes(), self.contest)
 
     def open(self, command, title):
         self.main.command(command)
@@ -73,9 +66,8 @@ class Entry(DesktopTest):
         self.choose(dialog, "2", "B")
         self.enter(dialog, LETTER, ("102", "x"), ("104", ""))
         self.escape(dialog)
-        self.records.update({(101, 0): "B\t46\t0\t0", (103, 0): "Z\t0\t0\t0", (105, 0): "X\t20\t0\t0",
-                             (102, 1): "X\t50\t0\t0"})
-        self.assertEqual(self.file.read_bytes(), self.content())
+        self.expect_file("101\t0\tB\t46\t0\t0", "103\t0\tZ\t0\t0\t0", "105\t0\tX\t20\t0\t0",
+                         "102\t1\tX\t50\t0\t0")
 
         dialog = self.open(REASONS, "Input Reasons Scores By Group")
         self.assertEqual(dialog.lines(CLASSES), [" 2.  Ewes"])
@@ -91,8 +83,7 @@ class Entry(DesktopTest):
         self.enter(dialog, QUESTIONS_SCORE, ("102", ""), ("104", "0"))
         self.desktop.keys("alt+d")
         self.app.wait_closed(dialog)
-        self.records.update({(103, 1): " \t0\t41\t0", (101, 1): " \t0\t50\t0", (102, 0): " \t0\t0\t7"})
-        self.assertEqual(self.file.read_bytes(), self.content())
+        self.expect_file("103\t1\t \t0\t41\t0", "101\t1\t \t0\t50\t0", "102\t0\t \t0\t0\t7")
 
     def test_cancelled_corrections_stay_in_the_contest_but_not_in_the_file(self):
         dialog = self.open(LOOKUP, "Lookup/Edit Individual Scores")
@@ -113,7 +104,7 @@ class Entry(DesktopTest):
             self.wait_for_focus(dialog, NUMBER_TYPED)
         self.assertEqual(dialog.default_button(), 1004)
         self.escape(dialog)
-        self.assertEqual(self.file.read_bytes(), self.content())
+        self.expect_file()
 
         # The stored letter raises the question before its group is entered again.
         dialog = self.open(PLACINGS, "Input Placings Scores By Group")
@@ -124,8 +115,7 @@ class Entry(DesktopTest):
             self.wait_for_card(dialog, number, LETTER)
         dialog.close()
         self.app.wait_closed(dialog)
-        self.records[(104, 1)] = "X\t50\t0\t0"
-        self.assertEqual(self.file.read_bytes(), self.content())
+        self.expect_file("104\t1\tX\t50\t0\t0")
 
 
 if __name__ == "__main__":
