@@ -41,8 +41,8 @@ add_custom_command(
 # The side of Setup's last page: the left part of the start-up picture, for dense displays, too.
 set(setup_side ${pictures}/setup_side.bmp)
 add_custom_command(
-  OUTPUT ${setup_side} DEPENDS ${pictures}/welcome.bmp
-  COMMAND ${IMAGEMAGICK_CONVERT} ${pictures}/welcome.bmp -resize x628 -gravity West
+  OUTPUT ${setup_side} DEPENDS ${pictures}/welcome_dense.bmp
+  COMMAND ${IMAGEMAGICK_CONVERT} ${pictures}/welcome_dense.bmp -resize x628 -gravity West
           -crop 328x628+20+0 +repage -type truecolor BMP3:${setup_side})
 
 # Not part of "all": running the program needs no NSIS.

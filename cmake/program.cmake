@@ -1,5 +1,6 @@
 # scorvane.exe: the program with its window.
 enable_language(RC)
+include(cmake/late_dlls.cmake)
 include(cmake/pictures.cmake)
 configure_file(cmake/version_info.rc.in ${CMAKE_BINARY_DIR}/version_info.rc @ONLY)
 
@@ -13,8 +14,11 @@ set_source_files_properties(
 
 add_executable(scorvane WIN32 src/app/main_win32.cpp ${script})
 target_include_directories(scorvane PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_BINARY_DIR})
-target_link_libraries(ui PUBLIC comctl32 comdlg32 shell32 gdi32)
-target_link_libraries(app PUBLIC shlwapi)
+target_link_libraries(ui PUBLIC gdi32)
+scorvane_late_dll(ui comctl32 DefSubclassProc SetWindowSubclass)
+scorvane_late_dll(ui comdlg32 ChooseFontA GetOpenFileNameA GetSaveFileNameA PrintDlgA)
+scorvane_late_dll(ui shell32 DragFinish DragQueryFileA SHGetFolderPathA ShellExecuteExW)
+scorvane_late_dll(ui shlwapi AssocQueryStringW)
 target_link_libraries(scorvane PRIVATE app)
 target_link_options(scorvane PRIVATE -s)
 set_target_properties(scorvane PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})

@@ -18,12 +18,11 @@ namespace {
 
 constexpr int kHelpCommand = 32857;
 constexpr UINT kResolutionChanged = 0x02E0;  // WM_DPICHANGED, which older headers lack
+constexpr LPARAM kWithoutPainting = -1;
 
 }  // namespace
 
-DesktopWindow::DesktopWindow(NativeWindow window) : window_(window), report_(window) {
-  DragAcceptFiles(window_, TRUE);
-}
+DesktopWindow::DesktopWindow(NativeWindow window) : window_(window), report_(window) {}
 
 std::optional<std::intptr_t> DesktopWindow::handle(unsigned message, std::uintptr_t wParam,
                                                    std::intptr_t lParam) {
@@ -47,6 +46,13 @@ std::optional<std::intptr_t> DesktopWindow::handle(unsigned message, std::uintpt
     case WM_CLOSE:
       // What a dialog has not saved yet would be lost; the close box itself is disabled then.
       if (IsWindowEnabled(window_) == FALSE) return 0;
+      break;
+    case WM_NCACTIVATE:
+      // As the window first shows, it is activated before its frame is painted; once is enough.
+      if (!painted_) return DefWindowProcA(window_, message, wParam, kWithoutPainting);
+      break;
+    case WM_PAINT:
+      painted_ = true;
       break;
     case WM_DESTROY:
       PostQuitMessage(0);

@@ -37,4 +37,5 @@ class DesktopWindow final : public MainWindow {
 
   NativeWindow window_;
   ReportWindow report_;
+  bool painted_ = false;
 };

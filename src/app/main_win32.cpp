@@ -66,11 +66,10 @@ bool showMainWindow(HINSTANCE instance, int request) {
   setProgramTitle(title);
   registerClass(instance, className);
   HWND window =
-      CreateWindowExA(0, className.c_str(), title.c_str(),
+      CreateWindowExA(WS_EX_ACCEPTFILES, className.c_str(), title.c_str(),
                       WS_OVERLAPPEDWINDOW | WS_VSCROLL | WS_HSCROLL, CW_USEDEFAULT, CW_USEDEFAULT,
                       CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, instance, nullptr);
   if (window == nullptr) return false;
-  EnableScrollBar(window, SB_BOTH, ESB_ENABLE_BOTH);
   ShowWindow(window, request);
   UpdateWindow(window);
   return true;

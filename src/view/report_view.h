@@ -33,6 +33,7 @@ struct ScrollBar {
   int position = 0;
   /// The nearest position that the bar can take: its last page ends at `maximum`.
   [[nodiscard]] int clamped(int wanted) const;
+  bool operator==(const ScrollBar&) const = default;
 };
 
 /// What the operator does to a scroll bar; `track` moves to the position of the dragged thumb.

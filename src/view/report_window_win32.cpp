@@ -10,8 +10,13 @@
 
 namespace {
 
-constexpr int kPictureResource = 162;
-constexpr int kPictureDotsPerInch = 192;  // the bitmap is drawn for this resolution
+struct PictureResource {
+  int id;
+  int dotsPerInch;  // the resolution that the bitmap is drawn for
+};
+
+constexpr PictureResource kPicture = {162, 96};
+constexpr PictureResource kDensePicture = {163, 192};
 constexpr int kFontPoints = 10;
 
 ViewSize clientSize(HWND window) {
@@ -59,23 +64,16 @@ int thumbPlace(HWND window, int bar, WORD reported) {
   return known && LOWORD(info.nTrackPos) == reported ? info.nTrackPos : reported;
 }
 
-void setBar(HWND window, int bar, const ScrollBar& values) {
-  SCROLLINFO info{};
-  info.cbSize = sizeof info;
-  info.fMask = SIF_ALL | SIF_DISABLENOSCROLL;
-  info.nMin = 0;
-  info.nMax = values.maximum;
-  info.nPage = static_cast<UINT>(values.page);
-  info.nPos = values.position;
-  SetScrollInfo(window, bar, &info, TRUE);
-}
-
 }  // namespace
 
 ReportWindow::ReportWindow(NativeWindow window) : window_(window) {
   loadFont();
   loadPicture();
   view_.open(reportText(), measureFont());
+  EnableScrollBar(window_, SB_BOTH, ESB_ENABLE_BOTH);
+  // As the window is not visible yet, this paints nothing.
+  view_.resize(clientSize(window_));
+  setBars();
 }
 
 void ReportWindow::loadFont() {
@@ -84,8 +82,11 @@ void ReportWindow::loadFont() {
 }
 
 void ReportWindow::loadPicture() {
-  picture_.reset(LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(kPictureResource),
-                            IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
+  const PictureResource& resource = dotsPerInch_ > kPicture.dotsPerInch ? kDensePicture : kPicture;
+  pictureDotsPerInch_ = resource.dotsPerInch;
+  // Not as a DIB section, which could not hold a compressed bitmap on every Windows.
+  picture_.reset(LoadImageA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(resource.id), IMAGE_BITMAP,
+                            0, 0, LR_DEFAULTCOLOR));
   BITMAP bitmap{};
   if (picture_ == nullptr || GetObjectA(picture_.get(), sizeof bitmap, &bitmap) == 0) return;
   pictureSize_ = {bitmap.bmWidth, bitmap.bmHeight};
@@ -112,6 +113,7 @@ void ReportWindow::refresh() {
 void ReportWindow::changeResolution() {
   const int position = view_.vertical().position;
   loadFont();
+  loadPicture();
   view_.refresh(reportText(), measureFont(), clientSize(window_));
   view_.scrollVertically(ScrollMove::track, position);
   setBars();
@@ -119,8 +121,22 @@ void ReportWindow::changeResolution() {
 }
 
 void ReportWindow::setBars() {
-  setBar(window_, SB_VERT, view_.vertical());
-  setBar(window_, SB_HORZ, view_.horizontal());
+  setBar(SB_VERT, view_.vertical(), verticalShown_);
+  setBar(SB_HORZ, view_.horizontal(), horizontalShown_);
+}
+
+// Leaves a bar alone that shows the values already: setting it would paint it again.
+void ReportWindow::setBar(int bar, const ScrollBar& values, std::optional<ScrollBar>& shown) {
+  if (shown == values) return;
+  shown = values;
+  SCROLLINFO info{};
+  info.cbSize = sizeof info;
+  info.fMask = SIF_ALL | SIF_DISABLENOSCROLL;
+  info.nMin = 0;
+  info.nMax = values.maximum;
+  info.nPage = static_cast<UINT>(values.page);
+  info.nPos = values.position;
+  SetScrollInfo(window_, bar, &info, TRUE);
 }
 
 bool ReportWindow::handle(unsigned message, std::uintptr_t wParam, std::intptr_t lParam) {
@@ -220,8 +236,8 @@ void ReportWindow::paint() {
 
 void ReportWindow::drawPicture(void* context, const ViewSize& client) const {
   auto* target = static_cast<HDC>(context);
-  const ViewSize own = {MulDiv(pictureSize_.width, dotsPerInch_, kPictureDotsPerInch),
-                        MulDiv(pictureSize_.height, dotsPerInch_, kPictureDotsPerInch)};
+  const ViewSize own = {MulDiv(pictureSize_.width, dotsPerInch_, pictureDotsPerInch_),
+                        MulDiv(pictureSize_.height, dotsPerInch_, pictureDotsPerInch_)};
   const ViewSize shown = pictureSize(own, client);
   HDC source = CreateCompatibleDC(target);
   const HGDIOBJ previous = SelectObject(source, picture_.get());

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "ui/fixed_font_win32.h"
 #include "view/report_view.h"
@@ -24,6 +25,7 @@ class ReportWindow {
   void loadFont();
   void loadPicture();
   void setBars();
+  void setBar(int bar, const ScrollBar& values, std::optional<ScrollBar>& shown);
   void scroll(int bar, unsigned request, int thumb);
   bool scrollByKey(unsigned key);
   void shift(int across, int down);
@@ -36,5 +38,8 @@ class ReportWindow {
   int dotsPerInch_ = 96;
   GraphicsObject font_;
   GraphicsObject picture_;
+  int pictureDotsPerInch_ = 96;
   ViewSize pictureSize_;
+  std::optional<ScrollBar> verticalShown_;
+  std::optional<ScrollBar> horizontalShown_;
 };
