@@ -54,10 +54,11 @@ def unescape(text):
 class Desktop:
     """A virtual display of its own and a Wine prefix in the build folder.
 
-    A home folder given here holds the Documents folder of a prefix that is yet to be made.
+    A home folder given here holds the Documents folder of a prefix that is yet to be made. Into a folder
+    for the screen the display puts its live picture, a file in XWD format.
     """
 
-    def __init__(self, size="1280x900x24", dpi=96, prefix=None, home=None):
+    def __init__(self, size="1280x900x24", dpi=96, prefix=None, home=None, screen_folder=None):
         self.prefix = pathlib.Path(prefix or BUILD / "wine-prefix")
         self.server = None
         self.display = None
@@ -66,14 +67,14 @@ class Desktop:
                                 WINEARCH="win64")
         if home:
             self.environment["HOME"] = str(home)
-        self._start_display(size)
+        self._start_display(size, ["-nocursor", "-fbdir", str(screen_folder)] if screen_folder else [])
         self._prepare_prefix()
         self.set_dpi(dpi)
 
-    def _start_display(self, size):
+    def _start_display(self, size, options):
         reading, writing = os.pipe()
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(writing), "-screen", "0", size, "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(writing), "-screen", "0", size, "-nolisten", "tcp", *options],
             pass_fds=[writing], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
             stderr=subprocess.DEVNULL)
         os.close(writing)
