@@ -56,7 +56,8 @@ TEST(Cli, AnswersAsApproved) {
         "--title|-x-|fair.scv|--classes=3,1|32800|--kind|placings|--number=0|--team",
         "fair.scv|32800|--number|50|--percent|--kind=Reasons|--title=",
         // A category proposes its name and classes.
-        "fair.scv|32800|--category|Swine", "fair.scv|32800|--classes|3,2,3|--title|Swine",
+        "fair.scv|32800|--category|Swine",
+        "fair.scv|32800|--classes|3,2,3|--title|Swine|--number|4",
         "fair.scv|32800|--category|Beef|--classes|2,3",
         "fair.scv|32800|--classes=", "fair.scv|32800",
         // Options that only stand alone.
