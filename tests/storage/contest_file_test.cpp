@@ -33,6 +33,11 @@ std::string changesIn(std::string_view bytes) {
   // Nothing may be in memory that the file would not keep, except that it fills up cards.
   const Contest again = read(written);
   EXPECT_EQ(again.scores.size(), contest.scores.size());
+  for (const auto& [number, cards] : contest.scores) {
+    for (const auto& [judged, card] : cards) {
+      EXPECT_TRUE(judged >= 0 && judged < contest.classes.count()) << number;
+    }
+  }
   EXPECT_EQ(again.categories, contest.categories);
   EXPECT_TRUE(again.settings == contest.settings) << bytes;
   std::istringstream before(smallFile()), after(written);
@@ -101,6 +106,7 @@ TEST(ContestReader, MakesSenseOfOddLinesAsApproved) {
            {steers, "A\tNo\tYes\tA\t1,2,3\t-1"},
            {card, "101\t0"},
            {card, "101\t0\t\t5"},
+           {card, "101\t-1\tC\t50"},
            {card, "101\t0\tBad\t41"},
            {card, "101\t0\tB\tx\t 7\t-3z"},
            {card, "101\t0\tB\t-2147483648\t4294967298\t123456789"},
