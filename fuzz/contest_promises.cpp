@@ -1,10 +1,10 @@
 #include "fuzz/contest_promises.h"
 
 #include <algorithm>
-#include <set>
 #include <string>
 
 #include "fuzz/checks.h"
+#include "model/numbering.h"
 #include "model/reasons_check.h"
 #include "storage/contest_writer.h"
 
@@ -29,13 +29,107 @@ void requireWholeTeams(const Contest& contest) {
   }
 }
 
-// A cell may be left to somebody whose place was given up, but nobody stands in two cells, and a
-// place that is held is a cell that is held.
-void requireSoundReasonsOrder(const Contest& contest) {
-  std::set<ContestantNumber> seen;
-  for (const auto& [cell, number] : contest.reasonsOrder.cells()) {
-    require(seen.insert(number).second, "nobody stands in the reasons order twice");
+// Reports read the stored placing scores, so none may be left behind by a change of the class.
+void requireScoresAsComputed(const Contest& contest) {
+  for (const auto& [number, records] : contest.scores) {
+    for (const auto& [k, record] : records) {
+      if (k >= contest.classes.count()) continue;
+      require(record.placingScore ==
+                  placingScore(record.letter, contest.classes.official(k), contest.classes.cuts(k)),
+              "placing scores are those of the letters, officials and cuts");
+    }
   }
+}
+
+constexpr std::size_t kFitsAnyLine = 100;
+
+bool isShort(const std::string& text) {
+  return text.size() <= kFitsAnyLine;
+}
+
+// Whether no line of the file has to leave anything out, and no value is one that loading mends.
+bool fitsTheFile(const Contest& contest) {
+  constexpr std::int32_t kSlotsOnAnyLine = 20;
+  const ContestSettings& settings = contest.settings;
+  if (settings.totalNumPerTeam > kSlotsOnAnyLine || !isShort(settings.contestName) ||
+      !isShort(settings.divisionName) || !isShort(settings.contestDate)) {
+    return false;
+  }
+  std::size_t categories = 0;
+  for (const std::string& name : contest.categories) categories += name.size() + 1;
+  const auto& classes = contest.classes.className;
+  const auto& names = contest.contestantNames;
+  const auto count = static_cast<std::int32_t>(contest.categories.size());
+  const auto& indexes = contest.classes.categoryIndex;
+  return categories < 4 * kFitsAnyLine &&
+         std::all_of(indexes.begin(), indexes.end(),
+                     [count](auto i) { return i >= 0 && i < std::max(count, 1); }) &&
+         std::all_of(classes.begin(), classes.end(), isShort) &&
+         std::all_of(names.begin(), names.end(),
+                     [](const auto& entry) { return isShort(entry.second); }) &&
+         std::all_of(contest.teams.begin(), contest.teams.end(), [](const auto& team) {
+           return isShort(team.first) && isShort(team.second.coach) && team.first != " " &&
+                  team.second.coach != " ";  // a blank stands for an empty text
+         });
+}
+
+void requireAlike(Contest contest, Contest loaded) {
+  require(loaded.contestantNames == contest.contestantNames, "contestants come back alike");
+  require(loaded.teams == contest.teams, "teams come back alike");
+  require(!evenColumns(contest.classes) || loaded.classes == contest.classes,
+          "classes come back alike");
+  require(contest.categories.empty() || loaded.categories == contest.categories,
+          "categories come back alike");
+  // A new contest has none until it is set up.
+  require(contest.groupLetters.empty() || loaded.groupLetters == contest.groupLetters,
+          "group letters come back alike");
+  updateNextContestant(contest);
+  require(loaded.settings == contest.settings, "settings come back alike");
+  for (const auto& [number, name] : contest.contestantNames) {
+    require(reasonsPlaceOf(loaded, number) == reasonsPlaceOf(contest, number),
+            "reasons places come back alike");
+    require(groupOfContestant(loaded, number) == groupOfContestant(contest, number),
+            "groups come back alike");
+    for (std::int32_t k = 0; k < contest.classes.count(); ++k) {
+      require(scoreRecord(loaded, number, k) == scoreRecord(contest, number, k),
+              "scores come back alike");
+    }
+  }
+}
+
+}  // namespace
+
+void ContestPromises::dialogActed(const MemoryDialog& dialog) {
+  const Contest& contest = currentContest();
+  // Clearing all teams leaves the reasons order as it is, and the numbers are given out again.
+  if (command_ == kSetupTeams && contest.contestantNames.empty()) teamsCleared_ = true;
+  checkReasonsOrder(contest);
+  if (command_ != kSetupClasses) return;
+  // The undo of a refused class leaves columns of different lengths until all are cleared.
+  if (evenColumns(contest.classes)) classRefused_ = false;
+  for (const Message& message : dialog.desktop.messages) {
+    classRefused_ = classRefused_ || message.text.rfind("Error:", 0) == 0 ||
+                    message.text.rfind("Illegal value", 0) == 0;
+  }
+}
+
+// Nobody stands in two cells, a place that is held is a cell that is held, and the other way round.
+// Only whoever is deleted from the first row or the first group keeps the cell.
+void ContestPromises::checkReasonsOrder(const Contest& contest) {
+  std::set<ContestantNumber> seen;
+  std::set<ContestantNumber> strays;
+  for (const auto& [cell, number] : contest.reasonsOrder.cells()) {
+    const auto [group, row] = cell;
+    require(seen.insert(number).second, "nobody stands in the reasons order twice");
+    require(group < contest.settings.numReasonsGroups, "every cell belongs to a reasons group");
+    if (reasonsPlaceOf(contest, number) == ReasonsPlace{group, row}) continue;
+    const bool mayBeKept =
+        (command_ == kSetupTeams || command_ == kEditContestants) && (group == 0 || row == 0);
+    require(mayBeKept || teamsCleared_ || strays_.contains(number),
+            "whoever stands in the reasons order has that place");
+    strays.insert(number);
+  }
+  strays_ = strays;
   for (const auto& [number, place] : contest.reasonsPlace) {
     if (!place.isAssigned()) continue;
     require(contest.reasonsOrder.cell(place.position, place.group) == number,
@@ -43,53 +137,25 @@ void requireSoundReasonsOrder(const Contest& contest) {
   }
 }
 
-bool isShort(const std::string& text) {
-  constexpr std::size_t kFitsAnyLine = 100;
-  return text.size() <= kFitsAnyLine;
+bool ContestPromises::comesBackAlike(const Contest& contest) const {
+  return fitsTheFile(contest) && strays_.empty() && !teamsCleared_;
 }
 
-// Whether no line of the file has to leave anything out, and no value is one that loading mends.
-bool fitsTheFile(const Contest& contest) {
-  constexpr std::int32_t kSlotsOnAnyLine = 20;
-  if (contest.settings.totalNumPerTeam > kSlotsOnAnyLine) return false;
-  std::size_t categories = 0;
-  for (const std::string& name : contest.categories) categories += name.size() + 1;
-  const auto count = static_cast<std::int32_t>(contest.categories.size());
-  const auto& indexes = contest.classes.categoryIndex;
-  return categories < 400 &&
-         std::all_of(indexes.begin(), indexes.end(),
-                     [count](auto i) { return i >= 0 && i < std::max(count, 1); }) &&
-         std::all_of(contest.teams.begin(), contest.teams.end(), [](const auto& team) {
-           return isShort(team.first) && isShort(team.second.coach);
-         });
-}
-
-}  // namespace
-
-void ContestPromises::dialogActed(const MemoryDialog& dialog) {
-  // Deleting a contestant can leave a cell to somebody without a place, and numbers given up can be
-  // given out again while the order still names them.
-  if (command_ == kSetupTeams || command_ == kEditContestants) numbersGivenUp_ = true;
-  if (command_ != kSetupClasses) return;
-  // The undo of a refused class leaves columns of different lengths.
-  for (const Message& message : dialog.desktop.messages) {
-    classRefused_ = classRefused_ || message.text.rfind("Error:", 0) == 0 ||
-                    message.text.rfind("Illegal value", 0) == 0;
-  }
-}
-
-void ContestPromises::check(const Contest& contest) const {
+void ContestPromises::check(const Contest& contest) {
   require(classRefused_ || evenColumns(contest.classes), "the columns of classes are even");
   requireWholeTeams(contest);
-  requireSoundReasonsOrder(contest);
-  if (!numbersGivenUp_) {
-    const std::string fault = reasonsOrderFault(contest);
-    require(fault.empty(), fault);
-  }
+  checkReasonsOrder(contest);
+  requireScoresAsComputed(contest);
   const std::string saved = writeContest(contest);
-  const std::string savedAgain = writeContest(readAgain(saved));
-  if (fitsTheFile(contest) && !numbersGivenUp_) {
+  const Contest loaded = readAgain(saved);
+  require(evenColumns(loaded.classes), "the columns of loaded classes are even");
+  requireWholeTeams(loaded);
+  const std::string fault = reasonsOrderFault(loaded);
+  require(fault.empty(), fault);
+  const std::string savedAgain = writeContest(loaded);
+  if (comesBackAlike(contest)) {
     require(savedAgain == saved, "loading and saving give the same bytes");
+    requireAlike(contest, loaded);
   }
   require(writeContest(readAgain(savedAgain)) == savedAgain, "saving again changes nothing");
 }

@@ -1,6 +1,8 @@
 // What must hold of a contest whatever an operator did to it.
 #pragma once
 
+#include <set>
+
 #include "model/contest.h"
 #include "tests/ui/memory_dialog.h"
 
@@ -12,10 +14,14 @@ class ContestPromises {
   void dialogActed(const MemoryDialog& dialog);
 
   /// Ends the run when the contest breaks a promise.
-  void check(const Contest& contest) const;
+  void check(const Contest& contest);
 
  private:
+  void checkReasonsOrder(const Contest& contest);
+  [[nodiscard]] bool comesBackAlike(const Contest& contest) const;
+
   int command_ = 0;
   bool classRefused_ = false;
-  bool numbersGivenUp_ = false;
+  bool teamsCleared_ = false;
+  std::set<ContestantNumber> strays_;  ///< who stands in a cell without having that place
 };

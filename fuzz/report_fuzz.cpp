@@ -15,6 +15,7 @@
 #include "output/print_layout.h"
 #include "storage/contest_format.h"
 #include "storage/contest_reader.h"
+#include "view/report_text.h"
 
 namespace {
 
@@ -36,6 +37,7 @@ class Wishes {
     if (kind == 254) return std::numeric_limits<std::int32_t>::min();
     return usual > 0 ? kind % (usual + 1) : kind - 4;
   }
+  [[nodiscard]] std::string rest() const { return std::string(bytes_); }
 
  private:
   std::string_view bytes_;
@@ -51,9 +53,13 @@ ReportRequest wishedRequest(Wishes& wishes, const Contest& contest) {
   for (std::int32_t k = 0; k < std::min(scored, classes); ++k) {
     if (wishes.byte() % 4 != 3) request.custom.classes.push_back(k);
   }
-  request.custom.title.assign(static_cast<std::size_t>(wishes.byte()) * 3, 'T');
   request.custom.numToReport = wishes.number(100);
   request.custom.percent = wishes.byte() % 2 == 1;
+  // As the dialog gives it: at most 499 bytes, without control characters.
+  request.custom.title = wishes.rest().substr(0, 499);
+  for (char& c : request.custom.title) {
+    if (static_cast<unsigned char>(c) < ' ') c = ' ';
+  }
   return request;
 }
 
@@ -61,14 +67,48 @@ std::int64_t countLines(std::string_view text) {
   return std::count(text.begin(), text.end(), '\n');
 }
 
+bool isMarker(std::string line) {
+  std::replace(line.begin(), line.end(), '\t', ' ');
+  return line == kPageBreakLine || line == kSmallFontLine || line == kLargeFontLine;
+}
+
+/// Lines of the report that are drawn once; the first four stand in every header.
+std::int64_t countBodyLines(std::string_view report) {
+  std::int64_t count = 0;
+  for (std::int64_t line = 0; !report.empty(); ++line) {
+    const std::size_t end = report.find('\n');
+    if (line >= 4 && !isMarker(std::string(report.substr(0, end)))) ++count;
+    report.remove_prefix(end + 1);
+  }
+  return count;
+}
+
 void requireWholePrint(const Contest& contest, const std::string& report, std::int32_t lines) {
-  const PrintHeader header = {contest.settings.contestName, contest.settings.contestDate,
-                              contest.settings.divisionName, "Sat Mar  7 09:05:02 2026\n"};
-  const std::vector<PrintOperation> operations = layOutPrint(report, header, lines);
+  const PrintHeader identity = {contest.settings.contestName, contest.settings.contestDate,
+                                contest.settings.divisionName, "Sat Mar  7 09:05:02 2026\n"};
+  const std::vector<PrintOperation> operations = layOutPrint(report, identity, lines);
   require(pageCount(operations) <= countLines(report) + 1, "a page for every line at most");
   require(
       !operations.empty() && std::holds_alternative<print_operation::EndPage>(operations.back()),
       "a print ends with a whole page");
+  std::int64_t texts = 0;
+  std::int64_t rowsOutside = 0;
+  for (const PrintOperation& operation : operations) {
+    const auto* text = std::get_if<print_operation::Text>(&operation);
+    if (text == nullptr) continue;
+    ++texts;
+    if (text->row < 1 || text->row > lines) ++rowsOutside;
+  }
+  // A file can bring line feeds in the names, which make the header longer.
+  const std::int64_t header = 3 + countLines(identity.contestName) +
+                              countLines(identity.contestDate) + countLines(identity.divisionName) +
+                              std::min<std::int64_t>(countLines(report), 4);
+  constexpr std::int64_t kFooter = 4;
+  require(texts == pageCount(operations) * (header + kFooter) + countBodyLines(report),
+          "every line is printed once, besides headers and footers");
+  constexpr std::int32_t kRoomForAll = 12;
+  require(lines < kRoomForAll || header > 7 || rowsOutside == 0,
+          "nothing is drawn outside the page");
   require(!printProgressText(report, 1, pageCount(operations)).empty(), "progress is shown");
 }
 
