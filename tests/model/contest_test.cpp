@@ -29,6 +29,16 @@ TEST(Numbering, NextNumberFollowsTheLargest) {
   }
 }
 
+TEST(Contest, HasScoresOnceAnythingWasEntered) {
+  for (const ScoreRecord& entered : {ScoreRecord{'A', 0, 0, 0}, {' ', 0, 1, 0}, {' ', 0, 0, 1}}) {
+    Contest contest;
+    contest.scores[101][0] = {};
+    EXPECT_FALSE(hasScores(contest));
+    contest.scores[101][1] = entered;
+    EXPECT_TRUE(hasScores(contest));
+  }
+}
+
 TEST(Contest, RecomputesPlacingScoresOfAllWhoHaveRecords) {
   Contest contest;
   contest.classes.add("Steers", false, false, 'A', {2, 3, 4}, 0);

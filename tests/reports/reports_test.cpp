@@ -94,6 +94,10 @@ TEST(Reports, OfOddContestsReadAsApproved) {
   add("no classes", fourSlots(0, 2), {verification<0>});
   add("no reasons classes", fourSlots(2, 2), {zeroReasonsReport});
   add("more groups than classes", fourSlots(2, 4), {roundAssignmentsReport, verification<1>});
+  Contest regrouped = fourSlots(2, 2);
+  regrouped.groupLetters = {'X', 'Y'};
+  regrouped.contestantGroup[103] = 'B';
+  add("103 in the other group, groups renamed", regrouped, {verification<0>});
   add("no groups", fourSlots(1, 0), {groupAssignmentsReport, verifyScoresReport});
   add("less than no groups", fourSlots(1, -3), {groupAssignmentsReport, verifyScoresReport});
 
