@@ -60,7 +60,7 @@ bool MemoryDialog::takesKeys(ControlId id) const {
   return field.isEdit() && field.enabled && !field.has("ES_READONLY");
 }
 
-void MemoryDialog::type(std::string_view text) {
+void MemoryDialog::keys(std::string_view text) {
   for (const char key : text) {
     const Control& field = control(focused_);
     const bool isDigit = std::isdigit(static_cast<unsigned char>(key)) != 0;
@@ -69,27 +69,18 @@ void MemoryDialog::type(std::string_view text) {
   }
 }
 
-void MemoryDialog::keys(std::string_view text) {
-  type(text);
-  did("type", 0, text);
-}
-
 void MemoryDialog::fill(ControlId id, std::string_view text) {
-  if (takesKeys(id)) {
-    focus(id);
-    selectText(id);
-    if (text.empty() && control(id).marked) setText(id, "");
-    type(text);
-  }
-  did("fill", id, text);
+  if (!takesKeys(id)) return;
+  focus(id);
+  selectText(id);
+  if (text.empty() && control(id).marked) setText(id, "");
+  keys(text);
 }
 
 void MemoryDialog::paste(ControlId id, std::string_view text) {
-  if (takesKeys(id)) {
-    focus(id);
-    setText(id, text);
-  }
-  did("paste", id, text);
+  if (!takesKeys(id)) return;
+  focus(id);
+  setText(id, text);
 }
 
 void MemoryDialog::click(ControlId id) {
@@ -103,11 +94,10 @@ void MemoryDialog::click(ControlId id) {
     }
   }
   raise(id, ControlEvent::clicked);
-  did("press", id, "");
 }
 
 void MemoryDialog::choose(ControlId id, int line) {
-  const auto [chosen, selected] = control(id).lines.at(static_cast<std::size_t>(line));
+  const bool selected = control(id).lines.at(static_cast<std::size_t>(line)).second;
   if (!isEnabled(id)) return;
   focus(id);
   if (control(id).has("LBS_MULTIPLESEL")) {
@@ -116,23 +106,15 @@ void MemoryDialog::choose(ControlId id, int line) {
     select(id, line);
   }
   raise(id, ControlEvent::selectionChanged);
-  did("choose", id, chosen);
 }
 
 void MemoryDialog::pressEnter() {
   const bool onButton = focused_ != 0 && control(focused_).statement.ends_with("PUSHBUTTON");
   raise(onButton ? focused_ : defaultButton_, ControlEvent::clicked);
-  did("press Enter", 0, "");
-}
-
-void MemoryDialog::pressEscape() {
-  raise(kCancelId, ControlEvent::clicked);
-  did("press Escape", 0, "");
 }
 
 void MemoryDialog::pressCloseBox() {
   if (!result_) behaviour_.closed(*this);
-  did("press the close box", 0, "");
 }
 
 std::vector<std::string> MemoryDialog::lines(ControlId id) const {

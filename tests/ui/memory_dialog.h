@@ -80,7 +80,7 @@ class MemoryDialog : public Scripted<Dialog> {
   void choose(ControlId id, int line);
   /// Enter: the focused button, else the default button, else kOkId.
   void pressEnter();
-  void pressEscape();
+  void pressEscape() { raise(kCancelId, ControlEvent::clicked); }
   void pressCloseBox();
 
   // What the dialog shows.
@@ -121,17 +121,12 @@ class MemoryDialog : public Scripted<Dialog> {
   void setDefaultButton(ControlId id) override { defaultButton_ = control(id).id; }
   void end(int result) override { result_ = result; }
 
- protected:
-  /// Told of everything that the operator did, once it is done.
-  virtual void did(const std::string& /*what*/, ControlId /*where*/, std::string_view /*text*/) {}
-
  private:
   // An id that the dialog does not have fails the test.
   [[nodiscard]] const Control& control(ControlId id) const;
   Control& control(ControlId id) { return const_cast<Control&>(std::as_const(*this).control(id)); }
   [[nodiscard]] bool hasLine(ControlId id, int i) const { return i >= 0 && i < lineCount(id); }
   [[nodiscard]] bool takesKeys(ControlId id) const;
-  void type(std::string_view text);
   void raise(ControlId id, ControlEvent event);
 
   DialogBehaviour& behaviour_;

@@ -1,0 +1,232 @@
+#include "tests/ui/session.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <iterator>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <utility>
+
+#include "storage/contest_commands.h"
+#include "storage/contest_writer.h"
+#include "tests/support/approved.h"
+#include "tests/ui/memory_dialog.h"
+#include "text/format.h"
+#include "view/report_text.h"
+
+namespace {
+
+// On one line, in characters that everything can show; and back.
+std::string escaped(std::string_view text) {
+  std::string line;
+  for (const char c : text) {
+    const bool isPlain = c >= ' ' && c <= '~';
+    line += c == '\n' ? "\\n" : isPlain ? std::string(1, c) : formatText("\\x%02hhX", c);
+  }
+  return line;
+}
+
+std::string unescaped(std::string text) {
+  for (std::size_t i = 0; (i = text.find("\\x", i)) != std::string::npos; ++i) {
+    text.replace(i, 4, 1, static_cast<char>(std::stoi(text.substr(i + 2, 2), nullptr, 16)));
+  }
+  return text;
+}
+
+template <typename Column>
+std::string listed(const Column& column) {
+  std::ostringstream list;
+  for (const auto& element : column) list << '|' << element;
+  return list.str();
+}
+
+// The lines of the file that the contest would be saved to, and what no file holds.
+std::multiset<std::string> storedNow() {
+  const Contest& contest = currentContest();
+  const JudgingClasses& c = contest.classes;
+  std::multiset<std::string> stored = {
+      "report " + reportText(), "group letters " + listed(contest.groupLetters),
+      "classes " + listed(c.className) + ' ' + listed(c.officialLetter) + ' ' +
+          listed(c.reasonsFlag) + ' ' + listed(c.questionsFlag) + ' ' + listed(c.cut1) + ' ' +
+          listed(c.cut2) + ' ' + listed(c.cut3) + ' ' + listed(c.categoryIndex),
+      "next number " + std::to_string(contest.settings.nextContestantNum) + " in group " +
+          contest.settings.nextGroupLetter};
+  for (const auto& [number, letter] : contest.contestantGroup) {
+    stored.insert(formatText("%d in group %c", number, letter));
+  }
+  for (const auto& [cell, number] : contest.reasonsOrder.cells()) {
+    stored.insert(formatText("%d in reasons group %d, row %d", number, cell.first, cell.second));
+  }
+  for (const auto& [number, records] : contest.scores) {
+    stored.insert(formatText("%d with records: %zu", number, records.size()));
+  }
+  std::istringstream file(writeContest(contest));
+  for (std::string line; std::getline(file, line, '\r'); file.get()) {
+    std::replace(line.begin(), line.end(), '\t', '|');
+    const bool isCount = line.find_first_not_of("0123456789") == std::string::npos;
+    if (!isCount && !line.ends_with("| |0|0|0")) stored.insert(line);  // blank records
+  }
+  return stored;
+}
+
+// The buttons of a question, with a mark at the one that Enter presses.
+std::string buttonsOf(const Message& message) {
+  const bool agrees = message.defaultAnswer == Answer::ok || message.defaultAnswer == Answer::yes;
+  if (message.buttons == Buttons::ok) return "";
+  if (message.buttons == Buttons::yesNo) return agrees ? " [>Yes|No]" : " [Yes|>No]";
+  return agrees ? " [>OK|Cancel]" : " [OK|>Cancel]";
+}
+
+using Step = void (*)(MemoryDialog&, ControlId, const std::string&);
+
+const std::map<std::string, Step> kSteps = {
+    {"type", [](auto& dialog, auto, auto& text) { dialog.keys(text); }},
+    {"fill", [](auto& dialog, auto id, auto& text) { dialog.fill(id, text); }},
+    {"paste", [](auto& dialog, auto id, auto& text) { dialog.paste(id, text); }},
+    {"set", [](auto& dialog, auto id, auto& text) { dialog.setText(id, text); }},
+    {"press", [](auto& dialog, auto id, auto&) { dialog.click(id); }},
+    {"focus", [](auto& dialog, auto id, auto&) { dialog.focus(id); }},
+    {"default", [](auto& dialog, auto id, auto&) { dialog.setDefaultButton(id); }},
+    {"choose", [](auto& dialog, auto id, auto& text) { dialog.choose(id, std::stoi(text) - 1); }},
+    {"unselect", [](auto& dialog, auto id, auto&) { dialog.select(id, std::nullopt); }},
+    {"Enter", [](auto& dialog, auto, auto&) { dialog.pressEnter(); }},
+    {"Escape", [](auto& dialog, auto, auto&) { dialog.pressEscape(); }},
+    {"close", [](auto& dialog, auto, auto&) { dialog.pressCloseBox(); }},
+    {"answer", [](auto& dialog, auto, auto& text) {
+       dialog.desktop.answers = {text == "OK"    ? Answer::ok
+                                 : text == "Yes" ? Answer::yes
+                                 : text == "No"  ? Answer::no
+                                                 : Answer::cancel};
+     }}};
+
+// Plays sessions and writes down how they go.
+class Stage {
+ public:
+  explicit Stage(const SessionWorld& world) : world_(world) {}
+
+  std::string play(const std::string& session) {
+    std::istringstream lines(session);
+    for (std::string line; std::getline(lines, line);) {
+      if (line.starts_with("  ")) continue;  // what it is held against
+      const bool isRemark = line.empty() || line[0] == '#';
+      played_ += (isRemark ? line : take(line)) + '\n';
+      if (!isRemark) writeChanges();
+    }
+    return played_;
+  }
+
+ private:
+  // Takes the steps of a line; gives the line with the controls' names as they are.
+  std::string take(const std::string& line) {
+    static const std::regex opening("open (.*) over (.*)");
+    static const std::regex step(R"((\w+)(?:( [^:]*)? (\d+))?(: (.*))?)");
+    std::smatch part;
+    if (std::regex_match(line, part, opening)) {
+      open(part[1], part[2]);
+      return line;
+    }
+    const std::size_t end = line.find("; ");
+    const std::string first = line.substr(0, end);
+    if (!std::regex_match(first, part, step)) ADD_FAILURE() << "no step: " << first;
+    const ControlId id = part[3].matched ? std::stoi(part[3]) : 0;
+    if (part[1] == "meanwhile") {
+      world_.events.at(part[5])(currentContest());
+    } else {
+      kSteps.at(part[1])(*dialog_, id, unescaped(part[5]));
+    }
+    return part.str(1) + (id == 0 ? "" : ' ' + nameOf(id)) + part.str(4) +
+           (end == std::string::npos ? "" : "; " + take(line.substr(end + 2)));
+  }
+
+  void open(const std::string& caption, const std::string& history) {
+    const auto declared =
+        std::find_if(dialogTemplates().begin(), dialogTemplates().end(),
+                     [&](const auto& entry) { return entry.second.caption == caption; });
+    template_ = &declared->second;
+    reportText() = "a report";
+    currentFileName().clear();
+    std::istringstream names(history);
+    std::string name;
+    std::getline(names, name, ',');
+    currentContest() = world_.contests.at(name)();
+    while (std::getline(names, name, ',')) world_.events.at(name.substr(1))(currentContest());
+    shown_.clear();
+    stored_ = storedNow();
+    dialog_.reset();
+    behaviour_ = world_.dialogs.at(caption)();
+    dialog_.emplace(std::stoi(declared->first), *behaviour_);
+  }
+
+  std::string nameOf(ControlId id) const {
+    std::string label;
+    for (const TemplateControl& control : template_->controls) {
+      if (!control.caption.empty()) label = control.caption;
+      if (control.id == id) break;
+    }
+    std::erase(label, '&');
+    return escaped(label) + ' ' + std::to_string(id);
+  }
+
+  std::map<std::string, std::string> shownNow() const {
+    std::map<std::string, std::string> shown = {
+        {"focus", dialog_->focused() == 0 ? "" : ' ' + nameOf(dialog_->focused())},
+        {"Enter presses", ' ' + nameOf(dialog_->defaultButton())},
+        {"ended with", dialog_->result() ? ' ' + std::to_string(*dialog_->result()) : ""},
+        {"saves", std::string(dialog_->desktop.fileQuestions.size(), '*')},
+        {"scroll together", listed(dialog_->linkedLists())}};
+    for (const auto& [id, control] : dialog_->controls()) {
+      std::string& value = shown[nameOf(id)];
+      if (control.text != control.caption) value = ' ' + control.text;
+      for (const auto& [line, selected] : control.lines) value += (selected ? "|>" : "|") + line;
+      if (control.checked) value += " checked";
+      if (control.marked) value += " marked";
+      if (!control.enabled) value += " disabled";
+    }
+    return shown;
+  }
+
+  void write(const std::string& line) { played_ += "  " + escaped(line) + '\n'; }
+
+  void writeChanges() {
+    for (const Message& message : std::exchange(dialog_->desktop.messages, {})) {
+      write("[" + message.caption + "] " + message.text + buttonsOf(message));
+    }
+    for (const auto& [name, value] : shownNow()) {
+      if (std::exchange(shown_[name], value) != value) write(name + ':' + value);
+    }
+    const auto now = storedNow();
+    const auto writeOnlyIn = [this](const auto& some, const auto& others, const char* mark) {
+      std::vector<std::string> lines;
+      std::set_difference(some.begin(), some.end(), others.begin(), others.end(),
+                          std::back_inserter(lines));
+      for (const std::string& line : lines) write(mark + line);
+    };
+    writeOnlyIn(stored_, now, "- ");
+    writeOnlyIn(now, stored_, "+ ");
+    stored_ = now;
+  }
+
+  const SessionWorld& world_;
+  const DialogTemplate* template_ = nullptr;
+  std::unique_ptr<DialogBehaviour> behaviour_;
+  std::optional<MemoryDialog> dialog_;
+  std::map<std::string, std::string> shown_;
+  std::multiset<std::string> stored_;
+  std::string played_;
+};
+
+}  // namespace
+
+std::vector<std::string> sessionsOf(const std::string& folder) {
+  std::vector<std::string> names;
+  for (const auto& entry : std::filesystem::directory_iterator(SOURCE_DIR "/tests/" + folder)) {
+    if (entry.path().extension() == ".session") names.push_back(entry.path().stem());
+  }
+  return names;
+}
+
+void expectSession(const std::string& folder, const std::string& name, const SessionWorld& world) {
+  const std::string file = folder + '/' + name + ".session";
+  expectApproved(Stage(world).play(sourceFile("tests/" + file)), file);
+}

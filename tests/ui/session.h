@@ -1,0 +1,44 @@
+// Sessions of operators at dialogs, written as text: a line for every step, and below it, indented,
+// all that the step changed on screen and in the contest.
+//
+//   open Setup Teams over two teams, no scores   a dialog, a contest, and what befell that before
+//   type: Elm                                    keys, wherever the focus is
+//   fill Coach 1018: Oak                         a control by its id; its name is for the reader
+//   paste, press, focus, set, default            likewise; the last two no operator can do
+//   choose Teams 1019: 2                         the second line
+//   unselect Teams 1019
+//   Enter, Escape, close                         the last is the close box
+//   answer: Cancel                               to the next question
+//   meanwhile: no scores                         what befalls the contest
+//   # A remark
+//
+// Steps that stand on one line, with "; " between, show their effect together.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "model/contest.h"
+#include "ui/dialog.h"
+
+/// What the sessions of one folder of tests speak of, by the names they use.
+struct SessionWorld {
+  std::map<std::string, std::function<std::unique_ptr<DialogBehaviour>()>> dialogs;  ///< captions
+  std::map<std::string, std::function<Contest()>> contests;
+  std::map<std::string, std::function<void(Contest&)>> events;  ///< what can befall a contest
+};
+
+/// The names of the sessions in tests/<folder>, for tests with such a parameter.
+[[nodiscard]] std::vector<std::string> sessionsOf(const std::string& folder);
+[[nodiscard]] inline std::string sessionName(const testing::TestParamInfo<std::string>& session) {
+  return session.param;
+}
+
+/// Plays the steps of a session and holds what came of them against its very file, as
+/// expectApproved() does. The contest is untitled, so a save asks for a file.
+void expectSession(const std::string& folder, const std::string& name, const SessionWorld& world);
