@@ -263,16 +263,21 @@ class Faults:
         expect(-1 not in steps and steps == sorted(steps), f"{way}: calls out of order {steps}\n" + "\n".join(lines))
 
     def protected_folder(self):
-        """A folder that takes no new file, and a file that is not to be written."""
+        """A folder that takes no new file."""
         session, path = self.opened("protected folder", self.new_folder())
         old = path.read_bytes()
         expect(session("save") == "ok" and path.read_bytes() != old, "in place")
-        new = path.read_bytes()
-        path.chmod(0o444)
-        session("size", b"40")
-        expect(session("save") == NOT_SAVED and path.read_bytes() == new, "a read-only file")
         expect(len(list(path.parent.iterdir())) == 1 and not list(self.spares.iterdir()), "something was left")
-        return "saved in place; a file that may not be written either: message, old file whole"
+        return "saved in place, nothing left"
+
+    def read_only_file(self):
+        """The folder would let the file be replaced, but the file is marked as not to be written."""
+        session, path = self.opened("beside", self.new_folder())
+        old = path.read_bytes()
+        path.chmod(0o444)
+        expect(session("save") == NOT_SAVED, "no message")
+        expect(path.read_bytes() == old, "the old file is replaced")
+        return self.saved_elsewhere(session)
 
     def read_only_medium(self):
         disk = self.small_disk(1 << 20)
@@ -381,8 +386,8 @@ class Faults:
 SAVE_CALLS = ["openat", "read", "write", "fsync", "close", "rename", "fallocate", "ftruncate", "unlink", "chmod",
               "chown", "access", "newfstatat", "readlink"]
 
-FAULTS = ["disk_full", "every_call", "protected_folder", "read_only_medium", "kills", "drive_gone", "longest_path",
-          "every_byte", "two_copies"]
+FAULTS = ["disk_full", "every_call", "protected_folder", "read_only_file", "read_only_medium", "kills", "drive_gone",
+          "longest_path", "every_byte", "two_copies"]
 
 
 def main():
