@@ -97,11 +97,8 @@ CliResult printReports(const Contest& contest, const CliOptions& options) {
   const ReportRequest request = requestOf(contest, options);
   CliResult result;
   for (const Command* command : options.commands) {
-    const std::optional<std::string> report = command->report(contest, request);
-    if (!report) {
-      return failed("the contest lacks what '" + std::string(command->caption) + "' needs");
-    }
-    result.output += *report;
+    // Whatever a report needs has been looked for by now.
+    result.output += command->report(contest, request).value();
   }
   return result;
 }
@@ -116,14 +113,10 @@ CliResult writeAllReports(const Contest& contest, const std::string& folder, Fil
   CliResult result;
   for (const Command& command : commandTable()) {
     if (command.report == nullptr || command.question != ReportQuestion::nothing) continue;
-    const std::optional<std::string> report = command.report(contest, {});
-    const std::string caption(command.caption);
-    if (!report) {
-      result.error += "scorvane-report: no '" + caption + "': the contest lacks what it needs\n";
-      continue;
-    }
+    // A report that asks nothing needs nothing.
+    const std::string report = command.report(contest, {}).value();
     const std::string path = folder + "/" + fileNameOf(command);
-    if (!saveSafely(files, path, withWindowsLineEnds(*report))) {
+    if (!saveSafely(files, path, withWindowsLineEnds(report))) {
       return failed("cannot write '" + path + "'");
     }
   }

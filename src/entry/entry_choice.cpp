@@ -18,10 +18,8 @@ bool EntryChoice::take(const Dialog& dialog, ControlId id, ControlEvent event) {
   const std::optional<int> line = dialog.selection(id);
   if (id == kEntryClassList) {
     classIndex_ = line ? listed_.at(static_cast<std::size_t>(*line)) : kNone;
-  } else if (id == kEntryGroupList) {
-    groupIndex_ = line.value_or(kNone);
   } else {
-    return false;
+    groupIndex_ = line.value_or(kNone);
   }
   return classIndex_ != kNone && groupIndex_ != kNone;
 }

@@ -1,5 +1,6 @@
 #include "text/number.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <limits>
 
@@ -26,13 +27,8 @@ std::int32_t leadingNumber(std::string_view text) {
     if (value < kBeyond) value = value * 10 + (text[at] - '0');
   }
   if (negative) value = -value;
-  if (value > std::numeric_limits<std::int32_t>::max()) {
-    return std::numeric_limits<std::int32_t>::max();
-  }
-  if (value < std::numeric_limits<std::int32_t>::min()) {
-    return std::numeric_limits<std::int32_t>::min();
-  }
-  return static_cast<std::int32_t>(value);
+  using Limits = std::numeric_limits<std::int32_t>;
+  return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
 }
 
 std::string_view withoutOuterBlanks(std::string_view text) {

@@ -29,9 +29,9 @@ int movedPosition(const ScrollBar& bar, ScrollMove move, int thumb) {
     case ScrollMove::end:
       return bar.clamped(bar.maximum);
     case ScrollMove::track:
-      return bar.clamped(thumb);
+      break;
   }
-  return bar.position;
+  return bar.clamped(thumb);
 }
 
 }  // namespace
@@ -121,22 +121,21 @@ ReportView::Lines ReportView::linesAt(int top, int bottom) const {
           std::min(lineCount(), vertical_.position + bottom / metrics_.lineHeight)};
 }
 
-// Whether the text still has one line between these places, so far as its ends can tell.
-bool ReportView::holds(const std::string& text, std::size_t begin, std::size_t end) const {
-  return text.size() == textSize_ && text[end] == '\n' && (begin == 0 || text[begin - 1] == '\n');
+ReportView::Place ReportView::placeOf(int index) const {
+  const auto at = static_cast<std::size_t>(index);
+  return {at == 0 ? 0 : lineEnds_[at - 1] + 1, lineEnds_[at]};
+}
+
+// Whether the text is the one that was counted, so far as the ends of the line can tell.
+bool ReportView::isCounted(const std::string& text, int index) const {
+  if (text.size() != textSize_ || !hasLine(index)) return text.size() == textSize_;
+  const auto [begin, end] = placeOf(index);
+  return text[end] == '\n' && (begin == 0 || text[begin - 1] == '\n');
 }
 
 std::string_view ReportView::line(const std::string& text, int index) {
-  for (int attempt = 0; attempt < 2; ++attempt) {
-    if (index < 0 || index >= lineCount()) {
-      if (text.size() == textSize_) return {};
-    } else {
-      const auto at = static_cast<std::size_t>(index);
-      const std::size_t begin = at == 0 ? 0 : lineEnds_[at - 1] + 1;
-      const std::size_t end = lineEnds_[at];
-      if (holds(text, begin, end)) return std::string_view(text).substr(begin, end - begin);
-    }
-    indexLines(text);
-  }
-  return {};
+  if (!isCounted(text, index)) indexLines(text);
+  if (!hasLine(index)) return {};
+  const auto [begin, end] = placeOf(index);
+  return std::string_view(text).substr(begin, end - begin);
 }

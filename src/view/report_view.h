@@ -77,7 +77,14 @@ class ReportView {
 
  private:
   void indexLines(const std::string& text);
-  [[nodiscard]] bool holds(const std::string& text, std::size_t begin, std::size_t end) const;
+  /// From the first byte of a line up to its line end.
+  struct Place {
+    std::size_t begin = 0;
+    std::size_t end = 0;
+  };
+  [[nodiscard]] bool hasLine(int index) const { return index >= 0 && index < lineCount(); }
+  [[nodiscard]] Place placeOf(int index) const;
+  [[nodiscard]] bool isCounted(const std::string& text, int index) const;
   void setRanges();
   int moveVerticallyTo(int wanted);
 

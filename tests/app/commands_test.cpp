@@ -13,7 +13,7 @@
 namespace {
 
 constexpr int kCopy = 32777, kGenerate = 32867, kSheet = 32843, kReasons = 32823;
-constexpr int kHelp = 32857, kFont = 32809;
+constexpr int kHelp = 32857, kFont = 32809, kAbout = 104;
 
 // Chooses what a dialog must be told, and presses Enter.
 void operate(MemoryDialog& dialog) {
@@ -85,6 +85,8 @@ TEST_F(Commands, SayWhatIsInTheirWay) {
     dialog.pressCloseBox();
   };
   run(kSheet);
+  window.operate = [](MemoryDialog& dialog) { dialog.pressCloseBox(); };
+  run(kAbout);
   window.operate = operate;
   currentContest().reasonsOrder.reset(0, 3);
   run(kSheet);

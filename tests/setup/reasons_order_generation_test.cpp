@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "model/reasons_check.h"
 #include "tests/setup/reasons_contest.h"
 #include "tests/support/approved.h"
+#include "tests/support/reasons_check.h"
 
 namespace {
 
@@ -12,7 +12,7 @@ using Groups = std::vector<std::int32_t>;
 
 Groups groupsOfTakers(Contest contest) {
   EXPECT_EQ(generateReasonsOrder(contest, 7), std::nullopt);
-  EXPECT_EQ(reasonsOrderFault(contest), "");
+  EXPECT_TRUE(orderAgreesWithPlaces(contest));
   Groups groups;
   for (const auto& [number, place] : contest.reasonsPlace) groups.push_back(place.group);
   return groups;

@@ -97,6 +97,7 @@ TEST(ContestReader, MakesSenseOfOddLinesAsApproved) {
            {names, "x\r\ncategories:\tA\t\tB"},
            {smallFile().substr(0, smallFile().find(classes)), "contestDate:\tJuly 04, 2026\r\n"},
            {"County Fair", "Cou\rnty\r\r Fa\nir\r"},
+           {people, "101\tAnn\rLee"},  // cut off
            {"County Fair", "County\0 Fair"s},
            {"County Fair", "County\tFair"},
            {steers, "Steers\tYes\tF\t1,2,3\t1"},  // from before there were questions

@@ -84,6 +84,8 @@ TEST(SafeSave, WaitsForOtherProgramsAndLeavesTheirFilesAlone) {
   EXPECT_FALSE(disk.writtenOver);
   EXPECT_EQ(disk.files["a.scv"].content, kLonger);
   EXPECT_EQ(disk.files["a.scv.1"].content, "another program's");
+  for (int i = 2; i <= 100; ++i) disk.files["a.scv." + std::to_string(i)] = {};
+  EXPECT_FALSE(saveSafely(disk, "a.scv", kOld));
 }
 
 struct SafeSaveOnDisk : testing::Test {

@@ -5,6 +5,8 @@
 #include <array>
 #include <string>
 
+#include "view/report_text.h"
+
 namespace {
 
 using Four = std::array<int, 4>;
@@ -108,6 +110,14 @@ TEST(ReportView, GivesTheLinesOfAnAreaAndOfTheTextAsItIsNow) {
         Case{"longer\nand more\n", 1, "and more"}, Case{"longer and\nmore\n", 0, "longer and"}}) {
     EXPECT_EQ(view.line(c.now, c.index), c.line) << c.now << c.index;
   }
+}
+
+TEST(ReportText, EndsOnceItIsBeyondAllUse) {
+  std::string report(128U << 20U, 'x');
+  EXPECT_FALSE(endIfTooLong(report));
+  report += "x";
+  EXPECT_TRUE(endIfTooLong(report));
+  EXPECT_TRUE(report.ends_with("x\nThis report is too long; it ends here.\n"));
 }
 
 TEST(ReportView, ShrinksThePictureIntoTheWindow) {

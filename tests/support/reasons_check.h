@@ -1,0 +1,23 @@
+// Whether the reasons order and the contestants' places tell the same story.
+#pragma once
+
+#include <algorithm>
+
+#include "model/contest.h"
+
+/// A contestant stands in a cell of a reasons group exactly when the place names that cell.
+/// Deleting whoever stands in the first row or the first group deliberately breaks this.
+inline bool orderAgreesWithPlaces(const Contest& contest) {
+  const ReasonsOrder& order = contest.reasonsOrder;
+  return std::all_of(order.cells().begin(), order.cells().end(),
+                     [&](const auto& entry) {
+                       const auto [group, row] = entry.first;
+                       return group < contest.settings.numReasonsGroups &&
+                              reasonsPlaceOf(contest, entry.second) == ReasonsPlace{group, row};
+                     }) &&
+         std::all_of(
+             contest.reasonsPlace.begin(), contest.reasonsPlace.end(), [&](const auto& entry) {
+               const auto& [contestant, place] = entry;
+               return !place.isAssigned() || order.cell(place.position, place.group) == contestant;
+             });
+}
