@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Injects faults around saving and loading, and says what was seen.
 
-usage: faults.py [--build FOLDER] [FAULT...]     all faults when none is named; --list names them
+usage: faults.py [--build FOLDER] [FAULT[=COUNT]...]     all faults when none is named; --list names them
 
 Each fault ends in a line "FAULT: what was seen", or in "FAULT: FAILED, ..." and exit status 1. Faults that
 this machine does not allow are skipped with the reason; when all were, the exit status is 77.
@@ -14,10 +14,11 @@ import pathlib
 import random
 import re
 import shutil
-import signal
 import subprocess
 import sys
 import tempfile
+
+from session import SAVE_CALLS, Session, Skipped, Tracer, check_order, expect, unsafe_files
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 NOT_SAVED = "File Save Error: Your file did NOT save!"
@@ -28,58 +29,6 @@ NOBODY = 65534
 # name, with a spare copy beside it; in place where the folder takes no file, with a spare copy in the folder
 # for temporary files.
 WAYS = ["beside", "two names", "protected folder"]
-
-
-class Skipped(Exception):
-    """The machine does not allow the fault."""
-
-
-class Session:
-    """A running contest_session."""
-
-    def __init__(self, program, **options):
-        self.process = subprocess.Popen([program], stdin=subprocess.PIPE, stdout=subprocess.PIPE, **options)
-
-    def start(self, command, value=b""):
-        value = value if isinstance(value, bytes) else os.fsencode(value)
-        self.process.stdin.write(command.encode() + b" " + value + b"\n" if value else command.encode() + b"\n")
-        self.process.stdin.flush()
-
-    def answer(self):
-        return self.process.stdout.readline().decode("latin-1").rstrip("\n")
-
-    def __call__(self, command, value=b""):
-        self.start(command, value)
-        return self.answer()
-
-    def close(self):
-        self.process.stdin.close()
-        self.process.wait()
-        self.process.stdout.close()
-
-
-class Tracer:
-    """strace on a session's calls that concern some paths; `specs` says which calls are to fail."""
-
-    def __init__(self, session, paths, specs, log):
-        if shutil.which("strace") is None:
-            raise Skipped("strace is not installed")
-        filters = [f"-P{path}" for path in paths]
-        self.process = subprocess.Popen(["strace", "-y", "-o", log, "-p", str(session.process.pid), *filters,
-                                         *(f"--inject={spec}" for spec in specs)], stderr=subprocess.PIPE)
-        if b"attached" not in self.process.stderr.readline():
-            self.close()
-            raise Skipped("tracing a process is not allowed here")
-
-    def close(self):
-        self.process.send_signal(signal.SIGINT)
-        self.process.wait()
-        self.process.stderr.close()
-
-
-def expect(holds, what):
-    if not holds:
-        raise AssertionError(what)
 
 
 class Faults:
@@ -176,7 +125,7 @@ class Faults:
         tally = collections.Counter()
         for way in WAYS:
             calls = self.traced_save(way, [], tally)[0]
-            self.check_order(way, calls)
+            check_order(way, calls)
             for place, (name, _) in enumerate(calls):
                 before = collections.Counter(call for call, _ in calls[:place])
                 for error in ("EIO", "ENOSPC", "EACCES"):
@@ -208,7 +157,7 @@ class Faults:
         fault = f"{way}, {specs}: {answer!r}, {len(content)} bytes in the file, spare copies {spares}\n{text}"
         expect(answer in ("ok", NOT_SAVED), fault)
         if answer == "ok":
-            expect(content == new and not self.unsafe_files(text), fault)
+            expect(content == new and not unsafe_files(text), fault)
             tally["saved" if specs else "undisturbed"] += 1
         elif content in (old, new):
             tally["refused" if content == old else "unsure"] += 1
@@ -223,44 +172,6 @@ class Faults:
             spare.unlink(missing_ok=True)
         calls = [(line.partition("(")[0], line) for line in text.splitlines() if re.match(r"\w+\(", line)]
         return [call for call in calls if call[0] in SAVE_CALLS], "INJECTED" in text
-
-    @staticmethod
-    def unsafe_files(trace):
-        """The files of a trace that may not hold what was written last, as a call to make sure of it failed."""
-        written, unsafe = set(), set()
-        for line in trace.splitlines():
-            call, _, rest = line.partition("(")
-            path = re.match(r"\d+<(.*?)>", rest)  # of the file that the call works on
-            opened = re.search(r"O_WRONLY.* = \d+<(.*?)>$", rest)
-            if opened:
-                written.discard(opened[1])
-                unsafe.discard(opened[1])
-            elif path and call in ("write", "ftruncate", "fallocate"):
-                written.add(path[1])
-            if path and "INJECTED" in line:
-                if call == "fsync" or call in ("write", "close") and path[1] in written:
-                    unsafe.add(path[1])
-        return unsafe
-
-    @staticmethod
-    def check_order(way, calls):
-        """What must reach the medium before what, so that a power cut finds a whole file."""
-        lines = [line for _, line in calls]
-
-        def last(pattern):
-            return max((i for i, line in enumerate(lines) if re.match(pattern, line)), default=-1)
-
-        def first(pattern):
-            return min((i for i, line in enumerate(lines) if re.match(pattern, line)), default=-1)
-
-        steps = [last(r"write\(\d+<.*\.tmp>"), last(r"fsync\(\d+<.*\.tmp>")]
-        if way == "beside":
-            steps += [first(r"rename\("), last(r"fsync\(\d+<[^>]*(?<!\.tmp)>")]
-        else:
-            steps += [first(r"(write|ftruncate|fallocate)\(\d+<.*/contest\.scv>"),
-                      last(r"(write|ftruncate|fallocate)\(\d+<.*/contest\.scv>"),
-                      last(r"fsync\(\d+<.*/contest\.scv>"), first(r"unlink\(")]
-        expect(-1 not in steps and steps == sorted(steps), f"{way}: calls out of order {steps}\n" + "\n".join(lines))
 
     def protected_folder(self):
         """A folder that takes no new file."""
@@ -329,6 +240,25 @@ class Faults:
         expect(answer == f"Information: Invalid file name ({path}x) , or file does not exist.", answer)
         return "499 bytes: saved, saved again and opened; 500 bytes: message on opening"
 
+    def reports(self):
+        """A disk too full for the reports of scorvane-report."""
+        disk = self.small_disk(16 << 10)
+        contest = self.folder / "contest.scv"
+        self.contest(contest)
+        program = self.build / "scorvane-report"
+        with open("/dev/full", "wb") as full:
+            done = subprocess.run([program, contest, "Classes Report"], stdout=full, stderr=subprocess.PIPE, check=False)
+        expect(done.returncode == 1 and b"cannot be written" in done.stderr, done)
+        whole = self.new_folder() / "reports"
+        subprocess.run([program, contest, "--all", whole], check=True)
+        done = subprocess.run([program, contest, "--all", disk / "reports"], stderr=subprocess.PIPE, check=False)
+        expect(done.returncode == 1 and b"cannot write '" in done.stderr, done)
+        written = list((disk / "reports").iterdir())
+        expect(written, "no report had room")
+        for report in written:
+            expect(report.read_bytes() == (whole / report.name).read_bytes(), f"half of {report.name}")
+        return f"message and exit status 1 each time; of all reports the first {len(written)} whole, none by half"
+
     def every_byte(self):
         """Names of contestants, teams, coaches and classes, and file names, with each byte from 1 to 255."""
         session = self.session()
@@ -382,12 +312,8 @@ class Faults:
                 "always one of the two, whole")
 
 
-# The calls that open, write, flush and move files.
-SAVE_CALLS = ["openat", "read", "write", "fsync", "close", "rename", "fallocate", "ftruncate", "unlink", "chmod",
-              "chown", "access", "newfstatat", "readlink"]
-
 FAULTS = ["disk_full", "every_call", "protected_folder", "read_only_file", "read_only_medium", "kills", "drive_gone",
-          "longest_path", "every_byte", "two_copies"]
+          "longest_path", "every_byte", "two_copies", "reports"]
 
 
 def main():
@@ -401,11 +327,12 @@ def main():
         return 0
     failed = skipped = 0
     wanted = arguments or FAULTS
-    for name in wanted:
+    for word in wanted:
+        name, _, count = word.partition("=")
         faults = Faults(build)
         with faults.stack:
             try:
-                seen = getattr(faults, name)()
+                seen = getattr(faults, name)(*map(int, filter(None, [count])))
             except Skipped as reason:
                 seen, skipped = f"skipped, {reason}", skipped + 1
             except AssertionError as fault:
