@@ -16,15 +16,24 @@ CliResult failed(const std::string& reason) {
   return {kFailed, "", "scorvane-report: " + reason + "\n", {}};
 }
 
-std::variant<Contest, std::string> openContest(const std::string& path, FileSystem& files) {
-  const std::optional<std::string> file = files.readWhole(path);
-  if (!file) return "cannot read '" + path + "': it does not exist or cannot be opened";
-  std::variant<Contest, ContestFault> contest = readContest(*file);
-  if (auto* read = std::get_if<Contest>(&contest)) return std::move(*read);
-  if (std::get<ContestFault>(contest) == ContestFault::scoreCountMismatch) {
-    return "cannot read '" + path + "': the number of scores in the file is not correct";
+const char* reasonOf(ContestFault fault) {
+  switch (fault) {
+    case ContestFault::unreadable:
+      return "it does not exist or cannot be opened";
+    case ContestFault::scoreCountMismatch:
+      return "the number of scores in the file is not correct";
+    case ContestFault::notAContest:
+      break;
   }
-  return "cannot read '" + path + "': it is not a contest file, or is damaged";
+  return "it is not a contest file, or is damaged";
+}
+
+std::variant<Contest, std::string> openContest(const std::string& path, FileSystem& files) {
+  const std::unique_ptr<InputFile> file = files.openToRead(path);
+  std::variant<Contest, ContestFault> contest = ContestFault::unreadable;
+  if (file != nullptr) contest = readContest(*file);
+  if (auto* read = std::get_if<Contest>(&contest)) return std::move(*read);
+  return "cannot read '" + path + "': " + reasonOf(std::get<ContestFault>(contest));
 }
 
 std::string noSuchClass(std::int32_t number, const Contest& contest) {

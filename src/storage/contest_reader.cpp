@@ -36,10 +36,10 @@ std::optional<std::int32_t> readRecordCount(LineScanner& lines) {
   return count && *count >= 0 ? count : std::nullopt;
 }
 
-/// Room worth making for `count` promised lines: no more than the rest of the file can hold.
+/// Room worth making for `count` promised lines: no more than the file can hold.
 std::size_t plausibleCount(const LineScanner& lines, std::int32_t count) {
   constexpr std::size_t kShortestUsualLine = 8;
-  return std::min(static_cast<std::size_t>(count), lines.rest().size() / kShortestUsualLine);
+  return std::min(static_cast<std::size_t>(count), lines.size() / kShortestUsualLine);
 }
 
 Cuts parseCuts(std::string_view field) {
@@ -142,15 +142,15 @@ bool hasRoomForSlots(std::size_t slots, std::size_t teams, std::size_t fileSize)
   return slots * teams <= kSlotsPerByte * fileSize;
 }
 
-bool readTeams(LineScanner& lines, std::size_t fileSize, Contest& contest) {
+bool readTeams(LineScanner& lines, Contest& contest) {
   if (!skipTo(lines, kTeamsMarker)) return false;
   const auto count = readRecordCount(lines);
   if (!count) return false;
   const std::size_t slots = teamSlots(contest.settings);
-  if (!hasRoomForSlots(slots, static_cast<std::size_t>(*count), fileSize)) return false;
   for (std::int32_t i = 0; i < *count; ++i) {
     const auto line = lines.nextRecord();
-    if (!line) return false;
+    const std::size_t teams = static_cast<std::size_t>(i) + 1;
+    if (!line || !hasRoomForSlots(slots, teams, lines.size())) return false;
     addTeam(*line, slots, contest);
   }
   return true;
@@ -182,17 +182,14 @@ void rebuildReasonsOrder(Contest& contest) {
   if (order.cells().size() != assigned) unassignThoseWithoutCell(contest);
 }
 
-}  // namespace
-
-std::variant<Contest, ContestFault> readContest(std::string_view bytes) {
-  LineScanner lines(bytes);
+std::variant<Contest, ContestFault> readContest(LineScanner& lines) {
   Contest contest = newContest();
   if (!readSettings(lines, contest)) return ContestFault::notAContest;
   contest.groupLetters = makeGroupLetters(contest.settings.numGroups);
   if (!readClasses(lines, contest)) return ContestFault::notAContest;
   const auto contestants = readContestants(lines, contest);
   if (!contestants) return ContestFault::notAContest;
-  if (!readTeams(lines, bytes.size(), contest)) return ContestFault::notAContest;
+  if (!readTeams(lines, contest)) return ContestFault::notAContest;
   rebuildReasonsOrder(contest);
   if (!skipTo(lines, kScoresMarker)) return ContestFault::notAContest;
   const auto scoreCount = readCount(lines);
@@ -200,5 +197,19 @@ std::variant<Contest, ContestFault> readContest(std::string_view bytes) {
   const std::int64_t expected = std::int64_t{contest.classes.count()} * *contestants;
   if (*scoreCount != expected) return ContestFault::scoreCountMismatch;
   if (!readScores(lines, expected, contest)) return ContestFault::notAContest;
+  return contest;
+}
+
+}  // namespace
+
+std::variant<Contest, ContestFault> readContest(std::string_view bytes) {
+  LineScanner lines(bytes);
+  return readContest(lines);
+}
+
+std::variant<Contest, ContestFault> readContest(InputFile& file) {
+  LineScanner lines(file);
+  auto contest = readContest(lines);
+  if (lines.failed()) return ContestFault::unreadable;
   return contest;
 }

@@ -24,6 +24,21 @@ struct FileFacts {
   bool hasOtherNames = false;  ///< hard links: the same file under other names
 };
 
+/// A file open for reading, from its start on. Destroying it closes it.
+class InputFile {
+ public:
+  InputFile() = default;
+  InputFile(const InputFile&) = delete;
+  InputFile& operator=(const InputFile&) = delete;
+  virtual ~InputFile() = default;
+
+  /// How many bytes it holds, as far as the system tells beforehand: 0 for a pipe, say.
+  [[nodiscard]] virtual std::uint64_t size() const = 0;
+  /// Reads the next bytes, as many as there is room for at most (`room` above 0), and gives their
+  /// number: 0 at the end of the file only. Nothing when they cannot be read.
+  [[nodiscard]] virtual std::optional<std::size_t> read(char* to, std::size_t room) = 0;
+};
+
 /// A file open for writing. Destroying it closes it, whatever that brings.
 class OutputFile {
  public:
@@ -50,9 +65,11 @@ class FileSystem {
   FileSystem& operator=(const FileSystem&) = delete;
   virtual ~FileSystem() = default;
 
+  /// Null when the file cannot be opened or holds more than kMaxFileSize.
+  [[nodiscard]] virtual std::unique_ptr<InputFile> openToRead(const std::string& path) = 0;
   /// All bytes of a file; nothing when it cannot be opened or read to its end, is a folder, or
   /// holds more than kMaxFileSize.
-  [[nodiscard]] virtual std::optional<std::string> readWhole(const std::string& path) = 0;
+  [[nodiscard]] std::optional<std::string> readWhole(const std::string& path);
 
   /// The full name of the file that a path means, links followed; the file need not exist, its
   /// folder must. Nothing when there is no such place.

@@ -8,8 +8,8 @@
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
-#include <limits>
 #include <thread>
+#include <utility>
 
 #include "storage/file.h"
 
@@ -19,18 +19,14 @@ namespace {
 class Descriptor {
  public:
   explicit Descriptor(int number) : number_(number) {}
+  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
   Descriptor(const Descriptor&) = delete;
   Descriptor& operator=(const Descriptor&) = delete;
   ~Descriptor() { static_cast<void>(close()); }
 
   [[nodiscard]] bool isOpen() const { return number_ >= 0; }
   [[nodiscard]] int number() const { return number_; }
-  bool close() {
-    if (number_ < 0) return true;
-    const int number = number_;
-    number_ = -1;
-    return ::close(number) == 0;
-  }
+  bool close() { return number_ < 0 || ::close(std::exchange(number_, -1)) == 0; }
 
  private:
   int number_;
@@ -56,6 +52,26 @@ std::string folderOf(const std::string& path) {
   if (slash == std::string::npos) return ".";
   return slash == 0 ? "/" : path.substr(0, slash);
 }
+
+class PosixInputFile : public InputFile {
+ public:
+  PosixInputFile(Descriptor descriptor, std::uint64_t size)
+      : descriptor_(std::move(descriptor)), size_(size) {}
+
+  [[nodiscard]] std::uint64_t size() const override { return size_; }
+
+  std::optional<std::size_t> read(char* to, std::size_t room) override {
+    for (;;) {
+      const ssize_t count = ::read(descriptor_.number(), to, room);
+      if (count >= 0) return static_cast<std::size_t>(count);
+      if (errno != EINTR) return std::nullopt;
+    }
+  }
+
+ private:
+  Descriptor descriptor_;
+  std::uint64_t size_;
+};
 
 class PosixOutputFile : public OutputFile {
  public:
@@ -136,27 +152,13 @@ struct Turn {
 
 class PosixFileSystem : public FileSystem {
  public:
-  std::optional<std::string> readWhole(const std::string& path) override {
-    const Descriptor descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+  std::unique_ptr<InputFile> openToRead(const std::string& path) override {
+    Descriptor descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
     struct stat status {};
-    if (!descriptor.isOpen() || ::fstat(descriptor.number(), &status) != 0) return std::nullopt;
-    // One byte more than expected, so that the end of the file shows with the first read.
-    constexpr std::size_t kLeastRoom = 4096;
-    const auto expected = static_cast<std::uint64_t>(status.st_size);
-    if (expected > kMaxFileSize) return std::nullopt;
-    std::string bytes(std::max(static_cast<std::size_t>(expected) + 1, kLeastRoom), '\0');
-    std::size_t length = 0;
-    for (;;) {
-      const ssize_t count =
-          ::read(descriptor.number(), bytes.data() + length, bytes.size() - length);
-      if (count < 0 && errno == EINTR) continue;
-      if (count < 0 || length > kMaxFileSize) return std::nullopt;
-      if (count == 0) break;
-      length += static_cast<std::size_t>(count);
-      if (length == bytes.size()) bytes.resize(length * 2);
-    }
-    bytes.resize(length);
-    return bytes;
+    if (!descriptor.isOpen() || ::fstat(descriptor.number(), &status) != 0) return nullptr;
+    const auto size = static_cast<std::uint64_t>(status.st_size);
+    if (size > kMaxFileSize) return nullptr;
+    return std::make_unique<PosixInputFile>(std::move(descriptor), size);
   }
 
   std::optional<std::string> resolve(const std::string& path) override {

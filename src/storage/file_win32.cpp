@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 #include <vector>
 
 #include "storage/file.h"
@@ -12,6 +13,7 @@ namespace {
 class Handle {
  public:
   explicit Handle(HANDLE handle) : handle_(handle) {}
+  Handle(Handle&& other) noexcept : handle_(std::exchange(other.handle_, INVALID_HANDLE_VALUE)) {}
   Handle(const Handle&) = delete;
   Handle& operator=(const Handle&) = delete;
   ~Handle() { static_cast<void>(close()); }
@@ -19,10 +21,7 @@ class Handle {
   [[nodiscard]] bool isOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
   [[nodiscard]] HANDLE get() const { return handle_; }
   bool close() {
-    if (!isOpen()) return true;
-    const HANDLE handle = handle_;
-    handle_ = INVALID_HANDLE_VALUE;
-    return CloseHandle(handle) != 0;
+    return !isOpen() || CloseHandle(std::exchange(handle_, INVALID_HANDLE_VALUE)) != 0;
   }
 
  private:
@@ -95,6 +94,25 @@ std::string temporaryFolder() {
   return narrow({folder.data(), std::min<std::size_t>(length, MAX_PATH)});
 }
 
+class WindowsInputFile : public InputFile {
+ public:
+  WindowsInputFile(Handle handle, std::uint64_t size) : handle_(std::move(handle)), size_(size) {}
+
+  [[nodiscard]] std::uint64_t size() const override { return size_; }
+
+  std::optional<std::size_t> read(char* to, std::size_t room) override {
+    constexpr std::size_t kMostAtOnce = std::size_t{16} << 20;
+    const auto wanted = static_cast<DWORD>(std::min(room, kMostAtOnce));
+    DWORD count = 0;
+    if (ReadFile(handle_.get(), to, wanted, &count, nullptr) == 0) return std::nullopt;
+    return count;
+  }
+
+ private:
+  Handle handle_;
+  std::uint64_t size_;
+};
+
 class WindowsOutputFile : public OutputFile {
  public:
   explicit WindowsOutputFile(HANDLE handle) : handle_(handle) {}
@@ -164,27 +182,15 @@ void passOnRights(const std::wstring& from, const std::wstring& to) {
 
 class WindowsFileSystem : public FileSystem {
  public:
-  std::optional<std::string> readWhole(const std::string& path) override {
-    const Handle file(CreateFileW(systemPath(path).c_str(), GENERIC_READ, kShareAll, nullptr,
-                                  OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  std::unique_ptr<InputFile> openToRead(const std::string& path) override {
+    Handle file(CreateFileW(systemPath(path).c_str(), GENERIC_READ, kShareAll, nullptr,
+                            OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     LARGE_INTEGER size;
-    if (!file.isOpen() || GetFileType(file.get()) != FILE_TYPE_DISK) return std::nullopt;
-    if (GetFileSizeEx(file.get(), &size) == 0) return std::nullopt;
-    if (static_cast<std::uint64_t>(size.QuadPart) > kMaxFileSize) return std::nullopt;
-    std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
-    std::size_t length = 0;
-    while (length < bytes.size()) {
-      constexpr std::size_t kMostAtOnce = std::size_t{16} << 20;
-      const auto wanted = static_cast<DWORD>(std::min(bytes.size() - length, kMostAtOnce));
-      DWORD count = 0;
-      if (ReadFile(file.get(), bytes.data() + length, wanted, &count, nullptr) == 0) {
-        return std::nullopt;
-      }
-      if (count == 0) break;
-      length += count;
-    }
-    bytes.resize(length);
-    return bytes;
+    if (!file.isOpen() || GetFileType(file.get()) != FILE_TYPE_DISK) return nullptr;
+    if (GetFileSizeEx(file.get(), &size) == 0) return nullptr;
+    const auto bytes = static_cast<std::uint64_t>(size.QuadPart);
+    if (bytes > kMaxFileSize) return nullptr;
+    return std::make_unique<WindowsInputFile>(std::move(file), bytes);
   }
 
   std::optional<std::string> resolve(const std::string& path) override {

@@ -1,12 +1,15 @@
-// Lines and fields of a contest file, as views into the one buffer it was read into.
+// Lines and fields of a contest file, as views into the buffer it is read into.
 #pragma once
 
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
-/// Takes a buffer apart into lines. Only CR LF ends a line: a CR without LF is dropped, an LF
+#include "storage/file.h"
+
+/// Takes bytes apart into lines. Only CR LF ends a line: a CR without LF is dropped, an LF
 /// without CR is a character like any other. What follows the last CR LF is not a line, since a
 /// file cut off there may have lost the end of a number. A line counts up to its first NUL, and
 /// up to kMaxLine bytes.
@@ -14,8 +17,11 @@ class LineScanner {
  public:
   static constexpr std::size_t kMaxLine = 500;
 
-  /// The bytes must outlive the scanner.
+  /// Lines of bytes that are all there already and outlive the scanner.
   explicit LineScanner(std::string_view bytes);
+  /// Lines of a file that outlives the scanner. It is read piece by piece: a large contest then
+  /// needs no memory for its file, and what was read is taken apart while it is in the cache.
+  explicit LineScanner(InputFile& file);
 
   /// The next line without its end, nothing after the last one. The view holds until the next
   /// call.
@@ -27,17 +33,32 @@ class LineScanner {
     return line && !line->empty() ? line : std::nullopt;
   }
 
-  /// The bytes not read yet: no count in the file can promise more records than that.
-  [[nodiscard]] std::string_view rest() const { return bytes_.substr(position_); }
-  /// Passes over bytes of the rest that the caller took itself.
+  /// What follows the last line, as far as it is at hand: any number of bytes, up to the end.
+  [[nodiscard]] std::string_view atHand() const { return bytes_.substr(position_); }
+  /// Passes over bytes at hand that the caller took itself.
   void skip(std::size_t count) { position_ += count; }
+
+  /// The bytes of the whole input, as far as is known: never fewer than were read. No count in the
+  /// file can promise more records than that.
+  [[nodiscard]] std::size_t size() const { return size_; }
+  /// Whether the file could not be read on. The lines ended early then.
+  [[nodiscard]] bool failed() const { return failed_; }
 
  private:
   [[nodiscard]] std::optional<std::string_view> nextPiecewise();
+  [[nodiscard]] std::optional<std::size_t> findReturn();
+  [[nodiscard]] bool fill();
+  void makeRoom();
   [[nodiscard]] std::string_view withinLimits(std::string_view line) const;
 
-  std::string_view bytes_;
-  std::size_t position_ = 0;
+  InputFile* file_ = nullptr;
+  std::vector<char> buffer_;  ///< what `bytes_` views when there is a file
+  std::size_t read_ = 0;      ///< bytes of the file so far
+  std::size_t size_ = 0;
+  bool failed_ = false;
+
+  std::string_view bytes_;    ///< those at hand, behind lines that were taken already
+  std::size_t position_ = 0;  ///< of the next line
   bool hasNul_ = false;
   std::string pieces_;
 };

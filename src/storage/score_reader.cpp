@@ -69,17 +69,6 @@ std::size_t parseWrittenLine(std::string_view bytes, ScoreLine& score) {
   return static_cast<std::size_t>(at + 1 - bytes.data());
 }
 
-/// The next score line, as it is written or otherwise; nothing when there is none.
-std::optional<ScoreLine> nextScoreLine(LineScanner& lines) {
-  ScoreLine score;
-  if (const std::size_t length = parseWrittenLine(lines.rest(), score); length > 0) {
-    lines.skip(length);
-    return score;
-  }
-  const auto line = lines.nextRecord();
-  return line ? std::optional(parseScoreLine(*line)) : std::nullopt;
-}
-
 /// Gathers the records of contestants; the lines of one contestant usually stand together, and
 /// contestants in ascending order, so that nothing needs sorting.
 class ScoreCollector {
@@ -145,9 +134,15 @@ class ScoreCollector {
 bool readScores(LineScanner& lines, std::int64_t lineCount, Contest& contest) {
   ScoreCollector collector(contest);
   for (std::int64_t i = 0; i < lineCount; ++i) {
-    const auto score = nextScoreLine(lines);
-    if (!score) return false;
-    collector.add(*score);
+    ScoreLine score;
+    if (const std::size_t length = parseWrittenLine(lines.atHand(), score); length > 0) {
+      lines.skip(length);
+    } else if (const auto line = lines.nextRecord()) {
+      score = parseScoreLine(*line);
+    } else {
+      return false;
+    }
+    collector.add(score);
   }
   contest.scores = collector.take();
   // Contestants have an entry, and so a rank, before there are classes.

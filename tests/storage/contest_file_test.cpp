@@ -8,6 +8,7 @@
 #include "storage/contest_reader.h"
 #include "storage/contest_writer.h"
 #include "tests/storage/contest_text.h"
+#include "tests/storage/memory_files.h"
 #include "tests/support/contest_builder.h"
 #include "tools/contest_maker.h"
 
@@ -15,8 +16,19 @@ namespace {
 
 using namespace std::string_literals;
 
+using Reading = std::variant<Contest, ContestFault>;
+
+/// The bytes read as a whole, and piece by piece from a file, which must come to the same.
+Reading readBothWays(std::string_view bytes) {
+  MemoryFiles disk;
+  disk.files["contest.scv"].content = bytes;
+  Reading whole = readContest(bytes);
+  EXPECT_TRUE(whole == readContest(*disk.openToRead("contest.scv"))) << bytes;
+  return whole;
+}
+
 Contest read(const std::string& bytes) {
-  auto reading = readContest(bytes);
+  auto reading = readBothWays(bytes);
   EXPECT_TRUE(std::holds_alternative<Contest>(reading)) << bytes;
   return std::holds_alternative<Contest>(reading) ? std::get<Contest>(reading) : Contest{};
 }
@@ -24,7 +36,7 @@ Contest read(const std::string& bytes) {
 /// Which lines of the small contest changed, once the bytes were read and written again; or why
 /// they were refused.
 std::string changesIn(std::string_view bytes) {
-  const auto reading = readContest(bytes);
+  const auto reading = readBothWays(bytes);
   if (const auto* fault = std::get_if<ContestFault>(&reading)) {
     return *fault == ContestFault::notAContest ? "  no contest\n" : "  wrong number of scores\n";
   }
@@ -162,6 +174,20 @@ TEST(ContestReader, NoticesEveryTruncationAndNeedsNeitherSettingsNorClasses) {
                    "~~~~~Teams~~~~~", "0", "~~~~~Scores~~~~~", "0"}));
   EXPECT_EQ(bare.scores.size(), 2U);
   EXPECT_EQ(bare.categories, std::vector<std::string>{"none"});
+}
+
+TEST(ContestReader, NoticesEveryReadThatFails) {
+  MemoryFiles disk;
+  disk.files["contest.scv"].content = smallFile();
+  int failed = 0;
+  for (disk.failingCall = 2;; ++disk.failingCall) {
+    disk.calls = 0;
+    const Reading reading = readContest(*disk.openToRead("contest.scv"));
+    if (disk.calls < disk.failingCall) break;
+    EXPECT_TRUE(reading == Reading(ContestFault::unreadable)) << disk.failingCall;
+    ++failed;
+  }
+  EXPECT_GT(failed, 50);
 }
 
 // The longest texts and the oddest ones: what would read as the end of a field or a line cannot
