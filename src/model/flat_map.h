@@ -1,9 +1,12 @@
 // An ordered map kept as one sorted array. Contest files come in ascending number order, so most
-// insertions append; walking all contestants reads memory in a straight line.
+// insertions append; walking all contestants reads memory in a straight line, and as numbers have
+// few gaps, a look-up hardly needs to search.
 #pragma once
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -36,15 +39,13 @@ class FlatMap {
   [[nodiscard]] bool empty() const { return entries_.empty(); }
   /// The entry with the greatest key; the map must not be empty.
   [[nodiscard]] const Entry& back() const { return entries_.back(); }
-  /// The entry at a position of the ascending order, `position` below size().
-  [[nodiscard]] const Entry& at(std::size_t position) const { return entries_[position]; }
 
   /// First entry whose key is not below `key`.
   [[nodiscard]] iterator lowerBound(const Key& key) {
-    return std::lower_bound(entries_.begin(), entries_.end(), key, isBelow);
+    return entries_.begin() + lowerPosition(key);
   }
   [[nodiscard]] const_iterator lowerBound(const Key& key) const {
-    return std::lower_bound(entries_.begin(), entries_.end(), key, isBelow);
+    return entries_.begin() + lowerPosition(key);
   }
 
   /// The value of a key, or null.
@@ -58,10 +59,8 @@ class FlatMap {
   }
   [[nodiscard]] bool contains(const Key& key) const { return find(key) != nullptr; }
 
-  /// Position of a key in the ascending order; size() when it is missing. `expected` is looked at
-  /// first: keys asked for in ascending order are found at once behind the one found last.
-  [[nodiscard]] std::size_t positionOf(const Key& key, std::size_t expected = 0) const {
-    if (expected < entries_.size() && entries_[expected].first == key) return expected;
+  /// Position of a key in the ascending order; size() when it is missing.
+  [[nodiscard]] std::size_t positionOf(const Key& key) const {
     const auto place = lowerBound(key);
     const bool found = place != entries_.end() && !(key < place->first);
     return found ? static_cast<std::size_t>(place - entries_.begin()) : entries_.size();
@@ -90,6 +89,22 @@ class FlatMap {
 
  private:
   static bool isBelow(const Entry& entry, const Key& key) { return entry.first < key; }
+
+  // Position of the first entry whose key is not below `key`.
+  [[nodiscard]] std::ptrdiff_t lowerPosition(const Key& key) const {
+    const auto size = static_cast<std::int64_t>(entries_.size());
+    std::int64_t low = 0, high = size;
+    if constexpr (std::is_integral_v<Key> && sizeof(Key) < sizeof(std::int64_t)) {
+      // Between two whole numbers lie at most as many others as their distance allows, so that
+      // without gaps only one position is left.
+      if (size == 0) return 0;
+      const auto wanted = static_cast<std::int64_t>(key);
+      high = std::clamp(wanted - entries_.front().first, low, size);
+      low = std::clamp(size - 1 - (entries_.back().first - wanted), low, high);
+    }
+    const auto begin = entries_.begin();
+    return std::lower_bound(begin + low, begin + high, key, isBelow) - begin;
+  }
 
   static void keepLastOfEachKey(std::vector<Entry>& entries) {
     std::size_t kept = 0;

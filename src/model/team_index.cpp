@@ -2,13 +2,11 @@
 
 TeamIndex::TeamIndex(const Contest& contest)
     : contest_(contest), teams_(contest.contestantNames.size()) {
-  std::size_t expected = 0;
   for (const auto& [name, team] : contest.teams) {
     for (const ContestantNumber number : team.members) {
-      const std::size_t position = contest.contestantNames.positionOf(number, expected);
+      const std::size_t position = contest.contestantNames.positionOf(number);
       if (position == teams_.size()) continue;
       if (teams_[position] == nullptr) teams_[position] = &name;
-      expected = position + 1;
     }
   }
 }

@@ -69,8 +69,7 @@ class TeamLines {
     return contestantName(contest_, team.members[slot]);
   }
   [[nodiscard]] std::int32_t memberScore(const Team& team, std::size_t slot) const {
-    std::size_t position = 0;
-    return totalsOf(contest_, totals_, team.members[slot], position).score;
+    return totalsOf(contest_, totals_, team.members[slot]).score;
   }
   [[nodiscard]] std::string memberScoreText(const Team& team, std::size_t slot) const {
     if (memberName(team, slot).empty()) return "      ";

@@ -20,24 +20,17 @@ RankValues sumOf(const std::vector<RankValues>& members, const std::vector<std::
 // An empty slot counts as a member with zeros, even if its number kept scores from a contestant who
 // was deleted: nobody could see where the team's points come from.
 RankValues memberTotals(const Contest& contest, const std::vector<IndividualRankEntry>& totals,
-                        ContestantNumber number, std::size_t& position) {
-  const std::size_t found = contest.contestantNames.positionOf(number, position);
-  if (found == contest.contestantNames.size()) return {};
-  if (!contest.contestantNames.at(found).second.empty()) {
-    return totalsOf(contest, totals, number, position);
-  }
-  position = found + 1;
-  return {};
+                        ContestantNumber number) {
+  const bool isEmpty = contestantName(contest, number).empty();
+  return isEmpty ? RankValues{} : totalsOf(contest, totals, number);
 }
 
 }  // namespace
 
 RankValues totalsOf(const Contest& contest, const std::vector<IndividualRankEntry>& totals,
-                    ContestantNumber number, std::size_t& position) {
-  const std::size_t found = contest.scores.positionOf(number, position);
-  if (found == totals.size()) return {};
-  position = found + 1;
-  return totals[found].values;
+                    ContestantNumber number) {
+  const std::size_t position = contest.scores.positionOf(number);
+  return position == totals.size() ? RankValues{} : totals[position].values;
 }
 
 std::vector<TeamRankEntry> rankTeams(const Contest& contest,
@@ -48,13 +41,12 @@ std::vector<TeamRankEntry> rankTeams(const Contest& contest,
   std::vector<RankValues> members;
   std::vector<std::int32_t> scores;
   std::vector<std::size_t> counting;
-  std::size_t position = 0;
   for (auto team = contest.teams.begin(); team != contest.teams.end(); ++team) {
     members.clear();
     scores.clear();
     for (std::size_t slot = 0; slot < regularSlots(contest.settings, team->second); ++slot) {
       const ContestantNumber number = team->second.members[slot];
-      members.push_back(memberTotals(contest, totals, number, position));
+      members.push_back(memberTotals(contest, totals, number));
       scores.push_back(members.back().score);
     }
     chooseCountingSlots(contest.settings, scores, counting);

@@ -13,11 +13,10 @@ struct TeamRankEntry {
 };
 
 /// The sums of a number among `totals`, which contestantTotals() made of the same contest; zeros
-/// for a number without scores. `position` is where the number was expected, 0 if unknown, and
-/// becomes where the next higher number is to be expected.
+/// for a number without scores.
 [[nodiscard]] RankValues totalsOf(const Contest& contest,
                                   const std::vector<IndividualRankEntry>& totals,
-                                  ContestantNumber number, std::size_t& position);
+                                  ContestantNumber number);
 
 /// All teams, best first. A team's values are the sums over the numToScore best of its regular
 /// members, the very same members for the score and for the values that break ties. A slot whose

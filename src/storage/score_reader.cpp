@@ -96,11 +96,8 @@ class ScoreCollector {
 
   void endRun() {
     if (run_.empty()) return;
-    // Runs come in the order of the contestants.
-    const std::size_t position = contest_.contestantNames.positionOf(number_, expected_);
-    if (position < contest_.contestantNames.size()) {
+    if (contest_.contestantNames.contains(number_)) {
       runs_.emplace_back(number_, ClassScores::fromEntries({run_.begin(), run_.end()}));
-      expected_ = position + 1;
     }
     run_.clear();
   }
@@ -124,7 +121,6 @@ class ScoreCollector {
 
   const Contest& contest_;
   ContestantNumber number_ = 0;
-  std::size_t expected_ = 0;  ///< position of the contestant whose run comes next, usually
   std::vector<ClassScores::Entry> run_;
   std::vector<Run> runs_;
 };

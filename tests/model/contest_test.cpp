@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <ctime>
 
 #include "model/new_contest.h"
@@ -36,6 +37,27 @@ TEST(Contest, HasScoresOnceAnythingWasEntered) {
     EXPECT_FALSE(hasScores(contest));
     contest.scores[101][1] = entered;
     EXPECT_TRUE(hasScores(contest));
+  }
+}
+
+// Against a map that searches: without gaps, with gaps at either end, and at the ends of all
+// numbers.
+TEST(FlatMap, FindsNumbersAmongGaps) {
+  for (const std::vector<ContestantNumber>& numbers : {std::vector{101, 102, 103, 104},
+                                                       {7, 101, 102, 103},
+                                                       {101, 102, 105, 200},
+                                                       {101},
+                                                       {INT32_MIN, -1, 0, INT32_MAX},
+                                                       {}}) {
+    FlatMap<ContestantNumber, int> map;
+    for (const ContestantNumber number : numbers) map[number] = number;
+    for (const ContestantNumber wanted : {INT32_MIN, -2, -1, 0, 1, 6, 7, 8, 100, 101, 102, 103, 104,
+                                          105, 106, 199, 200, 201, INT32_MAX}) {
+      const auto place = std::lower_bound(numbers.begin(), numbers.end(), wanted);
+      EXPECT_EQ(map.lowerBound(wanted) - map.begin(), place - numbers.begin()) << wanted;
+      const bool found = place != numbers.end() && *place == wanted;
+      EXPECT_EQ(map.find(wanted), found ? &map[wanted] : nullptr) << wanted;
+    }
   }
 }
 
