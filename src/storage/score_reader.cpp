@@ -39,17 +39,18 @@ constexpr std::size_t kLongestWritten = 64;
 /// null when they do not stand there. Of a number with more than nine digits a digit is left where
 /// the field should end.
 const char* takeNumber(const char* at, char following, std::int32_t& number) {
-  constexpr std::ptrdiff_t kSafeDigits = 9;
+  constexpr std::size_t kSafeDigits = 9;
   const bool negative = *at == '-';
   if (negative) ++at;
-  const char* const first = at;
-  const char* const last = first + kSafeDigits;
   std::uint32_t value = 0;
-  for (; at < last && *at >= '0' && *at <= '9'; ++at) {
-    value = value * 10 + static_cast<std::uint32_t>(*at - '0');
+  std::size_t digits = 0;
+  for (; digits < kSafeDigits; ++digits) {
+    const auto digit = static_cast<std::uint32_t>(at[digits] - '0');
+    if (digit > 9) break;
+    value = value * 10 + digit;
   }
   number = static_cast<std::int32_t>(negative ? 0 - value : value);
-  return at > first && *at == following ? at + 1 : nullptr;
+  return digits > 0 && at[digits] == following ? at + digits + 1 : nullptr;
 }
 
 /// Takes apart a score line that stands just as it is written; gives its length with its end, 0
