@@ -4,6 +4,7 @@
 #include <utility>
 #include <variant>
 
+#include "cli/system.h"
 #include "storage/contest_reader.h"
 #include "storage/safe_save.h"
 #include "text/line_ends.h"
@@ -31,7 +32,10 @@ const char* reasonOf(ContestFault fault) {
 std::variant<Contest, std::string> openContest(const std::string& path, FileSystem& files) {
   const std::unique_ptr<InputFile> file = files.openToRead(path);
   std::variant<Contest, ContestFault> contest = ContestFault::unreadable;
-  if (file != nullptr) contest = readContest(*file);
+  if (file != nullptr) {
+    expectMemory(2 * static_cast<std::size_t>(file->size()));
+    contest = readContest(*file);
+  }
   if (auto* read = std::get_if<Contest>(&contest)) return std::move(*read);
   return "cannot read '" + path + "': " + reasonOf(std::get<ContestFault>(contest));
 }
