@@ -1,13 +1,15 @@
 #!/usr/bin/env python3
 """layout.py CONTEST FOLDER: lays out a contest as other programs import it.
 
-Tables become tab-separated files for SQLite, and a flat spreadsheet, with a row for each contestant and
-sums and ranks as formulas, serves LibreOffice.
+Tables become tab-separated files for SQLite; LibreOffice gets a flat spreadsheet with a row for each
+contestant and each team, and formulas for sums, best members and standings.
 """
 
 import pathlib
 import sys
 from xml.sax.saxutils import escape
+
+LISTED = 21  # places of a standing: those that a report lists, and one more to see ties at its end
 
 HEAD = """<?xml version="1.0" encoding="UTF-8"?>
 <office:document xmlns:office="urn:oasis:names:tc:opendocument:xmlns:office:1.0"
@@ -15,9 +17,9 @@ HEAD = """<?xml version="1.0" encoding="UTF-8"?>
  xmlns:text="urn:oasis:names:tc:opendocument:xmlns:text:1.0"
  xmlns:of="urn:oasis:names:tc:opendocument:xmlns:of:1.2"
  office:version="1.2" office:mimetype="application/vnd.oasis.opendocument.spreadsheet">
-<office:body><office:spreadsheet><table:table table:name="Scores">
+<office:body><office:spreadsheet>
 """
-TAIL = "</table:table></office:spreadsheet></office:body></office:document>\n"
+TAIL = "</office:spreadsheet></office:body></office:document>\n"
 
 
 def sections(contest):
@@ -48,37 +50,85 @@ def column(index):
     return (chr(64 + index // 26) if index >= 26 else "") + chr(65 + index % 26)
 
 
+def words(value):
+    return f'<table:table-cell office:value-type="string"><text:p>{escape(value)}</text:p></table:table-cell>'
+
+
 def number(value):
     return f'<table:table-cell office:value-type="float" office:value="{value}"/>'
 
 
 def formula(text):
-    return f'<table:table-cell office:value-type="float" table:formula="of:={escape(text)}"/>'
+    return f'<table:table-cell table:formula="of:={escape(text)}"/>'
 
 
-def write_sheet(parts, folder):
-    """Columns: name, three scores a class, total, total of reasons, placings in reasons classes, a key
-    that orders by them, and the rank of the key."""
-    classes = parts["Classes"]
+def write_table(sheet, name, rows):
+    sheet.write(f'<table:table table:name="{name}">\n')
+    for row in rows:
+        sheet.write(f"<table:table-row>{''.join(row)}</table:table-row>\n")
+    sheet.write("</table:table>\n")
+
+
+def key(total, reasons, placings):
+    """What orders a standing, most important first: none of the later two reaches 1000."""
+    return f"{total}*1000000+{reasons}*1000-{placings}"
+
+
+def score_rows(parts):
+    """A row for each contestant: name, total, reasons and placings in classes with reasons, a key that
+    orders by them, and three scores a class. Who has no name gets no place."""
+    first = 6
     names = {c[0]: c[1] for c in parts["Contestants"]}
+    with_reasons = [k for k, c in enumerate(parts["Classes"]) if c[1] == "Yes"]
+    last = column(first + 3 * len(parts["Classes"]) - 2)
+    for row, (contestant, values) in enumerate(scores_of(parts).items(), 1):
+        def over_reasons(shift):
+            return "SUM(" + ";".join(f"[.{column(first - 1 + 3 * k + shift)}{row}]" for k in with_reasons) + ")"
+
+        name = names[contestant]
+        total = formula(f"SUM([.{column(first - 1)}{row}:.{last}{row}])")
+        order = key(f"[.B{row}]", f"[.C{row}]", f"[.D{row}]")
+        yield [words(name), total, formula(over_reasons(1)), formula(over_reasons(0)),
+               formula(order) if name else number(-1), *map(number, values)]
+
+
+def team_rows(parts):
+    """A row for each team: the same columns, summed over its best three members. The fourth's place
+    among the members, the last of equal ones, stands in a column of its own."""
+    rows = {contestant: row for row, contestant in enumerate(scores_of(parts), 1)}
+    for row, team in enumerate(parts["Teams"], 1):
+        first, last = rows[team[2]], rows[team[5]]
+        scores = [f"[Scores.B{r}]" for r in range(first, last + 1)]
+        least = f"MIN({';'.join(scores)})"
+        fourth = f"IF({scores[3]}={least};4;IF({scores[2]}={least};3;IF({scores[1]}={least};2;1)))"
+        sums = [formula(f"SUM([Scores.{c}{first}:.{c}{last}])-INDEX([Scores.{c}{first}:.{c}{last}];[.F{row}])")
+                for c in "BCD"]
+        yield [words(team[0]), *sums, formula(key(f"[.B{row}]", f"[.C{row}]", f"[.D{row}]")),
+               formula(fourth)]
+
+
+def standing(table, count):
+    """The best rows of a table: name, total, reasons, placings."""
+    for place in range(1, LISTED + 1):
+        found = f"MATCH(LARGE([{table}.$E$1:.$E${count}];{place});[{table}.$E$1:.$E${count}];0)"
+        yield [formula(f"INDEX([{table}.{c}$1:.{c}${count}];{found})") for c in "ABCD"]
+
+
+def scores_of(parts):
     scores = {}
     for record in parts["Scores"]:
         scores.setdefault(record[0], []).extend(record[3:6])
-    last = 3 * len(classes)
-    with_reasons = [k for k, c in enumerate(classes) if c[1] == "Yes"]
-    total, reasons, placings, key = (column(last + i) for i in (1, 2, 3, 4))
+    return scores
+
+
+def write_sheet(parts, folder):
+    """The standings come first, as only the first table is exported."""
     with open(folder / "contest.fods", "w", encoding="utf-8") as sheet:
         sheet.write(HEAD)
-        for row, (contestant, values) in enumerate(scores.items(), 1):
-            summed = [";".join(f"[.{column(3 * k + shift)}{row}]" for k in with_reasons) or "0"
-                      for shift in (2, 1)]
-            cells = [f'<table:table-cell office:value-type="string"><text:p>{escape(names[contestant])}'
-                     "</text:p></table:table-cell>", *map(number, values),
-                     formula(f"SUM([.B{row}:.{column(last)}{row}])"),
-                     formula(f"SUM({summed[0]})"), formula(f"SUM({summed[1]})"),
-                     formula(f"[.{total}{row}]*1000000+[.{reasons}{row}]*1000-[.{placings}{row}]"),
-                     formula(f"RANK([.{key}{row}];[.{key}1:.{key}{len(scores)}])")]
-            sheet.write(f"<table:table-row>{''.join(cells)}</table:table-row>\n")
+        write_table(sheet, "Standings", [*standing("Scores", len(scores_of(parts))),
+                                         *standing("Teams", len(parts["Teams"]))])
+        write_table(sheet, "Scores", score_rows(parts))
+        write_table(sheet, "Teams", team_rows(parts))
         sheet.write(TAIL)
 
 

@@ -19,11 +19,12 @@ CREATE TEMP TABLE totals AS
   FROM scores JOIN classes USING (class)
   GROUP BY number;
 
-SELECT name, team, score, totals.reasons, placings
+.mode csv
+SELECT name, score, totals.reasons, placings, team
 FROM totals JOIN contestants USING (number) LEFT JOIN members USING (number)
 WHERE name <> ''
 ORDER BY score DESC, totals.reasons DESC, placings
-LIMIT 20;
+LIMIT 21;
 
 -- The best three of the four regular members count.
 WITH ranked AS (
@@ -36,4 +37,4 @@ FROM ranked
 WHERE place <= 3
 GROUP BY team
 ORDER BY score DESC, reasons DESC, placings
-LIMIT 20;
+LIMIT 21;
