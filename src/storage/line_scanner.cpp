@@ -36,8 +36,8 @@ bool LineScanner::fill() {
 
 /// Moves what is at hand to the front of the buffer.
 void LineScanner::makeRoom() {
-  const std::string_view kept = atHand();
-  std::copy(kept.begin(), kept.end(), buffer_.begin());
+  const std::string kept(atHand());
+  kept.copy(buffer_.data(), kept.size());
   // No line of a contest is that long, but a damaged file may consist of a single one.
   if (kept.size() > buffer_.size() / 2) buffer_.resize(buffer_.size() * 2);
   bytes_ = {buffer_.data(), kept.size()};
