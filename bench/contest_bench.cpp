@@ -10,6 +10,8 @@
 #include "storage/contest_writer.h"
 #include "tools/contest_maker.h"
 
+namespace scorvane {
+
 namespace {
 
 const Contest& contestOf(std::int64_t contestants) {
@@ -69,3 +71,5 @@ const bool kRegistered = [] {
 }();
 
 }  // namespace
+
+}  // namespace scorvane

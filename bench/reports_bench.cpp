@@ -5,6 +5,8 @@
 #include "app/command_table.h"
 #include "tests/support/contest_builder.h"
 
+namespace scorvane {
+
 namespace {
 
 constexpr std::int32_t kClasses = 30;
@@ -58,3 +60,5 @@ const bool kRegistered = [] {
 }();
 
 }  // namespace
+
+}  // namespace scorvane

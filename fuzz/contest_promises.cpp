@@ -5,8 +5,11 @@
 
 #include "fuzz/checks.h"
 #include "model/numbering.h"
+#include "session/open_contest.h"
 #include "storage/contest_writer.h"
 #include "tests/support/reasons_check.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -158,3 +161,5 @@ void ContestPromises::check(const Contest& contest) {
   }
   require(writeContest(readAgain(savedAgain)) == savedAgain, "saving again changes nothing");
 }
+
+}  // namespace scorvane

@@ -6,6 +6,8 @@
 #include "model/contest.h"
 #include "tests/ui/memory_dialog.h"
 
+namespace scorvane {
+
 /// Watches a session for the few actions that deliberately loosen a promise, and checks the rest.
 class ContestPromises {
  public:
@@ -25,3 +27,5 @@ class ContestPromises {
   bool teamsCleared_ = false;
   std::set<ContestantNumber> strays_;  ///< who stands in a cell without having that place
 };
+
+}  // namespace scorvane

@@ -12,6 +12,8 @@
 #include "storage/contest_writer.h"
 #include "tests/storage/memory_files.h"
 
+namespace scorvane {
+
 namespace {
 
 void requireShortLines(std::string_view bytes) {
@@ -41,3 +43,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   require(readAgain(writeContest(loaded)) == loaded, "saving again changes nothing");
   return 0;
 }
+
+}  // namespace scorvane

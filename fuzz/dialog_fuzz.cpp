@@ -16,10 +16,13 @@
 #include "app/contest_file_commands.h"
 #include "fuzz/checks.h"
 #include "fuzz/contest_promises.h"
-#include "storage/contest_commands.h"
+#include "session/contest_file.h"
+#include "session/open_contest.h"
 #include "storage/contest_writer.h"
 #include "tests/app/memory_main_window.h"
 #include "tools/contest_maker.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -187,3 +190,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   for (int i = 0; i < kMostCommands && !bytes.atEnd(); ++i) operator_.runOneCommand();
   return 0;
 }
+
+}  // namespace scorvane

@@ -15,7 +15,9 @@
 #include "output/print_layout.h"
 #include "storage/contest_format.h"
 #include "storage/contest_reader.h"
-#include "view/report_text.h"
+#include "text/report_marks.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -142,3 +144,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   return 0;
 }
+
+}  // namespace scorvane

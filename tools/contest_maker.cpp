@@ -10,6 +10,8 @@
 #include "model/numbering.h"
 #include "tools/invented_names.h"
 
+namespace scorvane {
+
 namespace {
 
 /// The same numbers on every machine and with every library.
@@ -196,3 +198,5 @@ class Maker {
 Contest makeContest(const ContestPlan& plan) {
   return Maker(plan).make();
 }
+
+}  // namespace scorvane

@@ -6,6 +6,8 @@
 
 #include "model/contest.h"
 
+namespace scorvane {
+
 struct ContestPlan {
   std::uint32_t seed = 1;
   std::string contestName = "Prairie Invitational";
@@ -27,3 +29,5 @@ inline constexpr std::int32_t kMaxPlannedCategories = 6;
 /// A contest with every card handed in but a few: legal cuts, placings near the official ones
 /// by each contestant's skill, placing scores by the cut rule, and a full reasons order.
 [[nodiscard]] Contest makeContest(const ContestPlan& plan);
+
+}  // namespace scorvane

@@ -4,6 +4,8 @@
 #include <array>
 #include <string_view>
 
+namespace scorvane {
+
 inline constexpr std::array<std::string_view, 60> kFirstNames = {
     "Abby",   "Adam",  "Alma",  "Amos", "Anna",  "Asher", "Beth",   "Brady",   "Brooke", "Caleb",
     "Carla",  "Casey", "Clara", "Clay", "Cody",  "Cora",  "Dana",   "Dean",    "Delia",  "Dylan",
@@ -50,3 +52,5 @@ inline constexpr std::array<Species, 6> kSpecies = {{
      {"Holstein Cows", "Jersey Heifers", "Brown Swiss Cows", "Holstein Calves", "Jersey Cows"}},
     {"Horses", {"Quarter Mares", "Geldings", "Yearling Fillies", "Draft Mares", "Ponies"}},
 }};
+
+}  // namespace scorvane

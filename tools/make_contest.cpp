@@ -11,6 +11,8 @@
 #include "storage/safe_save.h"
 #include "tools/contest_maker.h"
 
+namespace scorvane {
+
 namespace {
 
 constexpr const char* kUsage =
@@ -93,6 +95,8 @@ std::optional<Order> parseArguments(int count, char** arguments) {
 }
 
 }  // namespace
+
+}  // namespace scorvane
 
 int main(int count, char** arguments) {
   const auto order = parseArguments(count, arguments);

@@ -1,12 +1,14 @@
 #include "app/about_dialog.h"
 
+namespace scorvane {
+
 namespace {
 
 constexpr ControlId kVersionText = 1001;
 
 }  // namespace
 
-void AboutDialog::opened(Dialog& dialog) {
+void AboutDialog::onOpen(Dialog& dialog) {
   dialog.setText(kVersionText, "Version " SCORVANE_VERSION);
 }
 
@@ -15,6 +17,8 @@ void AboutDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
   if (id == kOkId || id == kCancelId) dialog.end(id);
 }
 
-void AboutDialog::closed(Dialog& dialog) {
+void AboutDialog::onClose(Dialog& dialog) {
   dialog.end(kCancelId);
 }
+
+}  // namespace scorvane

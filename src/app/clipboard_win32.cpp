@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace scorvane {
+
 namespace {
 
 // Programs that watch the clipboard hold it for moments after every change.
@@ -41,3 +43,5 @@ MainWindow::CopyResult putOnClipboard(NativeWindow owner, std::string_view text)
   CloseClipboard();
   return taken ? Result::copied : Result::noLock;
 }
+
+}  // namespace scorvane

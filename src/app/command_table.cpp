@@ -20,6 +20,9 @@
 #include "reports/zero_reports.h"
 #include "results/tie_breaker_report.h"
 #include "results/total_summary_report.h"
+#include "session/open_contest.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -143,3 +146,5 @@ void runCommand(int id, MainWindow& window) {
     showReport(window, command->report(currentContest(), {}));
   }
 }
+
+}  // namespace scorvane

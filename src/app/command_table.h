@@ -11,6 +11,8 @@
 #include "app/report_request.h"
 #include "model/contest.h"
 
+namespace scorvane {
+
 /// What a report asks for before it can be built.
 enum class ReportQuestion { nothing, reasonsClass, round, custom };
 
@@ -35,3 +37,5 @@ struct Command {
 
 /// Runs a command of the menu; an unknown one does nothing.
 void runCommand(int id, MainWindow& window);
+
+}  // namespace scorvane

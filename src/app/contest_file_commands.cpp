@@ -6,9 +6,12 @@
 #include "model/contest.h"
 #include "model/new_contest.h"
 #include "model/numbering.h"
-#include "storage/contest_commands.h"
+#include "session/contest_file.h"
+#include "session/open_contest.h"
 #include "text/format.h"
-#include "view/report_text.h"
+#include "text/report_marks.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -96,3 +99,5 @@ void saveContestAsCommand(MainWindow& window) {
   showContestTitle(window);
   window.refreshReportView();
 }
+
+}  // namespace scorvane

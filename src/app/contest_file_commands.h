@@ -7,6 +7,8 @@
 
 #include "app/main_window.h"
 
+namespace scorvane {
+
 /// The program's name as the title bar shows it, as the resources give it; at most kMaxTitle
 /// bytes of it are used.
 void setProgramTitle(std::string title);
@@ -34,3 +36,5 @@ void newContestCommand(MainWindow& window);
 void openContestCommand(MainWindow& window);
 void saveContestCommand(MainWindow& window);
 void saveContestAsCommand(MainWindow& window);
+
+}  // namespace scorvane

@@ -11,8 +11,10 @@
 #include "app/manual_win32.h"
 #include "model/contest.h"
 #include "output/printer_win32.h"
+#include "session/open_contest.h"
 #include "ui/dialog_win32.h"
-#include "view/report_text.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -22,7 +24,8 @@ constexpr LPARAM kWithoutPainting = -1;
 
 }  // namespace
 
-DesktopWindow::DesktopWindow(NativeWindow window) : window_(window), report_(window) {}
+DesktopWindow::DesktopWindow(NativeWindow window)
+    : window_(window), report_(window, reportText()) {}
 
 std::optional<std::intptr_t> DesktopWindow::handle(unsigned message, std::uintptr_t wParam,
                                                    std::intptr_t lParam) {
@@ -135,3 +138,5 @@ std::optional<FontFields> DesktopWindow::chooseFont() {
 void DesktopWindow::destroy() {
   DestroyWindow(window_);
 }
+
+}  // namespace scorvane

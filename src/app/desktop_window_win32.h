@@ -7,7 +7,10 @@
 #include <string_view>
 
 #include "app/main_window.h"
+#include "ui/native_window_win32.h"
 #include "view/report_window_win32.h"
+
+namespace scorvane {
 
 class DesktopWindow final : public MainWindow {
  public:
@@ -39,3 +42,5 @@ class DesktopWindow final : public MainWindow {
   ReportWindow report_;
   bool painted_ = false;
 };
+
+}  // namespace scorvane

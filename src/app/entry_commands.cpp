@@ -6,7 +6,10 @@
 #include "entry/questions_dialog.h"
 #include "entry/reasons_dialog.h"
 #include "model/contest.h"
-#include "view/report_text.h"
+#include "session/open_contest.h"
+#include "text/report_marks.h"
+
+namespace scorvane {
 
 void lookUpScores(MainWindow& window) {
   LookupDialog dialog;
@@ -35,3 +38,5 @@ void inputQuestions(MainWindow& window) {
   GroupEntryDialog dialog = questionsDialog();
   runDialogOverWelcome(window, kQuestionsDialog, dialog);
 }
+
+}  // namespace scorvane

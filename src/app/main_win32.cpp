@@ -7,6 +7,8 @@
 #include "app/contest_file_commands.h"
 #include "app/desktop_window_win32.h"
 
+namespace scorvane {
+
 namespace {
 
 constexpr UINT kTitleString = 103;
@@ -86,6 +88,8 @@ int runMessageLoop(HWND window, HACCEL accelerators) {
 }
 
 }  // namespace
+
+}  // namespace scorvane
 
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE /*previous*/, char* commandLine, int request) {
   prepareContest();

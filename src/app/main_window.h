@@ -5,7 +5,12 @@
 #include <string>
 #include <string_view>
 
+#include "session/open_contest.h"
 #include "ui/window.h"
+
+namespace scorvane {
+
+class DialogBehaviour;
 
 /// What the system's font chooser tells of a font; sizes in its logical units.
 struct FontFields {
@@ -17,6 +22,8 @@ struct FontFields {
 
 class MainWindow : public Window {
  public:
+  /// Runs the dialog of a resource id modally over this window; gives the result it ended with.
+  virtual int runDialog(int resourceId, DialogBehaviour& behaviour) = 0;
   /// Sets the text of the title bar.
   virtual void setTitle(std::string_view title) = 0;
   /// Shows reportText() from its top-left corner. To be called after every change of it.
@@ -33,3 +40,5 @@ class MainWindow : public Window {
   /// Ends the program.
   virtual void destroy() = 0;
 };
+
+}  // namespace scorvane

@@ -8,6 +8,8 @@
 #include <array>
 #include <string>
 
+namespace scorvane {
+
 // The program's own folder may have any name, hence wide characters here.
 namespace {
 
@@ -50,3 +52,5 @@ bool openManualInBrowser(NativeWindow owner) {
   if (!browser.empty() && start(owner, browser, L'"' + manual + L'"')) return true;
   return start(owner, manual, L"");
 }
+
+}  // namespace scorvane

@@ -3,12 +3,15 @@
 #include <ctime>
 
 #include "app/shown_report.h"
-#include "setup/reasons_class_dialog.h"
-#include "setup/reasons_order_edit_dialog.h"
-#include "setup/reasons_order_generation.h"
-#include "setup/reasons_order_report.h"
-#include "setup/reasons_sheets.h"
-#include "storage/contest_commands.h"
+#include "reasons/reasons_class_dialog.h"
+#include "reasons/reasons_order_edit_dialog.h"
+#include "reasons/reasons_order_generation.h"
+#include "reasons/reasons_order_report.h"
+#include "reasons/reasons_sheets.h"
+#include "session/contest_file.h"
+#include "session/open_contest.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -74,3 +77,5 @@ std::optional<std::string> reasonsVerificationSheet(const Contest& contest,
                                                     const ReportRequest& request) {
   return sheetAskedFor(contest, request, ReasonsSheet::verification);
 }
+
+}  // namespace scorvane

@@ -8,6 +8,8 @@
 #include "app/report_request.h"
 #include "model/contest.h"
 
+namespace scorvane {
+
 /// Asks, deals the reasons order out anew with the clock as seed, saves and shows the order. When
 /// the operator declines or no order can be made, nothing changes and the report on screen stays.
 void runGenerateReasonsOrder(MainWindow& window);
@@ -25,3 +27,5 @@ std::optional<std::string> roomReasonsOrder(const Contest& contest, const Report
 std::optional<std::string> reasonsOrderSheet(const Contest& contest, const ReportRequest& request);
 std::optional<std::string> reasonsVerificationSheet(const Contest& contest,
                                                     const ReportRequest& request);
+
+}  // namespace scorvane

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+namespace scorvane {
+
 /// What the Custom Report dialog asks; what is not given defaults as that dialog does.
 struct CustomReportRequest {
   std::string title;
@@ -21,3 +23,5 @@ struct ReportRequest {
   std::optional<std::int32_t> round;       ///< from 0
   CustomReportRequest custom;
 };
+
+}  // namespace scorvane

@@ -3,6 +3,8 @@
 #include "results/custom_report.h"
 #include "results/custom_report_dialog.h"
 
+namespace scorvane {
+
 void runCustomReport(MainWindow& window) {
   CustomReportDialog behaviour;
   window.runDialog(CustomReportDialog::kResourceId, behaviour);
@@ -20,3 +22,5 @@ std::optional<std::string> customReportAskedFor(const Contest& contest,
   asked.percent = custom.percent.value_or(asked.percent);
   return customReport(contest, asked, custom.team);
 }
+
+}  // namespace scorvane

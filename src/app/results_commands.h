@@ -9,6 +9,8 @@
 #include "results/high_individual_report.h"
 #include "results/high_team_report.h"
 
+namespace scorvane {
+
 /// The High Individual and High Team reports over every class, with the contest's own number.
 template <ScoreKind kind>
 std::optional<std::string> highIndividual(const Contest& contest,
@@ -27,3 +29,5 @@ void runCustomReport(MainWindow& window);
 /// The report that the dialog would make of the same choices; nothing for an unknown kind.
 std::optional<std::string> customReportAskedFor(const Contest& contest,
                                                 const ReportRequest& request);
+
+}  // namespace scorvane

@@ -3,6 +3,8 @@
 #include "reports/round_reports.h"
 #include "reports/round_verification_dialog.h"
 
+namespace scorvane {
+
 void runRoundVerification(MainWindow& window) {
   RoundVerificationDialog behaviour;
   window.runDialog(RoundVerificationDialog::kResourceId, behaviour);
@@ -14,3 +16,5 @@ std::optional<std::string> roundVerification(const Contest& contest, const Repor
   if (round < 0 || round >= contest.classes.count()) return std::nullopt;
   return roundVerificationReport(contest, round);
 }
+
+}  // namespace scorvane

@@ -11,6 +11,8 @@
 #include "setup/setup_teams_controls.h"
 #include "setup/setup_teams_dialog.h"
 
+namespace scorvane {
+
 namespace {
 
 template <typename Behaviour>
@@ -37,3 +39,5 @@ void runSetupTeams(MainWindow& window) {
 void runEditContestants(MainWindow& window) {
   runSetup<EditContestantsDialog>(window, edit_contestants::kDialog);
 }
+
+}  // namespace scorvane

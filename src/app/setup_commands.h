@@ -4,7 +4,11 @@
 
 #include "app/main_window.h"
 
+namespace scorvane {
+
 void runSetupContest(MainWindow& window);
 void runSetupClasses(MainWindow& window);
 void runSetupTeams(MainWindow& window);
 void runEditContestants(MainWindow& window);
+
+}  // namespace scorvane

@@ -2,7 +2,10 @@
 
 #include <utility>
 
-#include "view/report_text.h"
+#include "session/open_contest.h"
+#include "text/report_marks.h"
+
+namespace scorvane {
 
 void showReport(MainWindow& window, std::optional<std::string> report) {
   if (!report) return;
@@ -16,3 +19,5 @@ int runDialogOverWelcome(MainWindow& window, int resourceId, DialogBehaviour& be
   window.refreshReportView();
   return result;
 }
+
+}  // namespace scorvane

@@ -7,8 +7,12 @@
 #include "app/main_window.h"
 #include "ui/dialog.h"
 
+namespace scorvane {
+
 /// Makes `report` the report text and shows it. Without a report nothing changes.
 void showReport(MainWindow& window, std::optional<std::string> report);
 
 /// Runs a setup or score-entry dialog over the welcome text; gives the dialog's result.
 int runDialogOverWelcome(MainWindow& window, int resourceId, DialogBehaviour& behaviour);
+
+}  // namespace scorvane

@@ -1,8 +1,10 @@
 #include "app/window_commands.h"
 
 #include "app/about_dialog.h"
+#include "session/open_contest.h"
 #include "text/format.h"
-#include "view/report_text.h"
+
+namespace scorvane {
 
 void copyReportToClipboard(MainWindow& window) {
   switch (window.copyToClipboard(reportText())) {
@@ -60,3 +62,5 @@ std::string fontFieldsText(const FontFields& font) {
       font.underline, font.strikeOut, font.charSet, font.outPrecision, font.clipPrecision,
       font.quality, font.pitchAndFamily, font.faceName.c_str());
 }
+
+}  // namespace scorvane

@@ -5,6 +5,8 @@
 
 #include "app/main_window.h"
 
+namespace scorvane {
+
 /// Puts the whole report text on the clipboard and says so, or says why it could not.
 void copyReportToClipboard(MainWindow& window);
 void exitCommand(MainWindow& window);
@@ -14,3 +16,5 @@ void fontCommand(MainWindow& window);
 
 /// The fields of a font, one a line.
 [[nodiscard]] std::string fontFieldsText(const FontFields& font);
+
+}  // namespace scorvane

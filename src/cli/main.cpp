@@ -9,6 +9,8 @@
 #include "cli/runner.h"
 #include "cli/system.h"
 
+namespace scorvane {
+
 namespace {
 
 CliResult answer(const std::vector<std::string_view>& arguments) {
@@ -38,6 +40,8 @@ int run(const std::vector<std::string_view>& arguments) {
 }
 
 }  // namespace
+
+}  // namespace scorvane
 
 int main(int argc, char** argv) {
   try {

@@ -5,6 +5,8 @@
 #include <cctype>
 #include <charconv>
 
+namespace scorvane {
+
 namespace {
 
 using Action = CliOptions::Action;
@@ -267,3 +269,5 @@ Exit status: 0 done; 1 the contest cannot be read, or lacks what the report need
 the report cannot be written; 2 wrong usage.
 )";
 }
+
+}  // namespace scorvane

@@ -12,6 +12,8 @@
 #include "app/command_table.h"
 #include "results/score_kind.h"
 
+namespace scorvane {
+
 struct CliOptions {
   enum class Action { help, version, list, printReports, allReports };
   Action action = Action::help;
@@ -42,3 +44,5 @@ struct UsageError {
 
 /// What --help prints.
 [[nodiscard]] std::string_view usageText();
+
+}  // namespace scorvane

@@ -9,6 +9,8 @@
 #include "storage/safe_save.h"
 #include "text/line_ends.h"
 
+namespace scorvane {
+
 namespace {
 
 using Action = CliOptions::Action;
@@ -173,3 +175,5 @@ CliResult refuseUsage(const UsageError& error) {
   return {
       kWrongUsage, "", "scorvane-report: " + error.reason + "\n\n" + std::string(usageText()), {}};
 }
+
+}  // namespace scorvane

@@ -6,6 +6,8 @@
 #include "cli/options.h"
 #include "storage/file.h"
 
+namespace scorvane {
+
 /// What the program leaves behind: both texts are to be printed, then it ends with the status.
 struct CliResult {
   int status = 0;
@@ -24,3 +26,5 @@ inline constexpr int kWrongUsage = 2;
 
 /// What a wrong command line comes to.
 [[nodiscard]] CliResult refuseUsage(const UsageError& error);
+
+}  // namespace scorvane

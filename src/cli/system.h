@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <string>
 
+namespace scorvane {
+
 /// Keeps the system from changing line ends on standard output.
 void makeStandardOutputBinary();
 
@@ -13,3 +15,5 @@ void expectMemory(std::size_t bytes);
 
 /// Makes a folder; one that is there already is fine. What cannot be made shows when it is used.
 void makeFolder(const std::string& path);
+
+}  // namespace scorvane

@@ -7,6 +7,8 @@
 
 #include "cli/system.h"
 
+namespace scorvane {
+
 void makeStandardOutputBinary() {}
 
 // The system interrupts the program whenever it touches a page of 4 KiB for the first time, which
@@ -28,3 +30,5 @@ void makeFolder(const std::string& path) {
   constexpr mode_t kEverything = 0777;  // less what the user's mask takes away
   mkdir(path.c_str(), kEverything);
 }
+
+}  // namespace scorvane

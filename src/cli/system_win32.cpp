@@ -6,6 +6,8 @@
 
 #include "cli/system.h"
 
+namespace scorvane {
+
 void makeStandardOutputBinary() {
   _setmode(_fileno(stdout), _O_BINARY);
 }
@@ -15,3 +17,5 @@ void expectMemory(std::size_t /*bytes*/) {}
 void makeFolder(const std::string& path) {
   CreateDirectoryA(path.c_str(), nullptr);
 }
+
+}  // namespace scorvane

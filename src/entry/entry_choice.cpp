@@ -5,6 +5,8 @@
 #include "model/class_lists.h"
 #include "text/format.h"
 
+namespace scorvane {
+
 void EntryChoice::open(Dialog& dialog, const JudgingClasses& classes,
                        std::vector<std::int32_t> listed,
                        const std::vector<std::string>& groupLines) {
@@ -49,7 +51,7 @@ void EntryChoice::clear(Dialog& dialog) {
   showContestant(dialog, std::nullopt);
 }
 
-bool mayEnterScores(Window& owner, const EnteredCount& count, const char* kind) {
+bool confirmReentry(Window& owner, const EnteredCount& count, const char* kind) {
   if (count.entered == 0) return true;
   const std::string found =
       formatText("This group has %d (out of %d) %s scores that have already been entered.",
@@ -58,3 +60,5 @@ bool mayEnterScores(Window& owner, const EnteredCount& count, const char* kind) 
       formatText("%s\n\n\nWould you like to re-enter scores for this group?", found.c_str());
   return owner.ask({question, "Information", Buttons::yesNo, Answer::yes}) != Answer::no;
 }
+
+}  // namespace scorvane

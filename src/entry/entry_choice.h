@@ -11,6 +11,8 @@
 #include "model/contest.h"
 #include "ui/dialog.h"
 
+namespace scorvane {
+
 inline constexpr ControlId kContestantField = 1054;
 inline constexpr ControlId kEntryClassList = 1016;
 inline constexpr ControlId kEntryGroupList = 1053;
@@ -52,4 +54,6 @@ class EntryChoice {
 
 /// Asks whether to enter scores again of a group that has some; `kind` is what they are called.
 /// True without asking when none is entered.
-[[nodiscard]] bool mayEnterScores(Window& owner, const EnteredCount& count, const char* kind);
+[[nodiscard]] bool confirmReentry(Window& owner, const EnteredCount& count, const char* kind);
+
+}  // namespace scorvane

@@ -1,6 +1,9 @@
 #include "entry/entry_closing.h"
 
-#include "storage/contest_commands.h"
+#include "session/contest_file.h"
+#include "session/open_contest.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -24,3 +27,5 @@ void saveAndEnd(Dialog& dialog) {
   if (!currentFileName().empty()) saveCurrent(dialog);
   dialog.end(kDone);
 }
+
+}  // namespace scorvane

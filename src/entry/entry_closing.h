@@ -3,6 +3,8 @@
 
 #include "ui/dialog.h"
 
+namespace scorvane {
+
 /// What Escape does: most entry dialogs have a cancel that leaves the file alone.
 enum class Escape { leavesFile, saves };
 
@@ -13,3 +15,5 @@ void endOn(Dialog& dialog, ControlId id, ControlEvent event, Escape escape = Esc
 /// Saves the contest if it has a file, and ends the dialog. An untitled contest is deliberately
 /// not asked a name for.
 void saveAndEnd(Dialog& dialog);
+
+}  // namespace scorvane

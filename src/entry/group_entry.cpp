@@ -1,6 +1,9 @@
 #include "entry/group_entry.h"
 
+#include "session/open_contest.h"
 #include "text/format.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -21,7 +24,7 @@ char letterOfLine(const std::string& line) {
 
 }  // namespace
 
-void GroupEntryDialog::opened(Dialog& dialog) {
+void GroupEntryDialog::onOpen(Dialog& dialog) {
   const Contest& contest = currentContest();
   choice_.open(dialog, contest.classes, scores_.listed(contest.classes),
                groupLines(contest.groupLetters));
@@ -41,7 +44,7 @@ void GroupEntryDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event)
   endOn(dialog, id, event, scores_.escape);
 }
 
-void GroupEntryDialog::closed(Dialog& dialog) {
+void GroupEntryDialog::onClose(Dialog& dialog) {
   saveAndEnd(dialog);
 }
 
@@ -53,7 +56,7 @@ void GroupEntryDialog::start(Dialog& dialog) {
   if (!first) return;
   choice_.setContestant(first);
   const EnteredCount count = countEntered(contest, group_, choice_.classIndex(), scores_.score);
-  if (mayEnterScores(dialog, count, scores_.name)) {
+  if (confirmReentry(dialog, count, scores_.name)) {
     choice_.showContestant(dialog, first);
   } else {
     choice_.clear(dialog);
@@ -70,3 +73,5 @@ void GroupEntryDialog::advance(Dialog& dialog) {
     choice_.clear(dialog);
   }
 }
+
+}  // namespace scorvane

@@ -4,6 +4,8 @@
 #include "entry/entry_choice.h"
 #include "entry/entry_closing.h"
 
+namespace scorvane {
+
 /// What is entered, and how.
 struct GroupScores {
   const char* name;      ///< what the re-enter question calls the scores
@@ -20,9 +22,9 @@ struct GroupScores {
 class GroupEntryDialog : public DialogBehaviour {
  public:
   explicit GroupEntryDialog(const GroupScores& scores) : scores_(scores) {}
-  void opened(Dialog& dialog) override;
+  void onOpen(Dialog& dialog) override;
   void onEvent(Dialog& dialog, ControlId id, ControlEvent event) override;
-  void closed(Dialog& dialog) override;
+  void onClose(Dialog& dialog) override;
 
  private:
   void start(Dialog& dialog);
@@ -32,3 +34,5 @@ class GroupEntryDialog : public DialogBehaviour {
   EntryChoice choice_;
   char group_ = '\0';  ///< letter of the group chosen
 };
+
+}  // namespace scorvane

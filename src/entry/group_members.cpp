@@ -2,6 +2,8 @@
 
 #include <limits>
 
+namespace scorvane {
+
 namespace {
 
 using Names = FlatMap<ContestantNumber, std::string>;
@@ -42,3 +44,5 @@ EnteredCount countEntered(const Contest& contest, char group, std::int32_t class
   }
   return count;
 }
+
+}  // namespace scorvane

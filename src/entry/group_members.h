@@ -6,6 +6,8 @@
 
 #include "model/contest.h"
 
+namespace scorvane {
+
 /// A member of a group has its letter and a name; numbers without a name are passed over.
 /// The group's member with the lowest number; nothing when it has none.
 [[nodiscard]] std::optional<ContestantNumber> firstMember(const Contest& contest, char group);
@@ -27,3 +29,5 @@ struct EnteredCount {
 /// Counts a group's members by their score for a class (index from 0).
 [[nodiscard]] EnteredCount countEntered(const Contest& contest, char group, std::int32_t classIndex,
                                         ScoreField score);
+
+}  // namespace scorvane

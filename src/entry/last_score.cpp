@@ -2,6 +2,8 @@
 
 #include "text/format.h"
 
+namespace scorvane {
+
 namespace {
 
 constexpr ControlId kScoreText = 1030;
@@ -44,3 +46,5 @@ void showLastQuestions(Dialog& dialog, const Contest& contest, ContestantNumber 
   showScoreOrDashes(dialog, kQuestionsText, contest.classes.hasQuestions(classIndex),
                     scoreRecord(contest, number, classIndex).questionsScore);
 }
+
+}  // namespace scorvane

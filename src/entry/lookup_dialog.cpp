@@ -11,6 +11,9 @@
 #include "entry/typed_letter.h"
 #include "entry/typed_number.h"
 #include "model/class_lists.h"
+#include "session/open_contest.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -150,7 +153,7 @@ void lookUp(Dialog& dialog) {
 
 }  // namespace
 
-void LookupDialog::opened(Dialog& dialog) {
+void LookupDialog::onOpen(Dialog& dialog) {
   const JudgingClasses& classes = currentContest().classes;
   dialog.setLines(kEntryClassList, classLines(classes, allClasses(classes)));
   enableFor(dialog, kReasonsField, false);
@@ -174,6 +177,8 @@ void LookupDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
   endOn(dialog, id, event);
 }
 
-void LookupDialog::closed(Dialog& dialog) {
+void LookupDialog::onClose(Dialog& dialog) {
   saveAndEnd(dialog);
 }
+
+}  // namespace scorvane

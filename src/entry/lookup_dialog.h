@@ -3,11 +3,15 @@
 
 #include "ui/dialog.h"
 
+namespace scorvane {
+
 inline constexpr int kLookupDialog = 137;
 
 class LookupDialog : public DialogBehaviour {
  public:
-  void opened(Dialog& dialog) override;
+  void onOpen(Dialog& dialog) override;
   void onEvent(Dialog& dialog, ControlId id, ControlEvent event) override;
-  void closed(Dialog& dialog) override;
+  void onClose(Dialog& dialog) override;
 };
+
+}  // namespace scorvane

@@ -3,6 +3,9 @@
 #include "entry/last_score.h"
 #include "entry/typed_letter.h"
 #include "model/class_lists.h"
+#include "session/open_contest.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -33,3 +36,5 @@ GroupEntryDialog placingsDialog() {
   return GroupEntryDialog({"placings", &ScoreRecord::placingScore, kLetterField, allClasses,
                            enterLetter, Escape::saves});
 }
+
+}  // namespace scorvane

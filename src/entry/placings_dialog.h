@@ -3,6 +3,10 @@
 
 #include "entry/group_entry.h"
 
+namespace scorvane {
+
 inline constexpr int kPlacingsDialog = 147;
 
 [[nodiscard]] GroupEntryDialog placingsDialog();
+
+}  // namespace scorvane

@@ -3,11 +3,14 @@
 #include "entry/last_score.h"
 #include "entry/score_card.h"
 #include "model/class_lists.h"
+#include "session/open_contest.h"
+
+namespace scorvane {
 
 namespace {
 
-constexpr ScoreCard kCard = {"Questions", 1056, &ScoreRecord::questionsScore,
-                             "Error:  no member number available."};
+constexpr NumericScoreField kCard = {"Questions", 1056, &ScoreRecord::questionsScore,
+                                     "Error:  no member number available."};
 
 bool enterQuestions(Dialog& dialog, const EntryChoice& choice) {
   if (!enterScore(dialog, kCard, choice)) return false;
@@ -22,3 +25,5 @@ GroupEntryDialog questionsDialog() {
   return GroupEntryDialog(
       {"questions", kCard.score, kCard.field, questionsClasses, enterQuestions});
 }
+
+}  // namespace scorvane

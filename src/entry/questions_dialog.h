@@ -3,6 +3,10 @@
 
 #include "entry/group_entry.h"
 
+namespace scorvane {
+
 inline constexpr int kQuestionsDialog = 149;
 
 [[nodiscard]] GroupEntryDialog questionsDialog();
+
+}  // namespace scorvane

@@ -6,12 +6,15 @@
 #include "entry/last_score.h"
 #include "entry/score_card.h"
 #include "model/class_lists.h"
+#include "session/open_contest.h"
 #include "text/format.h"
+
+namespace scorvane {
 
 namespace {
 
-constexpr ScoreCard kCard = {"Reasons", 1028, &ScoreRecord::reasonsScore,
-                             "Error:  no member number entered."};
+constexpr NumericScoreField kCard = {"Reasons", 1028, &ScoreRecord::reasonsScore,
+                                     "Error:  no member number entered."};
 
 std::vector<std::string> reasonsGroupLines(std::int32_t groups) {
   const std::int32_t shown = std::min(groups, kMostReasonsGroupsShown);
@@ -37,7 +40,7 @@ EnteredCount countReasonsEntered(const Contest& contest, std::int32_t reasonsGro
   return count;
 }
 
-void ReasonsDialog::opened(Dialog& dialog) {
+void ReasonsDialog::onOpen(Dialog& dialog) {
   const Contest& contest = currentContest();
   choice_.open(dialog, contest.classes, reasonsClasses(contest.classes),
                reasonsGroupLines(contest.reasonsOrder.columnCount()));
@@ -53,7 +56,7 @@ void ReasonsDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
   endOn(dialog, id, event);
 }
 
-void ReasonsDialog::closed(Dialog& dialog) {
+void ReasonsDialog::onClose(Dialog& dialog) {
   saveAndEnd(dialog);
 }
 
@@ -71,7 +74,7 @@ void ReasonsDialog::start(Dialog& dialog) {
   choice_.setContestant(speaker());
   const EnteredCount count =
       countReasonsEntered(currentContest(), choice_.groupIndex(), choice_.classIndex());
-  if (mayEnterScores(dialog, count, "reasons")) {
+  if (confirmReentry(dialog, count, "reasons")) {
     choice_.showContestant(dialog, choice_.contestant());
   } else {
     choice_.clear(dialog);
@@ -95,3 +98,5 @@ void ReasonsDialog::advance(Dialog& dialog) {
     choice_.clear(dialog);
   }
 }
+
+}  // namespace scorvane

@@ -3,13 +3,15 @@
 
 #include "entry/entry_choice.h"
 
+namespace scorvane {
+
 inline constexpr int kReasonsDialog = 148;
 
 class ReasonsDialog : public DialogBehaviour {
  public:
-  void opened(Dialog& dialog) override;
+  void onOpen(Dialog& dialog) override;
   void onEvent(Dialog& dialog, ControlId id, ControlEvent event) override;
-  void closed(Dialog& dialog) override;
+  void onClose(Dialog& dialog) override;
 
  private:
   void start(Dialog& dialog);
@@ -24,3 +26,5 @@ class ReasonsDialog : public DialogBehaviour {
 /// Counts the named contestants of a reasons group by their reasons score for a class.
 [[nodiscard]] EnteredCount countReasonsEntered(const Contest& contest, std::int32_t reasonsGroup,
                                                std::int32_t classIndex);
+
+}  // namespace scorvane

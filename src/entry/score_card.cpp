@@ -1,8 +1,11 @@
 #include "entry/score_card.h"
 
+#include "session/open_contest.h"
 #include "text/format.h"
 
-bool enterScore(Dialog& dialog, const ScoreCard& card, const EntryChoice& choice) {
+namespace scorvane {
+
+bool enterScore(Dialog& dialog, const NumericScoreField& card, const EntryChoice& choice) {
   const std::optional<std::uint32_t> typed = dialog.number(card.field);
   if (typed && *typed > static_cast<std::uint32_t>(kTopNumberScore)) {
     dialog.show(formatText("%s Score must be between 0 and %d.", card.name, kTopNumberScore),
@@ -21,3 +24,5 @@ bool enterScore(Dialog& dialog, const ScoreCard& card, const EntryChoice& choice
   }
   return true;
 }
+
+}  // namespace scorvane

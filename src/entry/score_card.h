@@ -3,10 +3,12 @@
 
 #include "entry/entry_choice.h"
 
+namespace scorvane {
+
 /// Highest reasons or questions score.
 inline constexpr std::int32_t kTopNumberScore = 50;
 
-struct ScoreCard {
+struct NumericScoreField {
   const char* name;          ///< what the range message calls the score
   ControlId field;           ///< where the operator types
   ScoreField score;          ///< where it is stored
@@ -16,4 +18,6 @@ struct ScoreCard {
 /// Stores the number typed for the chosen class and contestant, and empties the field; an empty
 /// field, or a number too large to be one, stores nothing. False when it was refused, with a
 /// message: above 50, or no contestant.
-bool enterScore(Dialog& dialog, const ScoreCard& card, const EntryChoice& choice);
+bool enterScore(Dialog& dialog, const NumericScoreField& card, const EntryChoice& choice);
+
+}  // namespace scorvane

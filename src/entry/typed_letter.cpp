@@ -2,6 +2,8 @@
 
 #include "text/format.h"
 
+namespace scorvane {
+
 std::optional<std::string> letterError(const std::string& typed) {
   if (typed.empty()) return std::nullopt;
   if (typed.size() > 1) return "Error:  too many letters entered for score.";
@@ -21,3 +23,5 @@ void storeLetter(Contest& contest, ContestantNumber number, std::int32_t classIn
   record.placingScore =
       placingScore(record.letter, classes.official(classIndex), classes.cuts(classIndex));
 }
+
+}  // namespace scorvane

@@ -6,6 +6,8 @@
 
 #include "model/contest.h"
 
+namespace scorvane {
+
 /// What is wrong with the typed text: more than one letter, or one that is neither a placing nor
 /// "Z". Nothing when it can be stored, and when it is empty.
 [[nodiscard]] std::optional<std::string> letterError(const std::string& typed);
@@ -14,3 +16,5 @@
 /// record of a class (index from 0). An empty text leaves the record as it is.
 void storeLetter(Contest& contest, ContestantNumber number, std::int32_t classIndex,
                  const std::string& typed);
+
+}  // namespace scorvane

@@ -2,6 +2,8 @@
 
 #include "text/number.h"
 
+namespace scorvane {
+
 std::optional<std::int64_t> typedNumber(std::string_view text) {
   constexpr std::int64_t kLargest = 999'999'999'999'999'999;
   text = withoutOuterBlanks(text);
@@ -15,3 +17,5 @@ std::optional<std::int64_t> typedNumber(std::string_view text) {
   }
   return negative ? -value : value;
 }
+
+}  // namespace scorvane

@@ -2,6 +2,8 @@
 
 #include "text/format.h"
 
+namespace scorvane {
+
 namespace {
 
 template <typename Condition>
@@ -38,3 +40,5 @@ std::vector<std::string> classLines(const JudgingClasses& classes,
   for (const std::int32_t index : indexes) lines.push_back(classLine(classes, index));
   return lines;
 }
+
+}  // namespace scorvane

@@ -7,6 +7,8 @@
 
 #include "model/contest.h"
 
+namespace scorvane {
+
 /// Indexes (from 0, ascending) of all classes, of those with reasons and of those with questions.
 [[nodiscard]] std::vector<std::int32_t> allClasses(const JudgingClasses& classes);
 [[nodiscard]] std::vector<std::int32_t> reasonsClasses(const JudgingClasses& classes);
@@ -18,3 +20,5 @@
 /// The lines of several classes.
 [[nodiscard]] std::vector<std::string> classLines(const JudgingClasses& classes,
                                                   const std::vector<std::int32_t>& indexes);
+
+}  // namespace scorvane

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace scorvane {
+
 namespace {
 
 template <typename Element>
@@ -60,11 +62,6 @@ void JudgingClasses::clear() {
   *this = JudgingClasses{};
 }
 
-Contest& currentContest() {
-  static Contest contest;
-  return contest;
-}
-
 const std::string& contestantName(const Contest& contest, ContestantNumber number) {
   const std::string* name = contest.contestantNames.find(number);
   return name == nullptr ? kEmpty : *name;
@@ -110,6 +107,4 @@ void recomputeAllPlacingScores(Contest& contest) {
   }
 }
 
-void recomputeAllPlacingScores() {
-  recomputeAllPlacingScores(currentContest());
-}
+}  // namespace scorvane

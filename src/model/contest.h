@@ -11,6 +11,8 @@
 #include "model/placing.h"
 #include "model/reasons_order.h"
 
+namespace scorvane {
+
 using ContestantNumber = std::int32_t;
 
 /// The category of classes that were given none; a saved contest always has at least one category.
@@ -107,10 +109,6 @@ struct Contest {
   friend bool operator==(const Contest&, const Contest&) = default;
 };
 
-/// The one contest of the process. Only commands, dialogs and the operations defined on it use
-/// it; everything below them is handed the contest it works on.
-[[nodiscard]] Contest& currentContest();
-
 /// Name of a contestant; "" when the number does not exist.
 [[nodiscard]] const std::string& contestantName(const Contest& contest, ContestantNumber number);
 
@@ -131,5 +129,5 @@ struct Contest {
 /// Rewrites every contestant's placing score of every class from the stored letters, the official
 /// placings and the cuts; creates the records that are missing.
 void recomputeAllPlacingScores(Contest& contest);
-/// The same on the current contest.
-void recomputeAllPlacingScores();
+
+}  // namespace scorvane

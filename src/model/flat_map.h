@@ -10,6 +10,8 @@
 #include <utility>
 #include <vector>
 
+namespace scorvane {
+
 template <typename Key, typename Value>
 class FlatMap {
  public:
@@ -119,3 +121,5 @@ class FlatMap {
 
   std::vector<Entry> entries_;
 };
+
+}  // namespace scorvane

@@ -6,15 +6,17 @@
 
 #include "model/contest.h"
 
+namespace scorvane {
+
 /// The rotation table: a row for each class, a column for each of as many rounds. In round r
 /// group g judges class (r + g) mod n, all counted from 0. With more groups than classes only the
 /// first n groups judge: a class holds one group at a time, so the others have no cell.
 ///
 /// The cells are computed when they are asked for, so the table of a contest file with absurdly
 /// many classes costs nothing.
-class RoundGroups {
+class Rotation {
  public:
-  RoundGroups(std::int32_t numClasses, std::int32_t numGroups);
+  Rotation(std::int32_t numClasses, std::int32_t numGroups);
 
   /// Number of classes, and of rounds.
   [[nodiscard]] std::int32_t rounds() const { return classes_; }
@@ -38,4 +40,6 @@ class RoundGroups {
 };
 
 /// The rotation of a contest as its classes and numGroups stand now.
-[[nodiscard]] RoundGroups roundGroups(const Contest& contest);
+[[nodiscard]] Rotation roundGroups(const Contest& contest);
+
+}  // namespace scorvane

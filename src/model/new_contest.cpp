@@ -3,6 +3,8 @@
 #include <array>
 #include <ctime>
 
+namespace scorvane {
+
 std::string todaysDate() {
   const std::time_t now = std::time(nullptr);
   const std::tm* local = std::localtime(&now);
@@ -19,3 +21,5 @@ Contest newContest() {
   contest.settings.contestDate = todaysDate();
   return contest;
 }
+
+}  // namespace scorvane

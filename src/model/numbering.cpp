@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace scorvane {
+
 char groupOfNumber(const ContestSettings& settings, ContestantNumber number) {
   if (settings.numGroups == 0) return 'A';
   const std::int64_t distance = std::int64_t{number} - settings.startNum;
@@ -39,3 +41,12 @@ std::int32_t updateNextContestant(Contest& contest) {
   const std::int64_t distance = std::int64_t{settings.nextContestantNum} - settings.startNum;
   return static_cast<std::int32_t>(distance / settings.numGroups);
 }
+
+void regroupContestants(Contest& contest) {
+  contest.groupLetters = makeGroupLetters(contest.settings.numGroups);
+  for (const auto& [number, name] : contest.contestantNames) {
+    contest.contestantGroup[number] = groupOfNumber(contest.settings, number);
+  }
+}
+
+}  // namespace scorvane

@@ -6,6 +6,8 @@
 
 #include "model/contest.h"
 
+namespace scorvane {
+
 /// Group letter of a contestant number: 'A' + ((number - startNum) mod numGroups), the remainder
 /// with the sign of the dividend, so a number below startNum can give a character below 'A'.
 /// 'A' when numGroups is 0.
@@ -39,3 +41,9 @@ inline constexpr std::int32_t kMaxGroupLetters = 256 - 'A';
 /// Gives how many whole rounds of groups lie between startNum and the next number; 0 when numGroups
 /// is 0.
 std::int32_t updateNextContestant(Contest& contest);
+
+/// Makes the group letters of numGroups groups and gives every contestant the letter that goes
+/// with the number, over any other letter.
+void regroupContestants(Contest& contest);
+
+}  // namespace scorvane

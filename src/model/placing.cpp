@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <utility>
 
+namespace scorvane {
+
 namespace {
 
 using Order = std::array<std::int32_t, 4>;
@@ -67,3 +69,5 @@ bool validateCuts(std::uint32_t cut1, std::uint32_t cut2, std::uint32_t cut3) {
   if (total == 15 && cut2 > 5) return false;
   return !(total == 14 && cut2 > 8);
 }
+
+}  // namespace scorvane

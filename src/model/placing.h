@@ -8,6 +8,8 @@
 #include <array>
 #include <cstdint>
 
+namespace scorvane {
+
 /// A placing letter: 'A' to 'X' is an order, 'Z' a placing given a zero, ' ' nothing entered.
 using PlacingLetter = char;
 
@@ -42,3 +44,5 @@ struct Cuts {
 /// most 5, with 14 at most 8. (Then the worst score is at least 0 at those two totals; the rules
 /// deliberately stop there.) The values are taken unsigned, as a digits-only field gives them.
 [[nodiscard]] bool validateCuts(std::uint32_t cut1, std::uint32_t cut2, std::uint32_t cut3);
+
+}  // namespace scorvane

@@ -4,6 +4,8 @@
 #include <limits>
 #include <numeric>
 
+namespace scorvane {
+
 namespace {
 
 std::int32_t clampedRows(std::int64_t rows) {
@@ -74,3 +76,5 @@ void ReasonsOrder::setCells(std::vector<Cells::Entry> cells) {
   orderByCounting(cells);
   cells_ = Cells::fromEntries(std::move(cells));
 }
+
+}  // namespace scorvane

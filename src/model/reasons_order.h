@@ -7,6 +7,8 @@
 
 #include "model/flat_map.h"
 
+namespace scorvane {
+
 /// A cell without a contestant, and either part of a place that is not assigned.
 inline constexpr std::int32_t kNobody = -1;
 
@@ -59,3 +61,5 @@ class ReasonsOrder {
   std::int32_t columns_ = 0;
   Cells cells_;
 };
+
+}  // namespace scorvane

@@ -1,5 +1,7 @@
 #include "model/team_index.h"
 
+namespace scorvane {
+
 TeamIndex::TeamIndex(const Contest& contest)
     : contest_(contest), teams_(contest.contestantNames.size()) {
   for (const auto& [name, team] : contest.teams) {
@@ -21,3 +23,5 @@ const std::string* TeamIndex::find(ContestantNumber number) const {
   const std::size_t position = contest_.contestantNames.positionOf(number);
   return position == teams_.size() ? nullptr : teams_[position];
 }
+
+}  // namespace scorvane

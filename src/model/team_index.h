@@ -6,6 +6,8 @@
 
 #include "model/contest.h"
 
+namespace scorvane {
+
 /// Made once for a report; the contest must outlive it and stay as it is.
 class TeamIndex {
  public:
@@ -24,3 +26,5 @@ class TeamIndex {
   const Contest& contest_;
   std::vector<const std::string*> teams_;  ///< by position in contestantNames, null without a team
 };
+
+}  // namespace scorvane

@@ -5,7 +5,9 @@
 #include <utility>
 
 #include "text/format.h"
-#include "view/report_text.h"
+#include "text/report_marks.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -163,3 +165,5 @@ std::string printProgressText(std::string_view report, std::int64_t page, std::i
   return formatText("%s, page %lld of %lld", documentTitle(report).c_str(),
                     static_cast<long long>(page), static_cast<long long>(pages));
 }
+
+}  // namespace scorvane

@@ -9,6 +9,8 @@
 #include <variant>
 #include <vector>
 
+namespace scorvane {
+
 /// The address that every footer invites to; fixed when the program is built.
 inline constexpr const char* kWebAddress = SCORVANE_WEB_ADDRESS;
 
@@ -82,3 +84,5 @@ using PrintOperation = std::variant<print_operation::StartPage, print_operation:
 /// is not blank and the page, such as "High Individual Overall, page 2 of 5".
 [[nodiscard]] std::string printProgressText(std::string_view report, std::int64_t page,
                                             std::int64_t pages);
+
+}  // namespace scorvane

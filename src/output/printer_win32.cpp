@@ -7,6 +7,8 @@
 #include <string>
 #include <utility>
 
+namespace scorvane {
+
 namespace {
 
 constexpr int kProgressText = 1042;
@@ -264,3 +266,5 @@ void printReport(HWND owner, HINSTANCE instance, std::string_view report, PrintH
              Performer(printer.get(), selected, metrics.lineHeight, abortable, text,
                        pageCount(operations)));
 }
+
+}  // namespace scorvane

@@ -4,14 +4,18 @@
 #include <string_view>
 
 #include "output/print_layout.h"
+#include "ui/native_window_win32.h"
 
-// Windows' own handles, declared here so that its header stays out of the program's.
-struct HWND__;
+// A handle of the system, named without its header.
 struct HINSTANCE__;
+
+namespace scorvane {
 
 /// Shows the system's print dialog over `owner` and prints `report`, starting in `font`. `header`
 /// is completed with the time. While it prints, the owner is disabled and a dialog from the
 /// resources of `instance` offers to abort. Ends in silence when the operator cancels or the
 /// printer fails; does nothing while another print is under way.
-void printReport(HWND__* owner, HINSTANCE__* instance, std::string_view report, PrintHeader header,
-                 PrintFont font);
+void printReport(NativeWindow owner, ::HINSTANCE__* instance, std::string_view report,
+                 PrintHeader header, PrintFont font);
+
+}  // namespace scorvane

@@ -1,8 +1,10 @@
 #include "output/save_report.h"
 
+#include "session/open_contest.h"
 #include "storage/safe_save.h"
 #include "text/line_ends.h"
-#include "view/report_text.h"
+
+namespace scorvane {
 
 void saveReport(Window& owner, FileSystem& files) {
   FileQuestion question;
@@ -16,3 +18,5 @@ void saveReport(Window& owner, FileSystem& files) {
   // The report is still on screen when this fails, and silence is what is wanted then.
   static_cast<void>(saveSafely(files, *path, withWindowsLineEnds(reportText())));
 }
+
+}  // namespace scorvane

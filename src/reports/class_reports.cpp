@@ -4,6 +4,8 @@
 #include "reports/report_parts.h"
 #include "text/format.h"
 
+namespace scorvane {
+
 std::string classesReport(const Contest& contest) {
   const JudgingClasses& classes = contest.classes;
   std::string out = "     Classes Report\n\n\n";
@@ -37,3 +39,5 @@ std::string officialPlacingsReport(const Contest& contest) {
   }
   return out;
 }
+
+}  // namespace scorvane

@@ -5,6 +5,9 @@
 #include "model/numbering.h"
 #include "reports/report_parts.h"
 #include "text/format.h"
+#include "text/report_marks.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -24,7 +27,7 @@ std::vector<Block> blocksByGroup(const Contest& contest) {
 void appendLetters(std::string& out, const ListedContestant& listed, char group,
                    std::int32_t classCount) {
   appendFormat(out, "%5d-%c %-20.20s", listed.number, group, listed.name->c_str());
-  RecordWalk records(listed.scores);
+  RecordCursor records(listed.scores);
   for (std::int32_t k = 0; k < classCount; ++k) appendFormat(out, " |  %c ", records.at(k).letter);
   out += "\n";
 }
@@ -42,10 +45,12 @@ std::string verifyScoresReport(const Contest& contest) {
   for (const Block& block : blocksByGroup(contest)) {
     const char letter = letterOfGroup(group++);
     for (const ListedContestant& listed : block) {
-      if (endIfTooLong(out)) return out;
+      if (closeIfTooLong(out)) return out;
       appendLetters(out, listed, letter, classes.count());
     }
     out += rule;
   }
   return out;
 }
+
+}  // namespace scorvane

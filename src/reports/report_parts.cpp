@@ -2,6 +2,8 @@
 
 #include "text/format.h"
 
+namespace scorvane {
+
 namespace {
 
 const ClassScores kNoScores;
@@ -58,12 +60,14 @@ void appendMember(std::string& out, const ListedMember& member) {
   }
 }
 
-RecordWalk::RecordWalk(const ClassScores* scores)
+RecordCursor::RecordCursor(const ClassScores* scores)
     : next_((scores == nullptr ? kNoScores : *scores).begin()),
       end_((scores == nullptr ? kNoScores : *scores).end()) {}
 
-const ScoreRecord& RecordWalk::at(std::int32_t classIndex) {
+const ScoreRecord& RecordCursor::at(std::int32_t classIndex) {
   static const ScoreRecord blank;
   while (next_ != end_ && next_->first < classIndex) ++next_;
   return next_ != end_ && next_->first == classIndex ? next_->second : blank;
 }
+
+}  // namespace scorvane

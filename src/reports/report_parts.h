@@ -8,7 +8,8 @@
 
 #include "model/class_lists.h"
 #include "model/contest.h"
-#include "view/report_text.h"
+
+namespace scorvane {
 
 /// The rule under the heading of a column of fifty characters.
 inline constexpr const char* kFiftyHyphens = "--------------------------------------------------";
@@ -44,9 +45,9 @@ struct ListedMember {
 void appendMember(std::string& out, const ListedMember& member);
 
 /// Reads one contestant's records class by class in ascending order, without a search per cell.
-class RecordWalk {
+class RecordCursor {
  public:
-  explicit RecordWalk(const ClassScores* scores);
+  explicit RecordCursor(const ClassScores* scores);
   /// The record of a class, a blank one when it is missing. `classIndex` must not go back.
   [[nodiscard]] const ScoreRecord& at(std::int32_t classIndex);
 
@@ -54,3 +55,5 @@ class RecordWalk {
   ClassScores::const_iterator next_;
   ClassScores::const_iterator end_;
 };
+
+}  // namespace scorvane

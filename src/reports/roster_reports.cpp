@@ -7,6 +7,8 @@
 #include "reports/report_parts.h"
 #include "text/format.h"
 
+namespace scorvane {
+
 namespace {
 
 // Member slots with a named contestant.
@@ -88,3 +90,5 @@ std::string teamReport(const Contest& contest) {
   for (const auto& [teamName, team] : contest.teams) appendTeam(out, contest, teamName, team);
   return out;
 }
+
+}  // namespace scorvane

@@ -6,12 +6,15 @@
 #include "model/numbering.h"
 #include "reports/report_parts.h"
 #include "text/format.h"
+#include "text/report_marks.h"
+
+namespace scorvane {
 
 namespace {
 
 // With more groups than classes, one line that says so: the other groups stand nowhere.
 void appendIdleGroups(std::string& out, const Contest& contest, const char* consequence) {
-  const RoundGroups rotation = roundGroups(contest);
+  const Rotation rotation = roundGroups(contest);
   const std::int32_t groups = letteredGroups(contest.settings.numGroups);
   if (rotation.rounds() == 0 || groups == rotation.judgingGroups()) return;
   appendFormat(out, "More groups than classes: groups from %c on judge none%s.\n",
@@ -53,7 +56,7 @@ class NumberGrid {
     next_ = names.lowerBound(contest_.settings.startNum);
     std::int32_t column = 0;
     for (std::int64_t number = first; number <= last; ++number) {
-      if (column == 0 && endIfTooLong(out)) return;
+      if (column == 0 && closeIfTooLong(out)) return;
       if (column == 0 && leavesOut) {
         number += appendLeftOut(out, number, last);
       }
@@ -99,13 +102,13 @@ class NumberGrid {
 
 std::string roundAssignmentsReport(const Contest& contest) {
   const JudgingClasses& classes = contest.classes;
-  const RoundGroups rotation = roundGroups(contest);
+  const Rotation rotation = roundGroups(contest);
   const std::int32_t rounds = rotation.rounds();
   std::string out = "Round Assignments Report\n\n";
   appendRoundHeading(out, rounds);
   appendRoundRule(out, "-----", kFiftyHyphens, rounds);
   std::string cells;
-  for (std::int32_t k = 0; k < classes.count() && !endIfTooLong(out); ++k) {
+  for (std::int32_t k = 0; k < classes.count() && !closeIfTooLong(out); ++k) {
     cells.clear();
     for (std::int32_t round = 0; round < rounds; ++round) {
       appendFormat(cells, "|  %c ", rotation.groupAt(k, round));
@@ -137,7 +140,7 @@ std::string groupAssignmentsReport(const Contest& contest) {
 }
 
 std::string roundVerificationReport(const Contest& contest, std::int32_t round) {
-  const RoundGroups rotation = roundGroups(contest);
+  const Rotation rotation = roundGroups(contest);
   const std::int32_t groups = letteredGroups(contest.settings.numGroups);
   std::string out =
       formatText("Round %lld Verification Report\n\n", static_cast<long long>(round) + 1);
@@ -165,3 +168,5 @@ std::string roundVerificationReport(const Contest& contest, std::int32_t round) 
   appendIdleGroups(out, contest, "; the letters shown for them are those of class 1");
   return out;
 }
+
+}  // namespace scorvane

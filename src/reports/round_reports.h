@@ -6,6 +6,8 @@
 
 #include "model/contest.h"
 
+namespace scorvane {
+
 /// Which group judges which class in which round.
 [[nodiscard]] std::string roundAssignmentsReport(const Contest& contest);
 
@@ -16,3 +18,5 @@
 /// The placing letter of every contestant for the class that the contestant's group judges in a
 /// round (from 0). A group that judges no class in it shows its letters of the first class.
 [[nodiscard]] std::string roundVerificationReport(const Contest& contest, std::int32_t round);
+
+}  // namespace scorvane

@@ -5,12 +5,14 @@
 
 #include "model/class_lists.h"
 #include "reports/round_reports.h"
+#include "session/open_contest.h"
 #include "text/format.h"
-#include "view/report_text.h"
+
+namespace scorvane {
 
 RoundVerificationDialog::RoundVerificationDialog() : rotation_(roundGroups(currentContest())) {}
 
-void RoundVerificationDialog::opened(Dialog& dialog) {
+void RoundVerificationDialog::onOpen(Dialog& dialog) {
   const Contest& contest = currentContest();
   rotation_ = roundGroups(contest);
   std::vector<std::string> rounds;
@@ -38,7 +40,7 @@ void RoundVerificationDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent
   }
 }
 
-void RoundVerificationDialog::closed(Dialog& dialog) {
+void RoundVerificationDialog::onClose(Dialog& dialog) {
   dialog.end(0);
 }
 
@@ -65,3 +67,5 @@ void RoundVerificationDialog::makeReport(Dialog& dialog) {
   reportText() = roundVerificationReport(currentContest(), *round);
   dialog.end(kOkId);
 }
+
+}  // namespace scorvane

@@ -4,6 +4,8 @@
 #include "model/group_rotation.h"
 #include "ui/dialog.h"
 
+namespace scorvane {
+
 /// Asks for a round, or for a group and a class that identify it, and makes the Round Verification
 /// Report of the current contest. Ends with 1 when the report was made, 2 on Cancel, 0 from the
 /// close box.
@@ -16,13 +18,15 @@ class RoundVerificationDialog : public DialogBehaviour {
 
   RoundVerificationDialog();
 
-  void opened(Dialog& dialog) override;
+  void onOpen(Dialog& dialog) override;
   void onEvent(Dialog& dialog, ControlId id, ControlEvent event) override;
-  void closed(Dialog& dialog) override;
+  void onClose(Dialog& dialog) override;
 
  private:
   void selectRoundOfGroupAndClass(Dialog& dialog) const;
   static void makeReport(Dialog& dialog);
 
-  RoundGroups rotation_;
+  Rotation rotation_;
 };
+
+}  // namespace scorvane

@@ -5,6 +5,9 @@
 #include "model/placing.h"
 #include "reports/report_parts.h"
 #include "text/format.h"
+#include "text/report_marks.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -28,7 +31,7 @@ std::string makePlacingsHeading(const JudgingClasses& classes) {
 
 void appendPlacings(std::string& out, const ListedMember& member, const JudgingClasses& classes) {
   appendMember(out, member);
-  RecordWalk records(member.contestant.scores);
+  RecordCursor records(member.contestant.scores);
   for (std::int32_t k = 0; k < classes.count(); ++k) {
     const ScoreRecord& record = records.at(k);
     const auto order = orderOfLetter(record.letter);
@@ -46,7 +49,7 @@ std::string makeReasonsHeading(const JudgingClasses& classes) {
 
 void appendReasons(std::string& out, const ListedMember& member, const JudgingClasses& classes) {
   appendMember(out, member);
-  RecordWalk records(member.contestant.scores);
+  RecordCursor records(member.contestant.scores);
   long long total = 0;
   for (std::int32_t k = 0; k < classes.count(); ++k) {
     const std::int32_t score = records.at(k).reasonsScore;
@@ -61,11 +64,11 @@ template <typename AppendTeam, typename AppendScores>
 std::string buildByTeam(const Contest& contest, std::string out, const std::string& heading,
                         AppendTeam appendTeam, AppendScores appendScores) {
   for (const auto& [teamName, team] : contest.teams) {
-    if (endIfTooLong(out)) return out;
+    if (closeIfTooLong(out)) return out;
     appendTeam(out, teamName.c_str(), team.coach.c_str());
     out += heading;
     for (const ListedMember& member : listedMembers(contest, team)) {
-      if (endIfTooLong(out)) return out;
+      if (closeIfTooLong(out)) return out;
       appendScores(out, member, contest.classes);
     }
     out += "\n\n";
@@ -90,3 +93,5 @@ std::string reasonsByTeamReport(const Contest& contest) {
   return buildByTeam(contest, "Reasons Scores By Team Report\n\n",
                      makeReasonsHeading(contest.classes), appendTeam, appendReasons);
 }
+
+}  // namespace scorvane

@@ -4,6 +4,9 @@
 
 #include "reports/report_parts.h"
 #include "text/format.h"
+#include "text/report_marks.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -30,13 +33,13 @@ std::string buildGrid(const Contest& contest, const Grid& grid, AppendCell appen
   for (const auto& [number, name, scores] : listedContestants(contest)) {
     line.clear();
     appendFormat(line, "%5d %-20.20s", number, name->c_str());
-    RecordWalk records(scores);
+    RecordCursor records(scores);
     bool isListed = grid.listsAll;
     for (const std::int32_t k : grid.columns) {
       if (appendCell(line, records.at(k))) isListed = true;
     }
     if (!isListed) continue;
-    if (endIfTooLong(out)) return out;
+    if (closeIfTooLong(out)) return out;
     out += line += "\n";
     if (++listed % 5 == 0) out += rule;
   }
@@ -84,3 +87,5 @@ std::string verifyQuestionsScoresReport(const Contest& contest) {
       contest, {"Verify Questions Scores Report\n\n", questionsClasses(contest.classes), 5, true},
       appendQuestions);
 }
+
+}  // namespace scorvane

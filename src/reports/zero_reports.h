@@ -5,6 +5,8 @@
 
 #include "model/contest.h"
 
+namespace scorvane {
+
 /// The contestants with a placing score of 0 in some class, marked " | -@-" among their letters.
 /// A class without a record counts as 0.
 [[nodiscard]] std::string zeroScoresReport(const Contest& contest);
@@ -16,3 +18,5 @@
 
 /// Every named contestant's questions scores, in the same columns.
 [[nodiscard]] std::string verifyQuestionsScoresReport(const Contest& contest);
+
+}  // namespace scorvane

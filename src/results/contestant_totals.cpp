@@ -2,6 +2,8 @@
 
 #include <numeric>
 
+namespace scorvane {
+
 namespace {
 
 // All bits, or none: the scores of a class are masked rather than asked about one by one.
@@ -87,3 +89,5 @@ std::vector<IndividualRankEntry> contestantTotals(const Contest& contest, ScoreK
   }
   return totals;
 }
+
+}  // namespace scorvane

@@ -7,6 +7,8 @@
 #include "model/contest.h"
 #include "results/score_kind.h"
 
+namespace scorvane {
+
 /// Class indexes (from 0) that a ranked score is summed over.
 using ClassSet = std::vector<std::int32_t>;
 
@@ -41,3 +43,5 @@ struct IndividualRankEntry {
 [[nodiscard]] constexpr std::int32_t wrappingSum(std::int32_t a, std::int32_t b) {
   return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) + static_cast<std::uint32_t>(b));
 }
+
+}  // namespace scorvane

@@ -3,6 +3,8 @@
 
 #include "results/high_report.h"
 
+namespace scorvane {
+
 /// Of more classes than this, the first ones count.
 inline constexpr std::size_t kMostCustomClasses = 50;
 /// A longer title is cut.
@@ -11,3 +13,5 @@ inline constexpr std::size_t kLongestCustomTitle = 499;
 /// The high team report with `team`, the high individual report otherwise.
 [[nodiscard]] std::string customReport(const Contest& contest, HighReportRequest request,
                                        bool team);
+
+}  // namespace scorvane

@@ -4,7 +4,9 @@
 #include <limits>
 
 #include "results/custom_report.h"
-#include "view/report_text.h"
+#include "session/open_contest.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -47,7 +49,7 @@ void makeReport(Dialog& dialog) {
 
 }  // namespace
 
-void CustomReportDialog::opened(Dialog& dialog) {
+void CustomReportDialog::onOpen(Dialog& dialog) {
   Contest& contest = currentContest();
   if (contest.categories.empty()) contest.categories.emplace_back(kNoCategory);
   dialog.setLines(kCategory, contest.categories);
@@ -67,6 +69,8 @@ void CustomReportDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent even
   if (id == kCancelId) dialog.end(kCancelId);
 }
 
-void CustomReportDialog::closed(Dialog& dialog) {
+void CustomReportDialog::onClose(Dialog& dialog) {
   dialog.end(kCancelId);
 }
+
+}  // namespace scorvane

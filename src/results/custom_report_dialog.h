@@ -4,6 +4,8 @@
 #include "results/high_report.h"
 #include "ui/dialog.h"
 
+namespace scorvane {
+
 /// Makes the high individual or high team report of the current contest over the classes chosen.
 /// Choosing a category proposes its classes and its name as the title. Number and percentage start
 /// as the contest has them and are not written back. Ends with 1 when the report was made, 2
@@ -22,7 +24,9 @@ class CustomReportDialog : public DialogBehaviour {
   static constexpr ControlId kQuestions = 1042;
   static constexpr ControlId kClasses = 1036;
 
-  void opened(Dialog& dialog) override;
+  void onOpen(Dialog& dialog) override;
   void onEvent(Dialog& dialog, ControlId id, ControlEvent event) override;
-  void closed(Dialog& dialog) override;
+  void onClose(Dialog& dialog) override;
 };
+
+}  // namespace scorvane

@@ -6,6 +6,8 @@
 #include "results/individual_ranking.h"
 #include "text/format.h"
 
+namespace scorvane {
+
 namespace {
 
 constexpr std::size_t kRuleLength = 93;
@@ -76,3 +78,5 @@ std::string highIndividualReport(const Contest& contest, const HighReportRequest
   }
   return out;
 }
+
+}  // namespace scorvane

@@ -6,6 +6,8 @@
 
 #include "results/contestant_totals.h"
 
+namespace scorvane {
+
 struct HighReportRequest {
   ClassSet classes;
   ScoreKind kind = ScoreKind::overall;
@@ -20,3 +22,5 @@ struct HighReportRequest {
 /// How many of `available` rows a report lists: the number to report, or that percentage of them
 /// in double precision, cut to a whole number. The reports list one row at least even for 0.
 [[nodiscard]] std::int64_t rowsToList(const HighReportRequest& request, std::size_t available);
+
+}  // namespace scorvane

@@ -4,6 +4,8 @@
 #include "results/team_scoring.h"
 #include "text/format.h"
 
+namespace scorvane {
+
 namespace {
 
 void appendHeading(std::string& out, const Contest& contest, const HighReportRequest& request) {
@@ -126,3 +128,5 @@ std::string highTeamReport(const Contest& contest, const HighReportRequest& requ
   }
   return out;
 }
+
+}  // namespace scorvane

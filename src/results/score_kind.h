@@ -3,6 +3,8 @@
 
 #include <array>
 
+namespace scorvane {
+
 /// The values are the ones the commands and the Custom Report dialog number them by.
 enum class ScoreKind {
   overall = 0,    ///< placing, reasons and questions scores together
@@ -19,3 +21,5 @@ inline constexpr std::array kScoreKinds = {ScoreKind::overall, ScoreKind::placin
   constexpr std::array kWords = {"Overall", "Placings", "Reasons", "Questions"};
   return kWords.at(static_cast<std::size_t>(kind));
 }
+
+}  // namespace scorvane

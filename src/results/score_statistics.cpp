@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+namespace scorvane {
+
 void ScoreStatistics::add(std::int32_t score) {
   ++contestants;
   sum += score;
@@ -17,3 +19,5 @@ std::int64_t roundedToTwoDigits(std::int64_t sum, std::int64_t count) {
   const std::int64_t rounded = (firstDecimal >= 5 ? sum + count : sum) / count;
   return std::min<std::int64_t>(rounded, 99);
 }
+
+}  // namespace scorvane

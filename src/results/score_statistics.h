@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+namespace scorvane {
+
 /// Sums over one score of everybody; only those who reach a mark are counted for it.
 struct ScoreStatistics {
   std::int64_t contestants = 0;
@@ -17,3 +19,5 @@ struct ScoreStatistics {
 /// sum / count for a place of two digits: 1 is added when the first decimal is 5 or more, the rest
 /// is cut off, and 100 or more shows as 99. 0 when there is nobody.
 [[nodiscard]] std::int64_t roundedToTwoDigits(std::int64_t sum, std::int64_t count);
+
+}  // namespace scorvane

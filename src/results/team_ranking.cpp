@@ -2,6 +2,8 @@
 
 #include "results/team_scoring.h"
 
+namespace scorvane {
+
 namespace {
 
 RankValues sumOf(const std::vector<RankValues>& members, const std::vector<std::size_t>& counting) {
@@ -55,3 +57,5 @@ std::vector<TeamRankEntry> rankTeams(const Contest& contest,
   sortByRank(ranking, order);
   return ranking;
 }
+
+}  // namespace scorvane

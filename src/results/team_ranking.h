@@ -7,6 +7,8 @@
 
 #include "results/tie_breakers.h"
 
+namespace scorvane {
+
 struct TeamRankEntry {
   std::map<std::string, Team>::const_iterator team;  ///< into the contest that was ranked
   RankValues values;                                 ///< summed over the members that count
@@ -24,3 +26,5 @@ struct TeamRankEntry {
 [[nodiscard]] std::vector<TeamRankEntry> rankTeams(const Contest& contest,
                                                    const std::vector<IndividualRankEntry>& totals,
                                                    TieOrder order);
+
+}  // namespace scorvane

@@ -4,6 +4,8 @@
 #include <numeric>
 #include <utility>
 
+namespace scorvane {
+
 namespace {
 
 // A team of more regular members than this exists in damaged files only; exchanging would take
@@ -66,3 +68,5 @@ void chooseCountingSlots(const ContestSettings& settings, std::span<const std::i
   counting.resize(std::min(places, exchanged));
   std::erase_if(counting, [&](std::size_t slot) { return slot >= scores.size(); });
 }
+
+}  // namespace scorvane

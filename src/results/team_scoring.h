@@ -7,6 +7,8 @@
 
 #include "model/contest.h"
 
+namespace scorvane {
+
 /// Slots of regular members that a team really has: numPerTeam of them, but no more than it has
 /// members, and none when numPerTeam is below 0. Later slots hold alternates, who never count.
 [[nodiscard]] std::size_t regularSlots(const ContestSettings& settings, const Team& team);
@@ -19,3 +21,5 @@
 /// deliberate. Among equal scores the one that the exchanges of the sort leave first counts first.
 void chooseCountingSlots(const ContestSettings& settings, std::span<const std::int32_t> scores,
                          std::vector<std::size_t>& counting);
+
+}  // namespace scorvane

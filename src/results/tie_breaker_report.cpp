@@ -1,5 +1,7 @@
 #include "results/tie_breaker_report.h"
 
+namespace scorvane {
+
 std::string tieBreakerReport() {
   return "\n\n\t                  Rules for Breaking Ties\n\n"
          "\n\n\n\tScoring and tie-breakers for overall placings (non-reasons scores):\n\n"
@@ -21,3 +23,5 @@ std::string tieBreakerReport() {
          "\t  3. Highest total reasons score overall wins, if there is still a tie then,\n"
          "\t  4. Highest total score overall wins\n";
 }
+
+}  // namespace scorvane

@@ -3,5 +3,9 @@
 
 #include <string>
 
+namespace scorvane {
+
 /// The same text for every contest. It has to stay in step with the rankings it describes.
 [[nodiscard]] std::string tieBreakerReport();
+
+}  // namespace scorvane

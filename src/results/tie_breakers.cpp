@@ -1,5 +1,7 @@
 #include "results/tie_breakers.h"
 
+namespace scorvane {
+
 namespace {
 
 // How many of the ordering's values are equal, counted from the first up to the first difference.
@@ -31,3 +33,5 @@ TieColumns tieColumns(TieOrder order, const RankValues& row, const RankValues& p
   }
   return columns;
 }
+
+}  // namespace scorvane

@@ -13,6 +13,8 @@
 
 #include "results/contestant_totals.h"
 
+namespace scorvane {
+
 enum class TieOrder { overall, reasons, category };
 
 /// The ordering of a ranking: reasons for the kinds Reasons and Questions, otherwise category when
@@ -84,3 +86,5 @@ struct TieColumns {
 /// that is equal too. The ends of the list are compared with zeros.
 [[nodiscard]] TieColumns tieColumns(TieOrder order, const RankValues& row,
                                     const RankValues& previous, const RankValues& next);
+
+}  // namespace scorvane

@@ -5,6 +5,8 @@
 
 #include "results/contestant_totals.h"
 
+namespace scorvane {
+
 namespace {
 
 constexpr std::size_t kNotShown = std::numeric_limits<std::size_t>::max();
@@ -96,3 +98,5 @@ void SummaryColumns::addUp(const ClassScores& records, std::span<std::int32_t> r
     add(overall_ + 3, total);
   }
 }
+
+}  // namespace scorvane

@@ -8,6 +8,8 @@
 
 #include "model/contest.h"
 
+namespace scorvane {
+
 /// Neighbouring columns under one title: a class, a category's totals, or the overall totals.
 struct SummaryBlock {
   enum class Kind { judgingClass, category, overall };
@@ -50,3 +52,5 @@ class SummaryColumns {
   std::size_t count_ = 0;
   std::size_t overall_ = 0;  ///< first of the four overall columns
 };
+
+}  // namespace scorvane

@@ -9,6 +9,8 @@
 
 #include "text/format.h"
 
+namespace scorvane {
+
 namespace {
 
 constexpr std::string_view kBar = " | ";
@@ -180,3 +182,5 @@ void SummaryLayout::appendCells(std::string& out, std::size_t band,
   }
   out += '\n';
 }
+
+}  // namespace scorvane

@@ -12,6 +12,8 @@
 
 #include "results/total_summary_table.h"
 
+namespace scorvane {
+
 inline constexpr std::size_t kWidestSummaryLine = 132;
 
 /// Refers to the table it was made of.
@@ -53,3 +55,5 @@ class SummaryLayout {
   std::size_t prefixWidth_ = 0;
   std::vector<Band> bands_;
 };
+
+}  // namespace scorvane

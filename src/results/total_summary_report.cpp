@@ -6,6 +6,8 @@
 #include "results/total_summary_layout.h"
 #include "text/format.h"
 
+namespace scorvane {
+
 namespace {
 
 void appendOpening(std::string& out, const Contest& contest) {
@@ -107,3 +109,5 @@ std::string totalSummaryReport(const Contest& contest) {
   appendStatistics(out, *table, layout);
   return out;
 }
+
+}  // namespace scorvane

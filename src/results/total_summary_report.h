@@ -31,6 +31,10 @@
 
 #include "model/contest.h"
 
+namespace scorvane {
+
 /// Every total is the one that the High Individual and High Team reports, or a custom report of a
 /// category, rank by. A damaged contest of far too many lines gives a report that only says so.
 [[nodiscard]] std::string totalSummaryReport(const Contest& contest);
+
+}  // namespace scorvane

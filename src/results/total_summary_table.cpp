@@ -4,6 +4,8 @@
 #include "results/contestant_totals.h"
 #include "results/team_scoring.h"
 
+namespace scorvane {
+
 namespace {
 
 // A hundred thousand contestants judging thirty classes with everything need a third of this.
@@ -79,3 +81,5 @@ void SummaryTable::addContestantsWithoutTeam(const Contest& contest) {
   group.rowCount = rows_.size() - group.firstRow;
   if (group.rowCount > 0) teams_.push_back(group);
 }
+
+}  // namespace scorvane

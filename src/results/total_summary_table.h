@@ -9,6 +9,8 @@
 
 #include "results/total_summary_columns.h"
 
+namespace scorvane {
+
 /// A named contestant's line.
 struct SummaryRow {
   ContestantNumber number = 0;
@@ -58,3 +60,5 @@ class SummaryTable {
   std::vector<SummaryRow> rows_;
   std::vector<std::int32_t> cells_;
 };
+
+}  // namespace scorvane

@@ -4,8 +4,11 @@
 #include <string>
 
 #include "model/contest.h"
+#include "session/open_contest.h"
 #include "setup/setup_contest_controls.h"
 #include "ui/field_text.h"
+
+namespace scorvane {
 
 using namespace setup_contest;
 
@@ -118,3 +121,5 @@ void onCategoryEvent(Dialog& dialog, ControlId id, ControlEvent event) {
   if (id == kUpdateCategory) updateCategory(dialog);
   if (id == kDeleteCategory) deleteCategory(dialog);
 }
+
+}  // namespace scorvane

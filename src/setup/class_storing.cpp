@@ -6,6 +6,8 @@
 
 #include "text/format.h"
 
+namespace scorvane {
+
 namespace {
 
 using Index = std::optional<std::int32_t>;
@@ -100,3 +102,5 @@ void removeClass(JudgingClasses& classes, std::int32_t index) {
   removeAt(classes.cut3, index);
   removeAt(classes.categoryIndex, index);
 }
+
+}  // namespace scorvane

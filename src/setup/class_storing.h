@@ -8,6 +8,8 @@
 
 #include "model/contest.h"
 
+namespace scorvane {
+
 /// The form as the operator filled it in.
 struct ClassForm {
   std::string name;
@@ -33,3 +35,5 @@ struct ClassForm {
 
 /// Removes a class (index from 0) from every column that has it.
 void removeClass(JudgingClasses& classes, std::int32_t index);
+
+}  // namespace scorvane

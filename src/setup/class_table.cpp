@@ -4,8 +4,11 @@
 #include <vector>
 
 #include "model/class_lists.h"
+#include "session/open_contest.h"
 #include "setup/setup_classes_controls.h"
 #include "text/format.h"
+
+namespace scorvane {
 
 using namespace setup_classes;
 
@@ -49,3 +52,5 @@ void appendToClassTable(Dialog& dialog, std::int32_t index) {
 void selectInClassTable(Dialog& dialog, std::optional<int> line) {
   for (const ControlId list : kTable) dialog.select(list, line);
 }
+
+}  // namespace scorvane

@@ -3,6 +3,8 @@
 
 #include "ui/dialog.h"
 
+namespace scorvane {
+
 namespace edit_contestants {
 
 inline constexpr int kDialog = 163;
@@ -17,3 +19,5 @@ inline constexpr ControlId kDelete = kCancelId;
 inline constexpr ControlId kDone = 1003;
 
 }  // namespace edit_contestants
+
+}  // namespace scorvane

@@ -5,12 +5,16 @@
 
 #include "model/contest.h"
 #include "model/numbering.h"
+#include "model/reasons_places.h"
+#include "model/roster.h"
+#include "session/contest_file.h"
+#include "session/open_contest.h"
 #include "setup/edit_contestants_controls.h"
-#include "setup/team_members.h"
-#include "storage/contest_commands.h"
 #include "text/format.h"
 #include "text/number.h"
 #include "ui/field_text.h"
+
+namespace scorvane {
 
 using namespace edit_contestants;
 
@@ -83,7 +87,7 @@ void finish(Dialog& dialog) {
 
 }  // namespace
 
-void EditContestantsDialog::opened(Dialog& dialog) {
+void EditContestantsDialog::onOpen(Dialog& dialog) {
   const Contest& contest = currentContest();
   std::vector<std::string> lines;
   for (const auto& [number, name] : contest.contestantNames) {
@@ -100,6 +104,8 @@ void EditContestantsDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent e
   if (id == kDone) finish(dialog);
 }
 
-void EditContestantsDialog::closed(Dialog& dialog) {
+void EditContestantsDialog::onClose(Dialog& dialog) {
   finish(dialog);
 }
+
+}  // namespace scorvane

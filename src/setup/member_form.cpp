@@ -5,10 +5,14 @@
 #include <string>
 
 #include "model/numbering.h"
+#include "model/reasons_places.h"
+#include "model/roster.h"
+#include "session/open_contest.h"
 #include "setup/setup_teams_controls.h"
-#include "setup/team_members.h"
 #include "text/number.h"
 #include "ui/field_text.h"
+
+namespace scorvane {
 
 using namespace setup_teams;
 
@@ -167,3 +171,5 @@ void onMemberEvent(Dialog& dialog, ControlId id, ControlEvent event) {
   if (id == kUpdateMember) updateMember(dialog);
   if (id == kDeleteMember) deleteMember(dialog);
 }
+
+}  // namespace scorvane

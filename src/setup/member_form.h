@@ -7,6 +7,8 @@
 #include "model/contest.h"
 #include "ui/dialog.h"
 
+namespace scorvane {
+
 /// Readies the member fields for the next new contestant (for none while a team is selected):
 /// no member selected, the next number and group letter shown, Add Member the default button.
 /// The focus stays.
@@ -23,3 +25,5 @@ void showMembers(Dialog& dialog, const std::vector<ContestantNumber>& members);
 
 /// Answers an event of the member list and its buttons; events of other controls are ignored.
 void onMemberEvent(Dialog& dialog, ControlId id, ControlEvent event);
+
+}  // namespace scorvane

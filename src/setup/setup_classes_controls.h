@@ -5,6 +5,8 @@
 
 #include "ui/dialog.h"
 
+namespace scorvane {
+
 namespace setup_classes {
 
 inline constexpr int kDialog = 135;
@@ -35,3 +37,5 @@ inline constexpr std::array kTable = {kNameList, kFlagsList, kOfficialList, kCut
                                       kCategoryList};
 
 }  // namespace setup_classes
+
+}  // namespace scorvane

@@ -5,12 +5,15 @@
 #include <string>
 
 #include "model/contest.h"
+#include "session/contest_file.h"
+#include "session/open_contest.h"
 #include "setup/class_table.h"
 #include "setup/setup_classes_controls.h"
-#include "storage/contest_commands.h"
 #include "text/format.h"
+#include "text/report_marks.h"
 #include "ui/field_text.h"
-#include "view/report_text.h"
+
+namespace scorvane {
 
 using namespace setup_classes;
 
@@ -61,14 +64,14 @@ void clearAll(Dialog& dialog) {
 
 void finish(Dialog& dialog) {
   reportText() = kWelcomeText;
-  recomputeAllPlacingScores();
+  recomputeAllPlacingScores(currentContest());
   saveCurrent(dialog);
   dialog.end(kOkId);
 }
 
 }  // namespace
 
-void SetupClassesDialog::opened(Dialog& dialog) {
+void SetupClassesDialog::onOpen(Dialog& dialog) {
   Contest& contest = currentContest();
   if (contest.categories.empty()) contest.categories.emplace_back(kNoCategory);
   dialog.linkScrolling({kTable.begin(), kTable.end()});
@@ -85,7 +88,7 @@ void SetupClassesDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent even
   if (const auto line = dialog.selection(id)) showClass(dialog, *line);
 }
 
-void SetupClassesDialog::closed(Dialog& dialog) {
+void SetupClassesDialog::onClose(Dialog& dialog) {
   finish(dialog);
 }
 
@@ -191,3 +194,5 @@ void SetupClassesDialog::removeSelected(Dialog& dialog) {
   }
   resetForm(dialog);
 }
+
+}  // namespace scorvane

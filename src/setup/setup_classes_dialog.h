@@ -6,13 +6,15 @@
 #include "setup/class_storing.h"
 #include "ui/dialog.h"
 
+namespace scorvane {
+
 /// Changes the current contest's classes at once; there is no Cancel. Done and the close box
 /// recompute all placing scores, save and end with kOkId.
 class SetupClassesDialog : public DialogBehaviour {
  public:
-  void opened(Dialog& dialog) override;
+  void onOpen(Dialog& dialog) override;
   void onEvent(Dialog& dialog, ControlId id, ControlEvent event) override;
-  void closed(Dialog& dialog) override;
+  void onClose(Dialog& dialog) override;
 
  private:
   void onTextChanged(Dialog& dialog, ControlId id) const;
@@ -27,3 +29,5 @@ class SetupClassesDialog : public DialogBehaviour {
   /// The program itself is filling the form: the typing aids must not move the focus.
   bool filling_ = false;
 };
+
+}  // namespace scorvane

@@ -3,6 +3,8 @@
 
 #include "ui/dialog.h"
 
+namespace scorvane {
+
 namespace setup_contest {
 
 inline constexpr int kDialog = 134;
@@ -27,3 +29,5 @@ inline constexpr ControlId kDone = kOkId;
 inline constexpr ControlId kCancel = kCancelId;
 
 }  // namespace setup_contest
+
+}  // namespace scorvane

@@ -3,12 +3,16 @@
 #include <array>
 #include <cstdint>
 
+#include "model/numbering.h"
+#include "model/reasons_places.h"
+#include "session/contest_file.h"
+#include "session/open_contest.h"
 #include "setup/category_form.h"
-#include "setup/regrouping.h"
 #include "setup/setup_contest_controls.h"
-#include "storage/contest_commands.h"
+#include "text/report_marks.h"
 #include "ui/field_text.h"
-#include "view/report_text.h"
+
+namespace scorvane {
 
 using namespace setup_contest;
 
@@ -117,7 +121,7 @@ bool storeTeamSizes(Dialog& dialog) {
 
 }  // namespace
 
-void SetupContestDialog::opened(Dialog& dialog) {
+void SetupContestDialog::onOpen(Dialog& dialog) {
   const Contest& contest = currentContest();
   settingsAtOpening_ = contest.settings;
   categoriesAtOpening_ = contest.categories;
@@ -146,7 +150,7 @@ void SetupContestDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent even
 }
 
 // Deliberate: the close box is no cancel.
-void SetupContestDialog::closed(Dialog& dialog) {
+void SetupContestDialog::onClose(Dialog& dialog) {
   commit(dialog);
 }
 
@@ -189,3 +193,5 @@ void SetupContestDialog::cancel(Dialog& dialog) const {
   currentContest().categories = categoriesAtOpening_;
   dialog.end(kCancelId);
 }
+
+}  // namespace scorvane

@@ -7,13 +7,15 @@
 #include "model/contest.h"
 #include "ui/dialog.h"
 
+namespace scorvane {
+
 /// Changes the current contest as the operator goes and puts the old values back on Cancel. Ends
 /// with kOkId after Done or the close box (the contest is saved then), kCancelId after Cancel.
 class SetupContestDialog : public DialogBehaviour {
  public:
-  void opened(Dialog& dialog) override;
+  void onOpen(Dialog& dialog) override;
   void onEvent(Dialog& dialog, ControlId id, ControlEvent event) override;
-  void closed(Dialog& dialog) override;
+  void onClose(Dialog& dialog) override;
 
  private:
   void commit(Dialog& dialog);
@@ -23,3 +25,5 @@ class SetupContestDialog : public DialogBehaviour {
   ContestSettings settingsAtOpening_;
   std::vector<std::string> categoriesAtOpening_;
 };
+
+}  // namespace scorvane

@@ -3,6 +3,8 @@
 
 #include "ui/dialog.h"
 
+namespace scorvane {
+
 namespace setup_teams {
 
 inline constexpr int kDialog = 136;
@@ -25,3 +27,5 @@ inline constexpr ControlId kClearAllTeams = 1023;
 inline constexpr ControlId kDone = 1003;
 
 }  // namespace setup_teams
+
+}  // namespace scorvane

@@ -3,11 +3,14 @@
 #include <utility>
 
 #include "model/numbering.h"
+#include "model/roster.h"
+#include "session/contest_file.h"
+#include "session/open_contest.h"
 #include "setup/member_form.h"
 #include "setup/setup_teams_controls.h"
-#include "setup/team_members.h"
-#include "storage/contest_commands.h"
 #include "ui/field_text.h"
+
+namespace scorvane {
 
 using namespace setup_teams;
 
@@ -51,7 +54,7 @@ std::optional<std::string> readTeamName(Dialog& dialog) {
 
 }  // namespace
 
-void SetupTeamsDialog::opened(Dialog& dialog) {
+void SetupTeamsDialog::onOpen(Dialog& dialog) {
   teamWritten_ = false;
   std::vector<std::string> names;
   for (const auto& [name, team] : currentContest().teams) names.push_back(name);
@@ -66,7 +69,7 @@ void SetupTeamsDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event)
   if (event == ControlEvent::clicked) onClicked(dialog, id);
 }
 
-void SetupTeamsDialog::closed(Dialog& dialog) {
+void SetupTeamsDialog::onClose(Dialog& dialog) {
   finish(dialog);
 }
 
@@ -172,7 +175,9 @@ void SetupTeamsDialog::clearAllTeams(Dialog& dialog) {
 
 void SetupTeamsDialog::finish(Dialog& dialog) const {
   if (!teamWritten_) discardContestants(currentContest(), membersShown(dialog));
-  recomputeAllPlacingScores();
+  recomputeAllPlacingScores(currentContest());
   saveCurrent(dialog);
   dialog.end(kOkId);
 }
+
+}  // namespace scorvane

@@ -8,14 +8,16 @@
 #include "model/contest.h"
 #include "ui/dialog.h"
 
+namespace scorvane {
+
 /// Changes the current contest at once. Members are in it from Add Member on, but leave it again
 /// when their team is not written before another one is shown or the dialog is closed. Done and
 /// the close box recompute all placing scores, save and end with kOkId.
 class SetupTeamsDialog : public DialogBehaviour {
  public:
-  void opened(Dialog& dialog) override;
+  void onOpen(Dialog& dialog) override;
   void onEvent(Dialog& dialog, ControlId id, ControlEvent event) override;
-  void closed(Dialog& dialog) override;
+  void onClose(Dialog& dialog) override;
 
  private:
   void onClicked(Dialog& dialog, ControlId id);
@@ -30,3 +32,5 @@ class SetupTeamsDialog : public DialogBehaviour {
   /// The members shown belong to a team that has been written.
   bool teamWritten_ = false;
 };
+
+}  // namespace scorvane

@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <string_view>
 
+namespace scorvane {
+
 /// Longest line a contest file holds, its CR LF included.
 inline constexpr std::size_t kMaxContestLine = 499;
 
@@ -16,3 +18,5 @@ inline constexpr std::string_view kTeamsMarker = "~~~~~Teams~~~~~";
 inline constexpr std::string_view kScoresMarker = "~~~~~Scores~~~~~";
 /// Two such lines end the file; readers pass over them.
 inline constexpr std::string_view kTrailerLine = "0000-0000-0000-0000";
+
+}  // namespace scorvane

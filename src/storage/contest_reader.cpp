@@ -14,6 +14,8 @@
 #include "storage/settings_reader.h"
 #include "text/number.h"
 
+namespace scorvane {
+
 namespace {
 
 bool skipTo(LineScanner& lines, std::string_view marker) {
@@ -213,3 +215,5 @@ std::variant<Contest, ContestFault> readContest(InputFile& file) {
   if (lines.failed()) return ContestFault::unreadable;
   return contest;
 }
+
+}  // namespace scorvane

@@ -7,6 +7,8 @@
 #include "model/contest.h"
 #include "storage/file.h"
 
+namespace scorvane {
+
 /// Why bytes are not taken for a contest.
 enum class ContestFault {
   notAContest,         ///< sections missing or cut off, or counts that no file could keep
@@ -23,3 +25,5 @@ enum class ContestFault {
 
 /// The same from a file, which is never in memory as a whole.
 [[nodiscard]] std::variant<Contest, ContestFault> readContest(InputFile& file);
+
+}  // namespace scorvane

@@ -8,6 +8,8 @@
 
 #include "storage/contest_format.h"
 
+namespace scorvane {
+
 namespace {
 
 /// What fits on a line beside its CR LF.
@@ -235,3 +237,5 @@ std::string writeContest(const Contest& contest) {
   }
   return out;
 }
+
+}  // namespace scorvane

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace scorvane {
+
 std::optional<std::string> FileSystem::readWhole(const std::string& path) {
   const std::unique_ptr<InputFile> file = openToRead(path);
   if (file == nullptr) return std::nullopt;
@@ -19,3 +21,5 @@ std::optional<std::string> FileSystem::readWhole(const std::string& path) {
   bytes.resize(length);
   return bytes;
 }
+
+}  // namespace scorvane

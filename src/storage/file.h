@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+namespace scorvane {
+
 /// How a file operation ended.
 enum class FileOutcome {
   done,
@@ -17,7 +19,7 @@ enum class FileOutcome {
 };
 
 /// What is known of a path before writing to it.
-struct FileFacts {
+struct FileStatus {
   bool exists = false;
   bool isRegular = false;      ///< a plain file: no folder, device or pipe
   bool isReadOnly = false;     ///< marked as not to be written
@@ -75,7 +77,7 @@ class FileSystem {
   /// folder must. Nothing when there is no such place.
   [[nodiscard]] virtual std::optional<std::string> resolve(const std::string& path) = 0;
   /// Nothing when it cannot be told.
-  [[nodiscard]] virtual std::optional<FileFacts> facts(const std::string& path) = 0;
+  [[nodiscard]] virtual std::optional<FileStatus> facts(const std::string& path) = 0;
 
   struct Opened {
     FileOutcome outcome = FileOutcome::failed;
@@ -102,7 +104,7 @@ class FileSystem {
   /// Keeps other copies of the program on this machine from taking a turn for the same path until
   /// the result is destroyed. Waits for five seconds at most: a turn that cannot be had is no
   /// reason not to save.
-  [[nodiscard]] virtual std::shared_ptr<void> takeTurn(const std::string& path) = 0;
+  [[nodiscard]] virtual std::shared_ptr<void> lockForSaving(const std::string& path) = 0;
 };
 
 /// Larger files are not read: no contest comes near, and a device without end must not hang.
@@ -110,3 +112,5 @@ inline constexpr std::uint64_t kMaxFileSize = std::uint64_t{1} << 30;
 
 /// The files of this machine.
 [[nodiscard]] FileSystem& systemFiles();
+
+}  // namespace scorvane

@@ -13,6 +13,8 @@
 
 #include "storage/file.h"
 
+namespace scorvane {
+
 namespace {
 
 /// An open file descriptor; closed at the end of its life.
@@ -141,11 +143,11 @@ std::optional<std::string> linkTarget(const std::string& path) {
 
 /// A folder that may be locked. It is unlocked before it is closed, as it is left open to the
 /// system whether closing that fails closes.
-struct Turn {
-  explicit Turn(int number) : folder(number) {}
-  Turn(const Turn&) = delete;
-  Turn& operator=(const Turn&) = delete;
-  ~Turn() { ::flock(folder.number(), LOCK_UN); }
+struct SaveLock {
+  explicit SaveLock(int number) : folder(number) {}
+  SaveLock(const SaveLock&) = delete;
+  SaveLock& operator=(const SaveLock&) = delete;
+  ~SaveLock() { ::flock(folder.number(), LOCK_UN); }
 
   Descriptor folder;
 };
@@ -178,9 +180,9 @@ class PosixFileSystem : public FileSystem {
     return (*folder == "/" ? "" : *folder) + "/" + name;
   }
 
-  std::optional<FileFacts> facts(const std::string& path) override {
+  std::optional<FileStatus> facts(const std::string& path) override {
     struct stat status {};
-    FileFacts facts;
+    FileStatus facts;
     if (::stat(path.c_str(), &status) != 0) {
       return errno == ENOENT ? std::optional(facts) : std::nullopt;
     }
@@ -222,15 +224,15 @@ class PosixFileSystem : public FileSystem {
   }
 
   // The folder is locked and not the file, which every save replaces by another one.
-  std::shared_ptr<void> takeTurn(const std::string& path) override {
-    auto turn =
-        std::make_shared<Turn>(::open(folderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  std::shared_ptr<void> lockForSaving(const std::string& path) override {
+    auto lock = std::make_shared<SaveLock>(
+        ::open(folderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     constexpr int kMostAttempts = 500;
     for (int i = 0; i < kMostAttempts; ++i) {
-      if (::flock(turn->folder.number(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) break;
+      if (::flock(lock->folder.number(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) break;
       pause(10);
     }
-    return turn;
+    return lock;
   }
 };
 
@@ -240,3 +242,5 @@ FileSystem& systemFiles() {
   static PosixFileSystem files;
   return files;
 }
+
+}  // namespace scorvane

@@ -7,6 +7,8 @@
 
 #include "storage/file.h"
 
+namespace scorvane {
+
 namespace {
 
 /// An open file; closed at the end of its life.
@@ -211,9 +213,9 @@ class WindowsFileSystem : public FileSystem {
     return target.empty() ? std::nullopt : std::optional(pathOf(target, path));
   }
 
-  std::optional<FileFacts> facts(const std::string& path) override {
+  std::optional<FileStatus> facts(const std::string& path) override {
     const std::wstring full = systemPath(path);
-    FileFacts facts;
+    FileStatus facts;
     const DWORD attributes = GetFileAttributesW(full.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) {
       return GetLastError() == ERROR_FILE_NOT_FOUND ? std::optional(facts) : std::nullopt;
@@ -256,14 +258,14 @@ class WindowsFileSystem : public FileSystem {
   void pause(int milliseconds) override { Sleep(static_cast<DWORD>(milliseconds)); }
 
   // One turn for all paths, as one file has many names. Windows ends the turn of a killed program.
-  std::shared_ptr<void> takeTurn(const std::string& /*path*/) override {
+  std::shared_ptr<void> lockForSaving(const std::string& /*path*/) override {
     constexpr DWORD kPatience = 5000;
-    std::shared_ptr<void> turn(CreateMutexA(nullptr, FALSE, "Scorvane saves"), [](HANDLE mutex) {
+    std::shared_ptr<void> lock(CreateMutexA(nullptr, FALSE, "Scorvane saves"), [](HANDLE mutex) {
       ReleaseMutex(mutex);
       CloseHandle(mutex);
     });
-    WaitForSingleObject(turn.get(), kPatience);
-    return turn;
+    WaitForSingleObject(lock.get(), kPatience);
+    return lock;
   }
 };
 
@@ -273,3 +275,5 @@ FileSystem& systemFiles() {
   static WindowsFileSystem files;
   return files;
 }
+
+}  // namespace scorvane

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+namespace scorvane {
+
 namespace {
 
 constexpr std::size_t kPiece = std::size_t{64} << 10;
@@ -86,3 +88,5 @@ std::string_view LineScanner::withinLimits(std::string_view line) const {
   line = line.substr(0, kMaxLine);
   return hasNul_ ? line.substr(0, line.find('\0')) : line;
 }
+
+}  // namespace scorvane

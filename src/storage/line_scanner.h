@@ -9,6 +9,8 @@
 
 #include "storage/file.h"
 
+namespace scorvane {
+
 /// Takes bytes apart into lines. Only CR LF ends a line: a CR without LF is dropped, an LF
 /// without CR is a character like any other. What follows the last CR LF is not a line, since a
 /// file cut off there may have lost the end of a number. A line counts up to its first NUL, and
@@ -85,3 +87,5 @@ class FieldScanner {
   std::string_view rest_;
   bool atEnd_ = false;
 };
+
+}  // namespace scorvane

@@ -2,23 +2,25 @@
 
 #include <optional>
 
+namespace scorvane {
+
 namespace {
 
 bool writeAll(OutputFile& file, std::string_view bytes) {
   return file.write(bytes) && file.flush() && file.close();
 }
 
-struct Spare {
+struct TemporaryCopy {
   FileOutcome outcome = FileOutcome::failed;
   std::string path;
 };
 
 /// Writes a complete, flushed copy beside the target or elsewhere, or leaves nothing there.
-Spare writeSpare(FileSystem& files, const std::string& target, FileSystem::Place place,
-                 std::string_view bytes) {
+TemporaryCopy writeTemporaryCopy(FileSystem& files, const std::string& target,
+                                 FileSystem::Place place, std::string_view bytes) {
   constexpr int kAttempts = 100;
   for (int attempt = 1; attempt <= kAttempts; ++attempt) {
-    Spare spare{FileOutcome::failed, files.temporaryName(target, place, attempt)};
+    TemporaryCopy spare{FileOutcome::failed, files.temporaryName(target, place, attempt)};
     FileSystem::Opened opened = files.create(spare.path);
     if (opened.outcome == FileOutcome::exists) continue;
     spare.outcome = opened.outcome;
@@ -75,14 +77,14 @@ InPlace writeInPlace(FileSystem& files, const std::string& target, std::string_v
 bool saveSafely(FileSystem& files, const std::string& path, std::string_view bytes) {
   const std::optional<std::string> target = files.resolve(path);
   if (!target) return false;
-  const std::optional<FileFacts> facts = files.facts(*target);
+  const std::optional<FileStatus> facts = files.facts(*target);
   if (!facts || (facts->exists && (!facts->isRegular || facts->isReadOnly))) return false;
 
-  Spare spare = writeSpare(files, *target, FileSystem::Place::beside, bytes);
+  TemporaryCopy spare = writeTemporaryCopy(files, *target, FileSystem::Place::beside, bytes);
   bool mayReplace = !facts->hasOtherNames;
   if (spare.outcome == FileOutcome::denied && facts->exists) {
     // A program killed while it writes in place must leave a whole copy somewhere.
-    spare = writeSpare(files, *target, FileSystem::Place::temporaryFolder, bytes);
+    spare = writeTemporaryCopy(files, *target, FileSystem::Place::temporaryFolder, bytes);
     mayReplace = false;
   }
   if (spare.outcome != FileOutcome::done) return false;
@@ -98,3 +100,5 @@ bool saveSafely(FileSystem& files, const std::string& path, std::string_view byt
   if (result != InPlace::damaged) files.remove(spare.path);
   return result == InPlace::saved;
 }
+
+}  // namespace scorvane

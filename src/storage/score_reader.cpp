@@ -9,6 +9,8 @@
 
 #include "text/number.h"
 
+namespace scorvane {
+
 namespace {
 
 struct ScoreLine {
@@ -148,3 +150,5 @@ bool readScores(LineScanner& lines, std::int64_t lineCount, Contest& contest) {
   }
   return true;
 }
+
+}  // namespace scorvane

@@ -6,8 +6,12 @@
 #include "model/contest.h"
 #include "storage/line_scanner.h"
 
+namespace scorvane {
+
 /// Reads `lineCount` score lines into the contest, whose classes and contestants are known by now.
 /// A record of a class or a contestant that does not exist is passed over; of several records of
 /// one contestant and class the last one stays. Without classes every contestant gets an entry
 /// without records. False when the lines end early.
 [[nodiscard]] bool readScores(LineScanner& lines, std::int64_t lineCount, Contest& contest);
+
+}  // namespace scorvane

@@ -7,6 +7,8 @@
 #include "storage/contest_format.h"
 #include "text/number.h"
 
+namespace scorvane {
+
 namespace {
 
 struct TextKey {
@@ -82,3 +84,5 @@ bool readSettings(LineScanner& lines, Contest& contest) {
   }
   return false;
 }
+
+}  // namespace scorvane

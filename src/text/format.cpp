@@ -4,6 +4,8 @@
 #include <cstdarg>
 #include <cstdio>
 
+namespace scorvane {
+
 namespace {
 
 SCORVANE_FORMAT(2, 0)
@@ -44,3 +46,5 @@ std::string formatText(const char* format, ...) {
   va_end(arguments);
   return out;
 }
+
+}  // namespace scorvane

@@ -12,8 +12,12 @@
 #define SCORVANE_FORMAT(format_index, first) __attribute__((format(printf, format_index, first)))
 #endif
 
+namespace scorvane {
+
 /// Appends the formatted text to `out`. Any length; the format is checked by the compiler.
 SCORVANE_FORMAT(2, 3) void appendFormat(std::string& out, const char* format, ...);
 
 /// The formatted text as a new string.
 [[nodiscard]] SCORVANE_FORMAT(1, 2) std::string formatText(const char* format, ...);
+
+}  // namespace scorvane

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace scorvane {
+
 std::string withWindowsLineEnds(std::string_view text) {
   const auto lines = static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
   std::string converted;
@@ -12,3 +14,5 @@ std::string withWindowsLineEnds(std::string_view text) {
   }
   return converted;
 }
+
+}  // namespace scorvane

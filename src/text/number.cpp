@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <limits>
 
+namespace scorvane {
+
 namespace {
 
 bool isBlank(char character) {
@@ -36,3 +38,5 @@ std::string_view withoutOuterBlanks(std::string_view text) {
   while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
   return text;
 }
+
+}  // namespace scorvane

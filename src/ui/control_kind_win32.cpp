@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+namespace scorvane {
+
 namespace {
 
 constexpr LineMessages kListMessages = {
@@ -59,3 +61,5 @@ std::optional<ControlEvent> controlEvent(NativeWindow control, unsigned notifica
   }
   return std::nullopt;
 }
+
+}  // namespace scorvane

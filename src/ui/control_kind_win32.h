@@ -4,8 +4,9 @@
 #include <optional>
 
 #include "ui/dialog.h"
+#include "ui/native_window_win32.h"
 
-using NativeWindow = struct HWND__*;
+namespace scorvane {
 
 enum class ControlKind { button, edit, list, combo, other };
 
@@ -26,3 +27,5 @@ struct LineMessages {
 
 /// The event that a notification of the control stands for; nothing for all others.
 [[nodiscard]] std::optional<ControlEvent> controlEvent(NativeWindow control, unsigned notification);
+
+}  // namespace scorvane

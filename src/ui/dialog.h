@@ -7,7 +7,10 @@
 #include <string_view>
 #include <vector>
 
+#include "text/unsigned_number.h"
 #include "ui/window.h"
+
+namespace scorvane {
 
 using ControlId = int;
 
@@ -34,7 +37,9 @@ class Dialog : public Window {
   virtual void setText(ControlId id, std::string_view text) = 0;
   /// The field's text as an unsigned number; nothing when it is empty, holds anything but digits,
   /// with or without blanks around them, or is too large for 32 bits.
-  [[nodiscard]] virtual std::optional<std::uint32_t> number(ControlId id) const = 0;
+  [[nodiscard]] std::optional<std::uint32_t> number(ControlId id) const {
+    return unsignedNumber(text(id));
+  }
 
   [[nodiscard]] virtual bool isChecked(ControlId id) const = 0;
   virtual void setChecked(ControlId id, bool checked) = 0;
@@ -82,10 +87,12 @@ class DialogBehaviour {
   virtual ~DialogBehaviour() = default;
 
   /// The controls exist and are empty; the dialog is about to be shown.
-  virtual void opened(Dialog& dialog) = 0;
+  virtual void onOpen(Dialog& dialog) = 0;
   /// A control reports something. Escape and a missing default button report kCancelId and kOkId
   /// clicked; ids that a dialog does not act on are to be ignored.
   virtual void onEvent(Dialog& dialog, ControlId id, ControlEvent event) = 0;
   /// The operator pressed the close box; the behaviour ends the dialog, or not.
-  virtual void closed(Dialog& dialog) = 0;
+  virtual void onClose(Dialog& dialog) = 0;
 };
+
+}  // namespace scorvane

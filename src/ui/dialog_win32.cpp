@@ -10,7 +10,8 @@
 #include "ui/control_kind_win32.h"
 #include "ui/fixed_font_win32.h"
 #include "ui/typed_choice_win32.h"
-#include "ui/unsigned_number.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -37,14 +38,8 @@ class NativeDialog final : public Dialog {
   std::optional<std::string> chooseFile(const FileQuestion& question) override {
     return chooseFileOver(window_, question);
   }
-  int runDialog(int resourceId, DialogBehaviour& behaviour) override {
-    return runDialogOver(window_, resourceId, behaviour);
-  }
   [[nodiscard]] std::string text(ControlId id) const override;
   void setText(ControlId id, std::string_view text) override;
-  [[nodiscard]] std::optional<std::uint32_t> number(ControlId id) const override {
-    return unsignedNumber(text(id));
-  }
   [[nodiscard]] bool isChecked(ControlId id) const override;
   void setChecked(ControlId id, bool checked) override;
   [[nodiscard]] int lineCount(ControlId id) const override;
@@ -114,8 +109,8 @@ LRESULT CALLBACK linkedListProcedure(HWND list, UINT message, WPARAM wParam, LPA
 INT_PTR NativeDialog::initialize(HWND window) {
   window_ = window;
   useColumnFont();
-  letTypingChooseLines(window);
-  behaviour_.opened(*this);
+  enableTypeAhead(window);
+  behaviour_.onOpen(*this);
   drawDefaultButtons();
   // FALSE keeps the focus where the behaviour put it.
   return focused_ ? FALSE : TRUE;
@@ -139,7 +134,7 @@ INT_PTR NativeDialog::command(ControlId id, WORD notification) {
 }
 
 INT_PTR NativeDialog::closeBox() {
-  if (!ended_) behaviour_.closed(*this);
+  if (!ended_) behaviour_.onClose(*this);
   return TRUE;
 }
 
@@ -371,3 +366,5 @@ int runDialogOver(NativeWindow owner, int resourceId, DialogBehaviour& behaviour
                                          owner, dialogProcedure, reinterpret_cast<LPARAM>(&dialog));
   return static_cast<int>(result);
 }
+
+}  // namespace scorvane

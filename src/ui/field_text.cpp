@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace scorvane {
+
 std::string withoutControlCharacters(std::string_view text) {
   std::string cleaned(text);
   std::replace_if(
@@ -21,3 +23,5 @@ std::int32_t fieldNumber(const Dialog& dialog, ControlId id) {
 void showNumber(Dialog& dialog, ControlId id, std::int32_t value) {
   dialog.setNumber(id, static_cast<std::uint32_t>(value));
 }
+
+}  // namespace scorvane

@@ -8,6 +8,8 @@
 
 #include "ui/dialog.h"
 
+namespace scorvane {
+
 /// Longest text taken from an edit field, in bytes.
 inline constexpr std::size_t kMaxFieldText = 499;
 
@@ -26,3 +28,5 @@ inline constexpr std::size_t kMaxFieldText = 499;
 
 /// Shows a number in a digits-only field.
 void showNumber(Dialog& dialog, ControlId id, std::int32_t value);
+
+}  // namespace scorvane

@@ -7,6 +7,8 @@
 
 #include "ui/dialog_win32.h"
 
+namespace scorvane {
+
 namespace {
 
 // Pairs of name and pattern, each ended by a NUL, the list by one more.
@@ -65,3 +67,5 @@ std::optional<std::string> chooseFileOver(NativeWindow owner, const FileQuestion
   if (chosen == FALSE) return std::nullopt;
   return path.data();
 }
+
+}  // namespace scorvane

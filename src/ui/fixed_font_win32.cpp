@@ -4,6 +4,8 @@
 
 #include <array>
 
+namespace scorvane {
+
 namespace {
 
 GraphicsObject fontNamed(const char* face, int height) {
@@ -39,3 +41,5 @@ GraphicsObject makeFixedFont(int height) {
   // A stock object; deleting it does nothing.
   return GraphicsObject(GetStockObject(ANSI_FIXED_FONT));
 }
+
+}  // namespace scorvane

@@ -3,6 +3,8 @@
 
 #include <memory>
 
+namespace scorvane {
+
 /// Releases a graphics object of the system.
 struct GraphicsObjectDeleter {
   void operator()(void* object) const;
@@ -12,3 +14,5 @@ using GraphicsObject = std::unique_ptr<void, GraphicsObjectDeleter>;
 /// A font of `height` pixels from the top of a capital to the bottom of a descender, every
 /// character equally wide.
 [[nodiscard]] GraphicsObject makeFixedFont(int height);
+
+}  // namespace scorvane

@@ -1,5 +1,7 @@
 #include "ui/line_search.h"
 
+namespace scorvane {
+
 namespace {
 
 char capital(char c) {
@@ -20,3 +22,5 @@ std::optional<int> lineBeginningWith(const std::vector<std::string>& lines, char
   }
   return std::nullopt;
 }
+
+}  // namespace scorvane

@@ -2,6 +2,8 @@
 
 #include "ui/dialog_win32.h"
 
+namespace scorvane {
+
 namespace {
 
 UINT buttonsOf(Buttons buttons) {
@@ -37,3 +39,5 @@ Answer askOver(NativeWindow owner, const Message& message) {
   // No box could be shown: nothing was agreed to.
   return message.buttons == Buttons::yesNo ? Answer::no : Answer::cancel;
 }
+
+}  // namespace scorvane

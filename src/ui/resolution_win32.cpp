@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+namespace scorvane {
+
 int resolutionOf(NativeWindow window) {
   // Windows before 10 has one resolution for all displays and does not know this function.
   using GetDpi = UINT(WINAPI*)(HWND);
@@ -15,3 +17,5 @@ int resolutionOf(NativeWindow window) {
   ReleaseDC(nullptr, screen);
   return dots > 0 ? dots : 96;
 }
+
+}  // namespace scorvane

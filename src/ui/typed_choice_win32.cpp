@@ -11,6 +11,8 @@
 #include "ui/control_kind_win32.h"
 #include "ui/line_search.h"
 
+namespace scorvane {
+
 namespace {
 
 std::vector<std::string> linesOf(HWND list) {
@@ -53,6 +55,8 @@ BOOL CALLBACK watch(HWND control, LPARAM /*unused*/) {
 
 }  // namespace
 
-void letTypingChooseLines(NativeWindow dialog) {
+void enableTypeAhead(NativeWindow dialog) {
   EnumChildWindows(dialog, watch, 0);
 }
+
+}  // namespace scorvane

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-class DialogBehaviour;
+namespace scorvane {
 
 enum class Buttons { ok, okCancel, yesNo };
 enum class Answer { ok, cancel, yes, no };
@@ -50,9 +50,6 @@ class Window {
   /// Lets the operator choose a file; nothing when cancelled. The path is at most kMaxPathLength
   /// bytes of 8-bit text.
   virtual std::optional<std::string> chooseFile(const FileQuestion& question) = 0;
-  /// Runs the dialog of a resource id modally over this window; gives the result it ended with.
-  virtual int runDialog(int resourceId, DialogBehaviour& behaviour) = 0;
-
   /// A box with only an OK button.
   void show(const std::string& text, const std::string& caption) { ask({text, caption}); }
 
@@ -61,3 +58,5 @@ class Window {
     return ask({question, "Warning", Buttons::okCancel, Answer::cancel}) == Answer::ok;
   }
 };
+
+}  // namespace scorvane

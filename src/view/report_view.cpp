@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <limits>
 
+namespace scorvane {
+
 namespace {
 
 constexpr int kLinesPerNotch = 5;
@@ -139,3 +141,5 @@ std::string_view ReportView::line(const std::string& text, int index) {
   const auto [begin, end] = placeOf(index);
   return std::string_view(text).substr(begin, end - begin);
 }
+
+}  // namespace scorvane

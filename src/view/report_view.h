@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+namespace scorvane {
+
 /// Pixel measures of the fixed-pitch font; both at least 1.
 struct ViewMetrics {
   int charWidth = 1;
@@ -96,3 +98,5 @@ class ReportView {
   ScrollBar vertical_;
   ScrollBar horizontal_;
 };
+
+}  // namespace scorvane

@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <optional>
 
+#include "text/report_marks.h"
 #include "ui/resolution_win32.h"
-#include "view/report_text.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -66,10 +68,11 @@ int thumbPlace(HWND window, int bar, WORD reported) {
 
 }  // namespace
 
-ReportWindow::ReportWindow(NativeWindow window) : window_(window) {
+ReportWindow::ReportWindow(NativeWindow window, const std::string& text)
+    : window_(window), text_(text) {
   loadFont();
   loadPicture();
-  view_.open(reportText(), measureFont());
+  view_.open(text_, measureFont());
   EnableScrollBar(window_, SB_BOTH, ESB_ENABLE_BOTH);
   // As the window is not visible yet, this paints nothing.
   view_.resize(clientSize(window_));
@@ -104,7 +107,7 @@ ViewMetrics ReportWindow::measureFont() const {
 }
 
 void ReportWindow::refresh() {
-  view_.refresh(reportText(), measureFont(), clientSize(window_));
+  view_.refresh(text_, measureFont(), clientSize(window_));
   setBars();
   InvalidateRect(window_, nullptr, TRUE);
   UpdateWindow(window_);
@@ -114,7 +117,7 @@ void ReportWindow::changeResolution() {
   const int position = view_.vertical().position;
   loadFont();
   loadPicture();
-  view_.refresh(reportText(), measureFont(), clientSize(window_));
+  view_.refresh(text_, measureFont(), clientSize(window_));
   view_.scrollVertically(ScrollMove::track, position);
   setBars();
   InvalidateRect(window_, nullptr, TRUE);
@@ -226,7 +229,7 @@ void ReportWindow::paint() {
   const HGDIOBJ previous = SelectObject(memory, canvas.get());
   const RECT all = {0, 0, size.width, size.height};
   FillRect(memory, &all, GetSysColorBrush(COLOR_WINDOW));
-  if (reportText() == kWelcomeText) drawPicture(memory, size);
+  if (text_ == kWelcomeText) drawPicture(memory, size);
   drawLines(memory, size);
   BitBlt(screen, 0, 0, size.width, size.height, memory, 0, 0, SRCCOPY);
   SelectObject(memory, previous);
@@ -258,9 +261,11 @@ void ReportWindow::drawLines(void* context, const ViewSize& size) {
   const auto columns = static_cast<std::size_t>(size.width / metrics.charWidth + 1);
   const ReportView::Lines lines = view_.linesAt(0, size.height);
   for (int index = lines.first; index <= lines.last; ++index) {
-    const std::string_view line = view_.line(reportText(), index).substr(0, columns);
+    const std::string_view line = view_.line(text_, index).substr(0, columns);
     TabbedTextOutA(target, 0, (index - lines.first) * metrics.lineHeight, line.data(),
                    static_cast<int>(line.size()), 0, nullptr, 0);
   }
   SelectObject(target, previous);
 }
+
+}  // namespace scorvane

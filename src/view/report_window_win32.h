@@ -1,19 +1,22 @@
-// Paints reportText() in a window and takes the window's scrolling.
+// Paints a report in a window and takes the window's scrolling.
 #pragma once
 
 #include <cstdint>
 #include <optional>
+#include <string>
 
 #include "ui/fixed_font_win32.h"
+#include "ui/native_window_win32.h"
 #include "view/report_view.h"
 
-using NativeWindow = struct HWND__*;
+namespace scorvane {
 
 class ReportWindow {
  public:
-  explicit ReportWindow(NativeWindow window);
+  /// Shows `text`, which must outlive this.
+  ReportWindow(NativeWindow window, const std::string& text);
 
-  /// Shows reportText() from its top-left corner.
+  /// Shows the text from its top-left corner.
   void refresh();
   /// Takes up the resolution of the display that the window came to.
   void changeResolution();
@@ -34,6 +37,7 @@ class ReportWindow {
   void drawLines(void* context, const ViewSize& size);
 
   NativeWindow window_;
+  const std::string& text_;
   ReportView view_;
   int dotsPerInch_ = 96;
   GraphicsObject font_;
@@ -43,3 +47,5 @@ class ReportWindow {
   std::optional<ScrollBar> verticalShown_;
   std::optional<ScrollBar> horizontalShown_;
 };
+
+}  // namespace scorvane

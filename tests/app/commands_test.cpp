@@ -2,13 +2,16 @@
 #include <gtest/gtest.h>
 
 #include "app/command_table.h"
+#include "reasons/reasons_class_dialog.h"
+#include "reasons/reasons_order_edit_dialog.h"
 #include "reports/round_verification_dialog.h"
-#include "setup/reasons_class_dialog.h"
-#include "setup/reasons_order_edit_dialog.h"
-#include "storage/contest_commands.h"
+#include "session/contest_file.h"
+#include "session/open_contest.h"
 #include "tests/app/memory_main_window.h"
-#include "tests/setup/reasons_contest.h"
+#include "tests/reasons/reasons_contest.h"
 #include "tests/support/approved.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -97,3 +100,5 @@ TEST_F(Commands, SayWhatIsInTheirWay) {
 }
 
 }  // namespace
+
+}  // namespace scorvane

@@ -4,10 +4,13 @@
 
 #include "app/command_table.h"
 #include "model/contest.h"
-#include "storage/contest_commands.h"
+#include "session/contest_file.h"
+#include "session/open_contest.h"
 #include "tests/app/memory_main_window.h"
 #include "tests/support/approved.h"
 #include "tests/support/temporary_folder.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -70,3 +73,5 @@ TEST(ContestFileCommands, TellOfOneAfternoonAsApproved) {
 }
 
 }  // namespace
+
+}  // namespace scorvane

@@ -8,8 +8,10 @@
 #include <string>
 
 #include "app/main_window.h"
+#include "session/open_contest.h"
 #include "tests/ui/memory_dialog.h"
-#include "view/report_text.h"
+
+namespace scorvane {
 
 class MemoryMainWindow : public MainWindow {
  public:
@@ -62,3 +64,5 @@ class MemoryMainWindow : public MainWindow {
     std::erase(log, '\r');
   }
 };
+
+}  // namespace scorvane

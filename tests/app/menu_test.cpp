@@ -7,6 +7,8 @@
 #include "app/command_table.h"
 #include "tests/support/approved.h"
 
+namespace scorvane {
+
 namespace {
 
 // The results of individuals and of teams share their mnemonics, four by four.
@@ -50,3 +52,5 @@ TEST(Menu, HasTheKeysOfAbout) {
 }
 
 }  // namespace
+
+}  // namespace scorvane

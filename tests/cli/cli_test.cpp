@@ -8,6 +8,8 @@
 #include "tests/support/approved.h"
 #include "tests/support/contest_builder.h"
 
+namespace scorvane {
+
 namespace {
 
 // `fair.scv` has three classes, the second with reasons, in two categories; `bare.scv` has nobody
@@ -104,3 +106,5 @@ TEST(Cli, WritesEveryReportThatAsksNothing) {
 }
 
 }  // namespace
+
+}  // namespace scorvane

@@ -3,9 +3,12 @@
 #include "entry/placings_dialog.h"
 #include "entry/questions_dialog.h"
 #include "entry/reasons_dialog.h"
-#include "storage/contest_commands.h"
+#include "session/contest_file.h"
+#include "session/open_contest.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/ui/memory_dialog.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -35,3 +38,5 @@ TEST(Entry, ClosingSavesAContestWithAFileExceptWhenCancelled) {
 }
 
 }  // namespace
+
+}  // namespace scorvane

@@ -6,6 +6,8 @@
 #include "tests/support/contest_builder.h"
 #include "tests/ui/session.h"
 
+namespace scorvane {
+
 namespace {
 
 /// Groups A (101, 105) and B (102, 106), with nobody behind 103 and 104, and C without anybody.
@@ -75,3 +77,5 @@ INSTANTIATE_TEST_SUITE_P(Dialogs, EntrySession, testing::ValuesIn(sessionsOf("en
                          sessionName);
 
 }  // namespace
+
+}  // namespace scorvane

@@ -22,6 +22,8 @@
 #include "tests/support/temporary_folder.h"
 #include "tools/contest_maker.h"
 
+namespace scorvane {
+
 namespace {
 
 std::string contestOf(std::int32_t contestants) {
@@ -120,6 +122,8 @@ useconds_t timeOfTwoSaves(const Disk& disk, const std::string& a, const std::str
 }
 
 }  // namespace
+
+}  // namespace scorvane
 
 int main(int count, char** arguments) {
   const int kills = count > 1 ? std::atoi(arguments[1]) : 300;

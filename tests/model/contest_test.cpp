@@ -8,6 +8,8 @@
 #include "model/new_contest.h"
 #include "model/numbering.h"
 
+namespace scorvane {
+
 namespace {
 
 TEST(Numbering, NextNumberFollowsTheLargest) {
@@ -87,3 +89,5 @@ TEST(NewContest, IsDatedToday) {
 }
 
 }  // namespace
+
+}  // namespace scorvane

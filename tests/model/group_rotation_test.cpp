@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+namespace scorvane {
+
 namespace {
 
 // The column of a round as officials lay it out: the letters go to class `round` and those below
@@ -17,10 +19,10 @@ std::string laidOut(std::size_t classes, int groups, std::size_t round) {
   return column;
 }
 
-TEST(RoundGroups, RotateGroupsThroughClasses) {
+TEST(Rotation, RotateGroupsThroughClasses) {
   for (int classes = 0; classes <= 7; ++classes) {
     for (int groups = 0; groups <= classes; ++groups) {
-      const RoundGroups rotation(classes, groups);
+      const Rotation rotation(classes, groups);
       for (int round = 0; round < classes; ++round) {
         std::string column;
         for (int k = 0; k < classes; ++k) {
@@ -36,8 +38,8 @@ TEST(RoundGroups, RotateGroupsThroughClasses) {
   }
 }
 
-TEST(RoundGroups, AnswerWhatIsNotInTheTable) {
-  const RoundGroups rotation(3, 5);
+TEST(Rotation, AnswerWhatIsNotInTheTable) {
+  const Rotation rotation(3, 5);
   EXPECT_EQ(rotation.judgingGroups(), 3);
   for (const auto& [letter, index] : {std::pair{'D', 0}, {'@', 0}, {' ', 0}, {'A', 3}, {'A', -1}}) {
     EXPECT_EQ(rotation.classOf(letter, index), std::nullopt);
@@ -45,9 +47,11 @@ TEST(RoundGroups, AnswerWhatIsNotInTheTable) {
     EXPECT_EQ(rotation.groupAt(index, -1), ' ');
     EXPECT_EQ(rotation.groupAt(3, index), ' ');
   }
-  EXPECT_EQ(RoundGroups(3, -1).groupAt(0, 0), ' ');
-  EXPECT_EQ(RoundGroups(300, 2147483647).groupAt(190, 0), '\xFF');
-  EXPECT_EQ(RoundGroups(300, 2147483647).groupAt(191, 0), ' ');
+  EXPECT_EQ(Rotation(3, -1).groupAt(0, 0), ' ');
+  EXPECT_EQ(Rotation(300, 2147483647).groupAt(190, 0), '\xFF');
+  EXPECT_EQ(Rotation(300, 2147483647).groupAt(191, 0), ' ');
 }
 
 }  // namespace
+
+}  // namespace scorvane

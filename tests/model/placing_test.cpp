@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace scorvane {
+
 namespace {
 
 TEST(PlacingLetters, NumberTheOrdersOfFourAnimalsAscending) {
@@ -47,3 +49,5 @@ TEST(Cuts, AreLegalUpToFifteenWithASmallMiddleCut) {
 }
 
 }  // namespace
+
+}  // namespace scorvane

@@ -4,7 +4,9 @@
 
 #include "tests/support/approved.h"
 #include "text/format.h"
-#include "view/report_text.h"
+#include "text/report_marks.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -99,3 +101,5 @@ TEST(PrintLayout, TellsTheTimeAndTheProgress) {
 }
 
 }  // namespace
+
+}  // namespace scorvane

@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include "session/open_contest.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/ui/memory_dialog.h"
-#include "view/report_text.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -39,3 +41,5 @@ TEST(SaveReport, ReplacesTheChosenFileOrIsSilent) {
 }
 
 }  // namespace
+
+}  // namespace scorvane

@@ -12,6 +12,8 @@
 #include "tests/support/approved.h"
 #include "tests/support/contest_builder.h"
 
+namespace scorvane {
+
 namespace {
 
 // Numbers pass from three digits to four; slots are empty, names long, an alternate stands in each
@@ -121,3 +123,5 @@ TEST(Reports, OfOddContestsReadAsApproved) {
 }
 
 }  // namespace
+
+}  // namespace scorvane

@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "reports/round_reports.h"
+#include "session/open_contest.h"
 #include "tests/support/contest_builder.h"
 #include "tests/ui/memory_dialog.h"
-#include "view/report_text.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -54,3 +56,5 @@ TEST(RoundVerification, ReportsTheRoundChosenOrFoundForAGroupAndAClass) {
 }
 
 }  // namespace
+
+}  // namespace scorvane

@@ -2,10 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "session/open_contest.h"
 #include "tests/support/approved.h"
 #include "tests/support/contest_builder.h"
 #include "tests/ui/memory_dialog.h"
-#include "view/report_text.h"
+#include "text/report_marks.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -85,3 +88,5 @@ TEST_F(CustomReportDialogTest, TakesTheFirstFiftyClassesAndAnyNumber) {
 }
 
 }  // namespace
+
+}  // namespace scorvane

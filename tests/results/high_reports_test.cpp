@@ -7,6 +7,8 @@
 #include "tests/support/approved.h"
 #include "tests/support/contest_builder.h"
 
+namespace scorvane {
+
 namespace {
 
 HighReportRequest twenty(ScoreKind kind, ClassSet classes, const std::string& title = "") {
@@ -113,3 +115,5 @@ TEST(HighReports, OfTheCountySampleAreAsApproved) {
 }
 
 }  // namespace
+
+}  // namespace scorvane

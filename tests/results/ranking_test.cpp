@@ -7,6 +7,8 @@
 #include "results/team_scoring.h"
 #include "tests/support/contest_builder.h"
 
+namespace scorvane {
+
 namespace {
 
 // A second, slow ranking: every sum record by record, every team member by member.
@@ -170,3 +172,5 @@ TEST(TeamScoring, CountsTheBestOfAbsurdlyManyMembers) {
 }
 
 }  // namespace
+
+}  // namespace scorvane

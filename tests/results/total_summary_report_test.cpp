@@ -8,6 +8,8 @@
 #include "tests/support/approved.h"
 #include "tests/support/contest_builder.h"
 
+namespace scorvane {
+
 namespace {
 
 // Two members count: of Adams Ann and the empty slot 104, whose scores are of a deleted contestant,
@@ -65,3 +67,5 @@ TEST(ScoreStatistics, CountMarksAndRoundByTheFirstDecimalToTwoDigits) {
 }
 
 }  // namespace
+
+}  // namespace scorvane

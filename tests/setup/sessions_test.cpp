@@ -1,11 +1,13 @@
 // What the sessions beside this file speak of: the setup dialogs, contests and what befalls them.
+#include "reasons/reasons_order_edit_dialog.h"
 #include "setup/edit_contestants_dialog.h"
-#include "setup/reasons_order_edit_dialog.h"
 #include "setup/setup_classes_dialog.h"
 #include "setup/setup_contest_dialog.h"
 #include "setup/setup_teams_dialog.h"
-#include "tests/setup/reasons_contest.h"
+#include "tests/reasons/reasons_contest.h"
 #include "tests/ui/session.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -111,3 +113,5 @@ INSTANTIATE_TEST_SUITE_P(Dialogs, SetupSession, testing::ValuesIn(sessionsOf("se
                          sessionName);
 
 }  // namespace
+
+}  // namespace scorvane

@@ -12,6 +12,8 @@
 #include "tests/support/contest_builder.h"
 #include "tools/contest_maker.h"
 
+namespace scorvane {
+
 namespace {
 
 using namespace std::string_literals;
@@ -239,3 +241,5 @@ TEST(ContestWriter, SavesWhatItLoadedUnchanged) {
 }
 
 }  // namespace
+
+}  // namespace scorvane

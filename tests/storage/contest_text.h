@@ -7,6 +7,8 @@
 
 #include "tests/support/approved.h"
 
+namespace scorvane {
+
 /// The lines joined, each ended by CR LF.
 inline std::string fileOf(std::initializer_list<std::string_view> lines) {
   std::string bytes;
@@ -24,3 +26,5 @@ inline std::string replaced(std::string text, std::string_view from, std::string
   const std::size_t at = text.find(from);
   return at == std::string::npos ? text : text.replace(at, from.size(), to);
 }
+
+}  // namespace scorvane

@@ -8,6 +8,8 @@
 
 #include "storage/file.h"
 
+namespace scorvane {
+
 class MemoryFiles : public FileSystem {
  public:
   struct File {
@@ -36,9 +38,9 @@ class MemoryFiles : public FileSystem {
   std::optional<std::string> resolve(const std::string& path) override {
     return fails() ? std::nullopt : std::optional(path);
   }
-  std::optional<FileFacts> facts(const std::string& path) override {
+  std::optional<FileStatus> facts(const std::string& path) override {
     if (fails()) return std::nullopt;
-    return files.contains(path) ? FileFacts{true, true, false, hasOtherNames} : FileFacts{};
+    return files.contains(path) ? FileStatus{true, true, false, hasOtherNames} : FileStatus{};
   }
   Opened create(const std::string& path) override {
     if (fails()) return {failure, nullptr};
@@ -66,7 +68,7 @@ class MemoryFiles : public FileSystem {
     return (place == Place::beside ? path : "temporary/" + path) + "." + std::to_string(attempt);
   }
   void pause(int /*milliseconds*/) override {}
-  std::shared_ptr<void> takeTurn(const std::string& /*path*/) override { return nullptr; }
+  std::shared_ptr<void> lockForSaving(const std::string& /*path*/) override { return nullptr; }
 
  private:
   // Gives few bytes at a time and never the same number, so that a read ends anywhere in a line.
@@ -147,3 +149,5 @@ class MemoryFiles : public FileSystem {
     return room - used;
   }
 };
+
+}  // namespace scorvane

@@ -9,6 +9,8 @@
 #include "tests/storage/memory_files.h"
 #include "tests/support/temporary_folder.h"
 
+namespace scorvane {
+
 namespace {
 
 const std::string kOld = "the old contest, whole";
@@ -137,3 +139,5 @@ TEST_F(SafeSaveOnDisk, RefusesWhatIsNotToBeWrittenOrRead) {
 }
 
 }  // namespace
+
+}  // namespace scorvane

@@ -11,6 +11,8 @@
 
 #include "storage/contest_reader.h"
 
+namespace scorvane {
+
 void expectApproved(const std::string& report, const std::string& name) {
   const char* renew = std::getenv("SCORVANE_RENEW");
   if (renew != nullptr && std::string_view(renew) == "1") {
@@ -46,3 +48,5 @@ Contest contestOfFile(const std::string& name) {
   ADD_FAILURE() << "no contest in " << name;
   return {};
 }
+
+}  // namespace scorvane

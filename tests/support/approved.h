@@ -5,6 +5,8 @@
 
 #include "model/contest.h"
 
+namespace scorvane {
+
 /// Holds a report against the approved text in tests/<name>; fails with line and column of the
 /// first difference. With the environment variable SCORVANE_RENEW=1 the approved text is
 /// rewritten instead: read the diff before committing it.
@@ -14,3 +16,5 @@ void expectApproved(const std::string& report, const std::string& name);
 [[nodiscard]] std::string sourceFile(const std::string& name);
 /// The contest of such a file.
 [[nodiscard]] Contest contestOfFile(const std::string& name);
+
+}  // namespace scorvane

@@ -11,6 +11,8 @@
 #include "model/new_contest.h"
 #include "model/numbering.h"
 
+namespace scorvane {
+
 /// Builds a contest step by step. It starts as a new contest of March 05, 2024 with the category
 /// "none"; settings are changed through `contest.settings` before teams are added.
 class ContestBuilder {
@@ -94,3 +96,5 @@ class ContestBuilder {
 
   Contest contest;
 };
+
+}  // namespace scorvane

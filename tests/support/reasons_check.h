@@ -5,6 +5,8 @@
 
 #include "model/contest.h"
 
+namespace scorvane {
+
 /// A contestant stands in a cell of a reasons group exactly when the place names that cell.
 /// Deleting whoever stands in the first row or the first group deliberately breaks this.
 inline bool orderAgreesWithPlaces(const Contest& contest) {
@@ -21,3 +23,5 @@ inline bool orderAgreesWithPlaces(const Contest& contest) {
                return !place.isAssigned() || order.cell(place.position, place.group) == contestant;
              });
 }
+
+}  // namespace scorvane

@@ -7,6 +7,8 @@
 #include <iterator>
 #include <string>
 
+namespace scorvane {
+
 class TemporaryFolder {
  public:
   TemporaryFolder() {
@@ -40,3 +42,5 @@ inline std::string contentOf(const std::string& path) {
 inline void makeFile(const std::string& path, const std::string& content) {
   std::ofstream(path, std::ios::binary) << content;
 }
+
+}  // namespace scorvane

@@ -5,6 +5,8 @@
 #include <iterator>
 #include <regex>
 
+namespace scorvane {
+
 namespace {
 
 std::vector<TemplateControl> controlsOf(const std::string& script) {
@@ -35,3 +37,5 @@ const std::map<std::string, DialogTemplate>& dialogTemplates() {
   }();
   return templates;
 }
+
+}  // namespace scorvane

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+namespace scorvane {
+
 struct TemplateControl {
   std::string statement;  ///< LTEXT, EDITTEXT, LISTBOX, ...
   std::string caption;    ///< with its "&"
@@ -24,3 +26,5 @@ struct DialogTemplate {
 
 /// The dialogs of src/**/*.rc, one a script, by name or number as written there.
 const std::map<std::string, DialogTemplate>& dialogTemplates();
+
+}  // namespace scorvane

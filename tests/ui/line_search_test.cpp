@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace scorvane {
+
 TEST(LineSearch, GoesRoundFromTheLineAfterAndSkipsBlanks) {
   const std::vector<std::string> lines = {" 1.  Steers", "", " 2.  Ewes", "   a   ", "10.  Hogs"};
   struct Case {
@@ -20,3 +22,5 @@ TEST(LineSearch, GoesRoundFromTheLineAfterAndSkipsBlanks) {
   }
   EXPECT_EQ(lineBeginningWith({}, '1', {}), std::nullopt);
 }
+
+}  // namespace scorvane

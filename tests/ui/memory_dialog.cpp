@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cctype>
 
+namespace scorvane {
+
 Answer ScriptedDesktop::ask(const Message& message) {
   messages.push_back(message);
   if (message.buttons == Buttons::ok) return Answer::ok;
@@ -40,7 +42,7 @@ MemoryDialog::MemoryDialog(int resourceId, DialogBehaviour& behaviour) : behavio
     EXPECT_TRUE(controls_.emplace(control.id, fresh).second) << control.id << " twice";
     if (control.statement == "DEFPUSHBUTTON") defaultButton_ = control.id;
   }
-  behaviour_.opened(*this);
+  behaviour_.onOpen(*this);
 }
 
 const MemoryDialog::Control& MemoryDialog::control(ControlId id) const {
@@ -114,7 +116,7 @@ void MemoryDialog::pressEnter() {
 }
 
 void MemoryDialog::pressCloseBox() {
-  if (!result_) behaviour_.closed(*this);
+  if (!result_) behaviour_.onClose(*this);
 }
 
 std::vector<std::string> MemoryDialog::lines(ControlId id) const {
@@ -199,3 +201,5 @@ void MemoryDialog::focus(ControlId id) {
   if (left != 0 && control(left).isEdit()) raise(left, ControlEvent::lostFocus);
   if (focused_ == id && control(id).isEdit()) raise(id, ControlEvent::gotFocus);
 }
+
+}  // namespace scorvane

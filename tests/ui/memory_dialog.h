@@ -16,7 +16,8 @@
 
 #include "tests/ui/dialog_template.h"
 #include "ui/dialog.h"
-#include "ui/unsigned_number.h"
+
+namespace scorvane {
 
 /// Message boxes and file dialogs, recorded and answered from a script.
 struct ScriptedDesktop {
@@ -31,7 +32,7 @@ struct ScriptedDesktop {
   std::string takeMessage();
 };
 
-/// A port to the desktop whose boxes are scripted, and which expects to run no dialog.
+/// A port to the desktop whose boxes are scripted.
 template <typename Port>
 class Scripted : public Port {
  public:
@@ -40,10 +41,6 @@ class Scripted : public Port {
   Answer ask(const Message& message) override { return desktop.ask(message); }
   std::optional<std::string> chooseFile(const FileQuestion& question) override {
     return desktop.chooseFile(question);
-  }
-  int runDialog(int resourceId, DialogBehaviour& /*behaviour*/) override {
-    ADD_FAILURE() << "unexpected dialog " << resourceId;
-    return 0;
   }
 };
 
@@ -98,9 +95,6 @@ class MemoryDialog : public Scripted<Dialog> {
   // Dialog, as the behaviour uses it.
   [[nodiscard]] std::string text(ControlId id) const override { return control(id).text; }
   void setText(ControlId id, std::string_view text) override;
-  [[nodiscard]] std::optional<std::uint32_t> number(ControlId id) const override {
-    return unsignedNumber(text(id));
-  }
   [[nodiscard]] bool isChecked(ControlId id) const override { return control(id).checked; }
   void setChecked(ControlId id, bool checked) override { control(id).checked = checked; }
   [[nodiscard]] int lineCount(ControlId id) const override;
@@ -137,3 +131,5 @@ class MemoryDialog : public Scripted<Dialog> {
   ControlId defaultButton_ = kOkId;
   std::optional<int> result_;
 };
+
+}  // namespace scorvane

@@ -6,6 +6,8 @@
 
 #include "tests/ui/dialog_template.h"
 
+namespace scorvane {
+
 TEST(Mnemonics, AreUniqueWithinADialog) {
   EXPECT_FALSE(dialogTemplates().empty());
   for (const auto& [name, dialog] : dialogTemplates()) {
@@ -18,3 +20,5 @@ TEST(Mnemonics, AreUniqueWithinADialog) {
     }
   }
 }
+
+}  // namespace scorvane

@@ -8,12 +8,14 @@
 #include <sstream>
 #include <utility>
 
-#include "storage/contest_commands.h"
+#include "session/contest_file.h"
+#include "session/open_contest.h"
 #include "storage/contest_writer.h"
 #include "tests/support/approved.h"
 #include "tests/ui/memory_dialog.h"
 #include "text/format.h"
-#include "view/report_text.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -230,3 +232,5 @@ void expectSession(const std::string& folder, const std::string& name, const Ses
   const std::string file = folder + '/' + name + ".session";
   expectApproved(Stage(world).play(sourceFile("tests/" + file)), file);
 }
+
+}  // namespace scorvane

@@ -26,6 +26,8 @@
 #include "model/contest.h"
 #include "ui/dialog.h"
 
+namespace scorvane {
+
 /// What the sessions of one folder of tests speak of, by the names they use.
 struct SessionWorld {
   std::map<std::string, std::function<std::unique_ptr<DialogBehaviour>()>> dialogs;  ///< captions
@@ -42,3 +44,5 @@ struct SessionWorld {
 /// Plays the steps of a session and holds what came of them against its very file, as
 /// expectApproved() does. The contest is untitled, so a save asks for a file.
 void expectSession(const std::string& folder, const std::string& name, const SessionWorld& world);
+
+}  // namespace scorvane

@@ -5,7 +5,9 @@
 #include <array>
 #include <string>
 
-#include "view/report_text.h"
+#include "text/report_marks.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -114,9 +116,9 @@ TEST(ReportView, GivesTheLinesOfAnAreaAndOfTheTextAsItIsNow) {
 
 TEST(ReportText, EndsOnceItIsBeyondAllUse) {
   std::string report(128U << 20U, 'x');
-  EXPECT_FALSE(endIfTooLong(report));
+  EXPECT_FALSE(closeIfTooLong(report));
   report += "x";
-  EXPECT_TRUE(endIfTooLong(report));
+  EXPECT_TRUE(closeIfTooLong(report));
   EXPECT_TRUE(report.ends_with("x\nThis report is too long; it ends here.\n"));
 }
 
@@ -132,3 +134,5 @@ TEST(ReportView, ShrinksThePictureIntoTheWindow) {
 }
 
 }  // namespace
+
+}  // namespace scorvane

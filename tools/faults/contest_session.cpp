@@ -14,10 +14,13 @@
 
 #include "model/contest.h"
 #include "model/numbering.h"
-#include "storage/contest_commands.h"
+#include "session/contest_file.h"
+#include "session/open_contest.h"
 #include "storage/contest_reader.h"
 #include "storage/file.h"
 #include "tools/contest_maker.h"
+
+namespace scorvane {
 
 namespace {
 
@@ -110,6 +113,8 @@ std::string follow(const std::string& command, const std::string& value, Desk& d
 }
 
 }  // namespace
+
+}  // namespace scorvane
 
 int main() {
   Desk desk;

@@ -1,0 +1,88 @@
+#include "model/roster.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+#include "model/numbering.h"
+#include "model/reasons_places.h"
+#include "text/format.h"
+
+namespace scorvane {
+
+namespace {
+
+// Beyond the greatest number the count wraps, as contestant numbers do everywhere.
+ContestantNumber after(ContestantNumber number, std::uint32_t step) {
+  return static_cast<ContestantNumber>(static_cast<std::uint32_t>(number) + step);
+}
+
+}  // namespace
+
+std::string memberLine(const Contest& contest, ContestantNumber number, std::int32_t slot) {
+  std::string line = formatText("%d - %s   %c", number, contestantName(contest, number).c_str(),
+                                groupOfContestant(contest, number));
+  if (slot >= contest.settings.numPerTeam) line += " (alternate)";
+  return line;
+}
+
+void addBlankScores(Contest& contest, ContestantNumber number) {
+  ClassScores records;
+  for (std::int32_t k = 0; k < contest.classes.count(); ++k) records[k] = ScoreRecord{};
+  contest.scores[number] = std::move(records);
+}
+
+void discardContestants(Contest& contest, const std::vector<ContestantNumber>& numbers) {
+  for (const ContestantNumber number : numbers) {
+    contest.contestantNames.erase(number);
+    contest.contestantGroup.erase(number);
+  }
+}
+
+std::vector<ContestantNumber> fillTeamSlots(Contest& contest,
+                                            const std::vector<ContestantNumber>& named) {
+  updateNextContestant(contest);
+  std::vector<ContestantNumber> members;
+  ContestantNumber next = contest.settings.nextContestantNum;
+  for (std::size_t slot = 0; slot < teamSlots(contest.settings); ++slot) {
+    const bool isNamed = slot < named.size();
+    const ContestantNumber number = isNamed ? named[slot] : next;
+    if (!isNamed) contest.contestantNames[number] = "";
+    members.push_back(number);
+    next = after(number, 1);
+  }
+  return members;
+}
+
+void addTeam(Contest& contest, const std::string& name, Team team) {
+  for (const ContestantNumber number : team.members) contest.reasonsPlace[number] = {};
+  contest.teams[name] = std::move(team);
+  const auto rows =
+      static_cast<std::int64_t>(contest.teams.size()) * contest.settings.totalNumPerTeam;
+  contest.reasonsOrder.growTo(rows, contest.settings.numReasonsGroups);
+}
+
+void replaceTeam(Contest& contest, const std::string& oldName, const std::string& newName,
+                 Team team) {
+  if (newName != oldName) contest.teams.erase(oldName);
+  contest.teams[newName] = std::move(team);
+}
+
+void removeTeam(Contest& contest, const std::string& name) {
+  const auto found = contest.teams.find(name);
+  if (found == contest.teams.end()) return;
+  bool leftTheOrder = false;
+  for (const ContestantNumber number : found->second.members) {
+    ReasonsPlace* place = contest.reasonsPlace.find(number);
+    if (place != nullptr && place->isAssigned()) {
+      contest.reasonsOrder.setCell(place->position, place->group, kNobody);
+      *place = ReasonsPlace{};
+      leftTheOrder = true;
+    }
+    contest.contestantNames.erase(number);
+  }
+  if (leftTheOrder) compactReasonsOrder(contest);
+  contest.teams.erase(found);
+}
+
+}  // namespace scorvane

@@ -1,0 +1,175 @@
+#include "session/contest_file.h"
+
+#include <functional>
+#include <optional>
+#include <string_view>
+#include <utility>
+#include <variant>
+
+#include "model/contest.h"
+#include "model/new_contest.h"
+#include "session/open_contest.h"
+#include "storage/contest_reader.h"
+#include "storage/contest_writer.h"
+#include "storage/file.h"
+#include "storage/safe_save.h"
+#include "text/format.h"
+#include "text/report_marks.h"
+
+namespace scorvane {
+
+namespace {
+
+FileQuestion contestFileQuestion(FileQuestion::Purpose purpose) {
+  FileQuestion question;
+  question.purpose = purpose;
+  question.filters = {{"Scorvane", "*.scv"}, {"All", "*.*"}};
+  question.defaultExtension = "scv";
+  question.fileMustExist = purpose == FileQuestion::Purpose::open;
+  return question;
+}
+
+constexpr const char* kNotSaved =
+    "Your file did NOT save!\r\n"
+    "Perhaps you previously saved to removable media like a thumb drive.\r\n"
+    "Select File->Save As and save your file to another location.\r\n"
+    "Again, your file did NOT save!  Please use File->Save As to ensure your work is saved.\r\n";
+
+/// What a file held when this program last read or wrote it.
+struct KnownContent {
+  std::string path;
+  std::size_t hash = 0;
+};
+
+KnownContent& knownContent() {
+  static KnownContent known;
+  return known;
+}
+
+std::size_t hashOf(std::string_view bytes) {
+  return std::hash<std::string_view>()(bytes);
+}
+
+/// Whether saving would take away what somebody else has put into the current file meanwhile, such
+/// as a second copy of the program with the same contest.
+bool holdsForeignChanges(std::string_view ownBytes) {
+  if (knownContent().path != currentFileName()) return false;
+  const std::optional<std::string> found = systemFiles().readWhole(currentFileName());
+  return found && hashOf(*found) != knownContent().hash && *found != ownBytes;
+}
+
+enum class ForeignChanges { keep, replace };
+enum class Saving { done, failed, wouldLoseForeignChanges };
+
+// No other copy of the program can save between the look at the file and its replacement.
+Saving save(std::string_view bytes, ForeignChanges foreignChanges) {
+  const auto turn = systemFiles().lockForSaving(currentFileName());
+  if (foreignChanges == ForeignChanges::keep && holdsForeignChanges(bytes)) {
+    return Saving::wouldLoseForeignChanges;
+  }
+  if (!saveSafely(systemFiles(), currentFileName(), bytes)) return Saving::failed;
+  knownContent() = {currentFileName(), hashOf(bytes)};
+  return Saving::done;
+}
+
+bool agreesToReplaceForeignChanges(Window& owner) {
+  return owner.confirm(formatText(
+      "Another program has changed this file since you opened or last saved it:\r\n"
+      "%s\r\n"
+      "OK saves your contest there, and the other changes are lost.\r\n"
+      "Cancel does NOT save it.  Use File->Save As to save your contest under another name.\r\n",
+      currentFileName().c_str()));
+}
+
+void startNewContest() {
+  resetContest();
+  reportText() = kWelcomeText;
+}
+
+void refuseMissingFile(Window& owner) {
+  startNewContest();
+  owner.show(formatText("%s (%s) %s", "Invalid file name", currentFileName().c_str(),
+                        ", or file does not exist."),
+             "Information");
+  currentFileName().clear();
+}
+
+void refuse(Window& owner, ContestFault fault) {
+  if (fault == ContestFault::scoreCountMismatch) {
+    owner.show("Number of scores in the file is not correct.  None read.", "Information");
+    startNewContest();
+    currentFileName().clear();
+  } else {
+    startNewContest();
+    currentFileName().clear();
+    owner.show("Illegal or corrupt data file.", "Error!");
+  }
+}
+
+/// Lets the operator choose the file to open; a cancelled choice leaves a new contest.
+bool chooseFileToOpen(Window& owner) {
+  currentFileName().clear();
+  auto path = owner.chooseFile(contestFileQuestion(FileQuestion::Purpose::open));
+  if (!path) {
+    startNewContest();
+    return false;
+  }
+  currentFileName() = std::move(*path);
+  return true;
+}
+
+}  // namespace
+
+void resetContest() {
+  currentContest() = newContest();
+  reportText().clear();
+}
+
+void saveContest(Window& owner, bool askForName) {
+  if (askForName) {
+    currentFileName().clear();
+    auto path = owner.chooseFile(contestFileQuestion(FileQuestion::Purpose::save));
+    if (!path) return;
+    currentFileName() = std::move(*path);
+  }
+  Contest& contest = currentContest();
+  const std::string bytes = writeContest(contest);
+  // Whoever has just chosen a name has chosen to replace what it stands for.
+  Saving saving = save(bytes, askForName ? ForeignChanges::replace : ForeignChanges::keep);
+  if (saving == Saving::wouldLoseForeignChanges) {
+    if (!agreesToReplaceForeignChanges(owner)) return;
+    saving = save(bytes, ForeignChanges::replace);
+  }
+  if (saving == Saving::failed) {
+    owner.show(kNotSaved, "File Save Error");
+    return;
+  }
+  // The contest in memory gets the placeholder that the file was given.
+  if (contest.categories.empty()) contest.categories = {kNoCategory};
+}
+
+void saveCurrent(Window& owner) {
+  saveContest(owner, currentFileName().empty());
+}
+
+bool loadContest(Window& owner, bool useGivenPath) {
+  if (!useGivenPath && !chooseFileToOpen(owner)) return false;
+  reportText() = kWelcomeText;
+  const bool isUsableName = currentFileName().size() <= kMaxPathLength;
+  const auto bytes = isUsableName ? systemFiles().readWhole(currentFileName()) : std::nullopt;
+  if (!bytes) {
+    refuseMissingFile(owner);
+    return false;
+  }
+  resetContest();
+  auto reading = readContest(*bytes);
+  if (const auto* fault = std::get_if<ContestFault>(&reading)) {
+    refuse(owner, *fault);
+    return false;
+  }
+  currentContest() = std::get<Contest>(std::move(reading));
+  knownContent() = {currentFileName(), hashOf(*bytes)};
+  return true;
+}
+
+}  // namespace scorvane

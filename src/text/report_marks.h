@@ -1,0 +1,23 @@
+// What the builders of reports and those who show and print them agree on: marks inside a report's
+// text, and how long one may grow.
+#pragma once
+
+#include <string>
+
+namespace scorvane {
+
+/// Shown when there is no report; the view draws the start-up picture beside it.
+inline constexpr const char* kWelcomeText = "Welcome to Scorvane!\n";
+
+/// Stands between pages of reports that are printed one sheet per page.
+inline constexpr const char* kPageBreakLine = "               ------- Page Break -------";
+
+/// Lines that switch the font while printing.
+inline constexpr const char* kSmallFontLine = "--- Small Font ---";
+inline constexpr const char* kLargeFontLine = "--- Large Font ---";
+
+/// Whether a report has grown beyond all use (a damaged contest file can ask for a grid larger
+/// than the memory). Then a last line says that it ends here, and the builder must stop.
+[[nodiscard]] bool closeIfTooLong(std::string& report);
+
+}  // namespace scorvane

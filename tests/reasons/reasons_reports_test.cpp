@@ -1,0 +1,82 @@
+#include <gtest/gtest.h>
+
+#include "reasons/reasons_bands.h"
+#include "reasons/reasons_order_report.h"
+#include "reasons/reasons_sheets.h"
+#include "tests/reasons/reasons_contest.h"
+#include "tests/support/approved.h"
+
+namespace scorvane {
+
+namespace {
+
+TEST(ReasonsBands, AreAtMostEightWideAndEven) {
+  using Widths = std::vector<std::int32_t>;
+  for (const auto& [groups, expected] : std::map<std::int32_t, Widths>{
+           {8, {8}}, {9, {5, 4}}, {17, {6, 6, 5}}, {25, {7, 7, 7, 4}}, {0, {0}}, {-3, {0}}}) {
+    Widths widths;
+    std::int32_t first = 0;
+    for (const ReasonsBand& band : reasonsBands(groups)) {
+      EXPECT_EQ(band.first, first);
+      first = band.end;
+      widths.push_back(band.width());
+    }
+    EXPECT_EQ(widths, expected) << groups;
+  }
+  EXPECT_EQ(reasonsBands(2147483647).size(), 1250U);
+}
+
+// Ten groups, so two bands of five: the first group has two speakers, group 4 none, group 7 three.
+// 115 has no place, 116 is a reserved slot.
+Contest twoBandContest() {
+  Contest contest = reasonsContest(10, 7, 16);
+  std::int32_t group = 0;
+  for (const std::vector<ContestantNumber>& speakers :
+       std::vector<std::vector<ContestantNumber>>{{104, 101},
+                                                  {102, 105},
+                                                  {103},
+                                                  {},
+                                                  {106},
+                                                  {107},
+                                                  {108, 113, 114},
+                                                  {109},
+                                                  {110},
+                                                  {111, 112}}) {
+    placeGroup(contest, group++, speakers);
+  }
+  contest.contestantNames[116] = "";
+  contest.classes.officialLetter[2] = 'N';
+  contest.scores[104][2] = {'N', 50, 47, 0};
+  contest.scores[101][2] = {'Z', 0, 8, 0};
+  contest.scores[108][2] = {'A', 33, 39, 0};
+  return contest;
+}
+
+// 114, the third speaker of group 7, is not on the sheets: they end where the first group ends.
+TEST(ReasonsSheet, ShowsPlacingsOrScoresInBandsOfReasonsClassesOnly) {
+  Contest contest = twoBandContest();
+  expectApproved(reasonsSheet(contest, ReasonsSheet::order, 2).value_or("") +
+                     reasonsSheet(contest, ReasonsSheet::verification, 2).value_or(""),
+                 "reasons/sheets_of_ten_groups.txt");
+  for (const std::int32_t index : {-1, 0, 1, 8}) {
+    EXPECT_EQ(reasonsSheet(contest, ReasonsSheet::order, index).has_value(), index == 1) << index;
+  }
+  contest.reasonsOrder.reset(0, 10);
+  EXPECT_FALSE(reasonsSheet(contest, ReasonsSheet::order, 1));
+}
+
+// Seven classes in bands of five: in the room form turn i of group c is class (6i + c) mod 7. Then
+// a contest without reasons classes, which has a gap in the first row.
+TEST(ReasonsOrderReport, ShowsOrderUnassignedAndClassOrderInBands) {
+  const Contest contest = twoBandContest();
+  Contest gap = reasonsContest(1, 0, 3);
+  placeGroup(gap, 0, {kNobody, 101});
+  expectApproved(reasonsOrderReport(contest, ReasonsOrderForm::plain) +
+                     reasonsOrderReport(contest, ReasonsOrderForm::room) +
+                     reasonsOrderReport(gap, ReasonsOrderForm::plain),
+                 "reasons/reasons_orders.txt");
+}
+
+}  // namespace
+
+}  // namespace scorvane

@@ -1,0 +1,153 @@
+#include "session/contest_file.h"
+
+#include <gtest/gtest.h>
+
+#include "model/contest.h"
+#include "model/new_contest.h"
+#include "session/open_contest.h"
+#include "storage/contest_writer.h"
+#include "tests/storage/contest_text.h"
+#include "tests/support/temporary_folder.h"
+#include "tests/ui/memory_dialog.h"
+#include "text/report_marks.h"
+
+namespace scorvane {
+
+namespace {
+
+class ContestCommands : public testing::Test {
+ protected:
+  ContestCommands() { makeFile(path, smallFile()); }
+  // A contest of which nothing may stay once another one was to be loaded.
+  void edit(const std::string& name) {
+    currentContest().settings.contestName = "State Fair";
+    currentFileName() = name;
+    reportText() = "a report";
+  }
+  void expectNewContest() {
+    EXPECT_TRUE(currentContest() == newContest());
+    EXPECT_EQ(currentFileName(), "");
+    EXPECT_EQ(reportText(), kWelcomeText);
+  }
+
+  TemporaryFolder folder;
+  const std::string path = folder.file("county.scv");
+  MemoryWindow window;
+};
+
+TEST_F(ContestCommands, LoadsTheFileThatIsChosen) {
+  edit("another.scv");
+  window.desktop.files = {path, std::nullopt};
+  EXPECT_TRUE(loadContest(window, false));
+  EXPECT_EQ(writeContest(currentContest()), smallFile());
+  EXPECT_EQ(currentFileName(), path);
+  const FileQuestion& question = window.desktop.fileQuestions.at(0);
+  EXPECT_EQ(question.purpose, FileQuestion::Purpose::open);
+  EXPECT_TRUE(question.fileMustExist);
+  EXPECT_EQ(question.defaultExtension, "scv");
+  std::string filters;
+  for (const auto& [name, pattern] : question.filters) filters.append(name).append(pattern);
+  EXPECT_EQ(filters, "Scorvane*.scvAll*.*");
+
+  EXPECT_FALSE(loadContest(window, false));  // cancelled
+  EXPECT_TRUE(window.desktop.messages.empty());
+  expectNewContest();
+}
+
+TEST_F(ContestCommands, FailedLoadSaysWhyAndLeavesANewContest) {
+  const std::string wrongCount = replaced(smallFile(), "Scores~~~~~\r\n6", "Scores~~~~~\r\n7");
+  makeFile(folder.file("corrupt.scv"), "no contest");
+  makeFile(folder.file("count.scv"), wrongCount);
+  const std::string roundabout = folder.path() + std::string(500, '/') + "county.scv";
+  for (const std::string& missing : {folder.file("missing.scv"), folder.path(), roundabout,
+                                     folder.file("corrupt.scv"), folder.file("count.scv")}) {
+    edit(missing);
+    EXPECT_FALSE(loadContest(window, true));
+    expectNewContest();
+  }
+  std::vector<std::string> said;
+  for (const Message& box : window.desktop.messages) said.push_back(box.caption + ": " + box.text);
+  const std::string noFile = "Information: Invalid file name (%) , or file does not exist.";
+  EXPECT_EQ(said, (std::vector<std::string>{
+                      replaced(noFile, "%", folder.file("missing.scv")),
+                      replaced(noFile, "%", folder.path()), replaced(noFile, "%", roundabout),
+                      "Error!: Illegal or corrupt data file.",
+                      "Information: Number of scores in the file is not correct.  None read."}));
+  EXPECT_EQ(contentOf(folder.file("count.scv")), wrongCount);
+}
+
+// Saving as forgets the name before it asks, so a change of mind leaves the contest untitled.
+TEST_F(ContestCommands, SavesToTheCurrentFileOrAsksForOneOrSaysThatItCouldNot) {
+  resetContest();
+  EXPECT_EQ(reportText(), "");
+  edit(path);
+  currentContest().categories = {"Beef"};
+  const std::string saved = writeContest(currentContest());
+  saveCurrent(window);
+  EXPECT_EQ(contentOf(path), saved);
+  EXPECT_TRUE(window.desktop.fileQuestions.empty());
+  EXPECT_EQ(folder.count(), 1U);  // nothing is left beside it
+
+  const std::string copy = folder.file("copy.scv");
+  window.desktop.files = {std::nullopt, copy};
+  saveContest(window, true);
+  EXPECT_EQ(currentFileName(), "");
+  currentContest().categories.clear();
+  saveCurrent(window);
+  EXPECT_EQ(window.desktop.fileQuestions.at(1).purpose, FileQuestion::Purpose::save);
+  EXPECT_FALSE(window.desktop.fileQuestions[1].fileMustExist);
+  EXPECT_EQ(currentFileName(), copy);
+  EXPECT_EQ(contentOf(copy), replaced(saved, "Beef", "none"));
+  EXPECT_EQ(currentContest().categories, std::vector<std::string>{"none"});
+  EXPECT_EQ(contentOf(path), saved);
+
+  currentContest().categories.clear();
+  currentFileName() = folder.file("gone/county.scv");
+  saveCurrent(window);
+  ASSERT_EQ(window.desktop.messages.size(), 1U);
+  EXPECT_EQ(window.desktop.messages[0].text,
+            "Your file did NOT save!\r\n"
+            "Perhaps you previously saved to removable media like a thumb drive.\r\n"
+            "Select File->Save As and save your file to another location.\r\n"
+            "Again, your file did NOT save!  Please use File->Save As to ensure your work is "
+            "saved.\r\n");
+  EXPECT_EQ(window.desktop.messages[0].caption, "File Save Error");
+  EXPECT_EQ(currentFileName(), folder.file("gone/county.scv"));
+  EXPECT_TRUE(currentContest().categories.empty());
+}
+
+// Two copies of the program with one contest: what one has saved is not silently taken away by the
+// other.
+TEST_F(ContestCommands, AsksBeforeItReplacesWhatAnotherProgramSaved) {
+  currentFileName() = path;
+  EXPECT_TRUE(loadContest(window, true));
+  currentContest().settings.contestName = "Ours";
+  const std::string ours = replaced(smallFile(), "County Fair", "Ours");
+  const std::string theirs = replaced(smallFile(), "County Fair", "Theirs");
+  makeFile(path, theirs);
+  window.desktop.answers = {Answer::cancel, Answer::ok};
+  saveCurrent(window);
+  EXPECT_EQ(contentOf(path), theirs);
+  ASSERT_EQ(window.desktop.messages.size(), 1U);
+  EXPECT_EQ(window.desktop.messages[0].caption, "Warning");
+  EXPECT_NE(window.desktop.messages[0].text.find(path), std::string::npos);
+  saveCurrent(window);
+  EXPECT_EQ(contentOf(path), ours);
+  EXPECT_EQ(window.desktop.messages.size(), 2U);
+
+  // Nothing is lost where the file is gone, holds the very same, or has just been chosen.
+  std::filesystem::remove(path);
+  saveCurrent(window);
+  makeFile(path, theirs);
+  window.desktop.files = {path};
+  saveContest(window, true);
+  currentContest().settings.contestName = "Theirs";
+  makeFile(path, theirs);
+  saveCurrent(window);
+  EXPECT_EQ(contentOf(path), theirs);
+  EXPECT_EQ(window.desktop.messages.size(), 2U);
+}
+
+}  // namespace
+
+}  // namespace scorvane
