@@ -4,6 +4,7 @@
 - A room includes only its own headers and those of rooms on lower floors.
 - Windows headers are included by *_win32.cpp and *_win32.h alone.
 - No source file grows beyond MOST_LINES lines.
+- "required-behaviour.md: KEY" in a comment names a line "- `KEY`: ..." of that document, and each line of it is named.
 
 Prints each breach as "file:line: why" and ends with 1 when there is any.
 """
@@ -63,10 +64,33 @@ def breaches(source):
                 yield path, number, why
 
 
+def breaches_of_required_behaviour(source, document):
+    """Comments without their line in the document, and lines that no comment names."""
+    listed = {}
+    for number, line in enumerate(document.read_text(encoding="utf-8").splitlines(), 1):
+        key = re.match(r"- `([a-z-]+)`: ", line)
+        if key:
+            listed[key.group(1)] = number
+    named = set()
+    for path in sorted(source.rglob("*")):
+        if path.suffix not in {".cpp", ".h", ".rc"}:
+            continue
+        text = path.read_text(encoding="latin-1")
+        for match in re.finditer(r"required-behaviour\.md:(?:\s|//)+([a-z-]+)", text):
+            named.add(match.group(1))
+            if match.group(1) not in listed:
+                line = text.count("\n", 0, match.start()) + 1
+                yield path, line, f"{document.name} has no line `{match.group(1)}`"
+    for key, number in listed.items():
+        if key not in named:
+            yield document, number, f"no comment names `{key}`"
+
+
 def main():
     root = pathlib.Path(__file__).resolve().parents[1]
     source = root / "src"
     found = list(breaches(source))
+    found += breaches_of_required_behaviour(source, root / "docs" / "required-behaviour.md")
     for path, line, why in found:
         print(f"{path.relative_to(root)}:{line}: {why}")
     checked = sum(1 for path in source.rglob("*") if path.suffix in {".cpp", ".h"})

@@ -92,6 +92,7 @@ int runMessageLoop(HWND window, HACCEL accelerators) {
 }  // namespace scorvane
 
 int WINAPI WinMain(HINSTANCE instance, HINSTANCE /*previous*/, char* commandLine, int request) {
+  using namespace scorvane;
   prepareContest();
   if (!showMainWindow(instance, request)) return 0;
   HACCEL accelerators = LoadAcceleratorsA(instance, MAKEINTRESOURCEA(kAccelerators));

@@ -1,29 +1,28 @@
 #include "entry/entry_choice.h"
 
-#include <utility>
-
 #include "model/class_lists.h"
 #include "text/format.h"
 
 namespace scorvane {
 
 void EntryChoice::open(Dialog& dialog, const JudgingClasses& classes,
-                       std::vector<std::int32_t> listed,
-                       const std::vector<std::string>& groupLines) {
-  listed_ = std::move(listed);
-  dialog.setLines(kEntryClassList, classLines(classes, listed_));
+                       const std::vector<std::int32_t>& listed,
+                       const std::vector<ListLine>& groupLines) {
+  std::vector<ListLine> lines;
+  for (const std::int32_t index : listed) lines.push_back({classLine(classes, index), index});
+  dialog.setLines(kEntryClassList, lines);
   dialog.setLines(kEntryGroupList, groupLines);
 }
 
 bool EntryChoice::take(const Dialog& dialog, ControlId id, ControlEvent event) {
   if (event != ControlEvent::selectionChanged) return false;
-  const std::optional<int> line = dialog.selection(id);
+  const std::optional<std::int32_t> key = dialog.selectedNumber(id);
   if (id == kEntryClassList) {
-    classIndex_ = line ? listed_.at(static_cast<std::size_t>(*line)) : kNone;
+    classIndex_ = key.value_or(kNone);
   } else {
-    groupIndex_ = line.value_or(kNone);
+    groupIndex_ = key;
   }
-  return classIndex_ != kNone && groupIndex_ != kNone;
+  return classIndex_ != kNone && groupIndex_;
 }
 
 bool EntryChoice::isMade(Dialog& dialog, const char* groupName) const {
@@ -31,7 +30,7 @@ bool EntryChoice::isMade(Dialog& dialog, const char* groupName) const {
     dialog.show("You must select a class before entering a score.", "Error");
     return false;
   }
-  if (groupIndex_ == kNone) {
+  if (!groupIndex_) {
     dialog.show(formatText("You must select a %s before entering a score.", groupName), "Error");
     return false;
   }
@@ -45,7 +44,7 @@ void EntryChoice::showContestant(Dialog& dialog, std::optional<ContestantNumber>
 
 void EntryChoice::clear(Dialog& dialog) {
   classIndex_ = kNone;
-  groupIndex_ = kNone;
+  groupIndex_.reset();
   dialog.select(kEntryClassList, std::nullopt);
   dialog.select(kEntryGroupList, std::nullopt);
   showContestant(dialog, std::nullopt);

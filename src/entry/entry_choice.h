@@ -22,8 +22,8 @@ inline constexpr ControlId kEntryScoreButton = 1004;
 class EntryChoice {
  public:
   /// Fills both lists; `listed` are the indexes of the classes shown.
-  void open(Dialog& dialog, const JudgingClasses& classes, std::vector<std::int32_t> listed,
-            const std::vector<std::string>& groupLines);
+  void open(Dialog& dialog, const JudgingClasses& classes, const std::vector<std::int32_t>& listed,
+            const std::vector<ListLine>& groupLines);
   /// Takes over what an event has changed in one of the lists. True when the event was such a
   /// choice and both lists have one now, so that entry starts anew.
   bool take(const Dialog& dialog, ControlId id, ControlEvent event);
@@ -40,15 +40,14 @@ class EntryChoice {
   [[nodiscard]] std::optional<ContestantNumber> contestant() const { return contestant_; }
   /// The class chosen; none, below 0, before a choice.
   [[nodiscard]] std::int32_t classIndex() const { return classIndex_; }
-  /// The line of the group chosen; none, below 0, before a choice.
-  [[nodiscard]] std::int32_t groupIndex() const { return groupIndex_; }
+  /// The key of the group chosen; nothing before a choice.
+  [[nodiscard]] std::int32_t groupIndex() const { return *groupIndex_; }
 
  private:
   static constexpr std::int32_t kNone = -1;
 
-  std::vector<std::int32_t> listed_;
   std::int32_t classIndex_ = kNone;
-  std::int32_t groupIndex_ = kNone;
+  std::optional<std::int32_t> groupIndex_;  ///< a letter may be a number below 0
   std::optional<ContestantNumber> contestant_;
 };
 

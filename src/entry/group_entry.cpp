@@ -7,19 +7,13 @@ namespace scorvane {
 
 namespace {
 
-constexpr std::size_t kLetterColumn = 3;
-
-std::vector<std::string> groupLines(const std::vector<char>& letters) {
-  std::vector<std::string> lines;
+// A line's key is the group's letter and not its position: beyond "Z" a sorted list need not be in
+// the order of the letters.
+std::vector<ListLine> groupLines(const std::vector<char>& letters) {
+  std::vector<ListLine> lines;
   lines.reserve(letters.size());
-  for (const char letter : letters) lines.push_back(formatText("   %c   ", letter));
+  for (const char letter : letters) lines.push_back({formatText("   %c   ", letter), letter});
   return lines;
-}
-
-// The group's letter stands in its line. Its position would do for groups "A" to "Z"; beyond them
-// a sorted list need not be in the order of the letters.
-char letterOfLine(const std::string& line) {
-  return line.size() > kLetterColumn ? line[kLetterColumn] : '\0';
 }
 
 }  // namespace
@@ -33,7 +27,7 @@ void GroupEntryDialog::onOpen(Dialog& dialog) {
 
 void GroupEntryDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
   if (choice_.take(dialog, id, event)) {
-    group_ = letterOfLine(dialog.line(kEntryGroupList, choice_.groupIndex()));
+    group_ = static_cast<char>(choice_.groupIndex());
     start(dialog);
   }
   if (id == kEntryScoreButton && event == ControlEvent::clicked) {

@@ -16,11 +16,11 @@ namespace {
 constexpr NumericScoreField kCard = {"Reasons", 1028, &ScoreRecord::reasonsScore,
                                      "Error:  no member number entered."};
 
-std::vector<std::string> reasonsGroupLines(std::int32_t groups) {
+std::vector<ListLine> reasonsGroupLines(std::int32_t groups) {
   const std::int32_t shown = std::min(groups, kMostReasonsGroupsShown);
-  std::vector<std::string> lines;
-  for (std::int32_t group = 1; group <= shown; ++group) {
-    lines.push_back(formatText("   %d   ", group));
+  std::vector<ListLine> lines;
+  for (std::int32_t group = 0; group < shown; ++group) {
+    lines.push_back({formatText("   %d   ", group + 1), group});
   }
   return lines;
 }

@@ -1,14 +1,17 @@
 #include "reasons/reasons_class_dialog.h"
 
-#include <cstddef>
+#include <vector>
 
 #include "model/class_lists.h"
 
 namespace scorvane {
 
 void ReasonsClassDialog::onOpen(Dialog& dialog) {
-  offered_ = reasonsClasses(contest_.classes);
-  dialog.setLines(kClasses, classLines(contest_.classes, offered_));
+  std::vector<ListLine> lines;
+  for (const std::int32_t index : reasonsClasses(contest_.classes)) {
+    lines.push_back({classLine(contest_.classes, index), index});
+  }
+  dialog.setLines(kClasses, lines);
 }
 
 void ReasonsClassDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
@@ -22,12 +25,12 @@ void ReasonsClassDialog::onClose(Dialog& dialog) {
 }
 
 void ReasonsClassDialog::choose(Dialog& dialog) {
-  const std::optional<int> line = dialog.selection(kClasses);
-  if (!line) {
+  const auto chosen = dialog.selectedNumber(kClasses);
+  if (!chosen) {
     dialog.show("You must select a reasons class before proceeding.", "Error");
     return;
   }
-  chosen_ = offered_[static_cast<std::size_t>(*line)];
+  chosen_ = chosen;
   dialog.end(kOkId);
 }
 

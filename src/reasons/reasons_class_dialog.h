@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <vector>
 
 #include "model/contest.h"
 #include "ui/dialog.h"
@@ -29,7 +28,6 @@ class ReasonsClassDialog : public DialogBehaviour {
   void choose(Dialog& dialog);
 
   const Contest& contest_;
-  std::vector<std::int32_t> offered_;
   std::optional<std::int32_t> chosen_;
 };
 

@@ -10,7 +10,6 @@
 #include "session/contest_file.h"
 #include "session/open_contest.h"
 #include "text/format.h"
-#include "text/number.h"
 
 namespace scorvane {
 
@@ -23,11 +22,23 @@ std::vector<std::string> groupLines(const Contest& contest) {
   return lines;
 }
 
-std::vector<std::string> orderLines(const Contest& contest, std::int32_t group) {
-  std::vector<std::string> lines;
+ListLine lineOf(const Contest& contest, ContestantNumber number) {
+  return {speakerLine(contest, number), number};
+}
+
+std::vector<ListLine> unassignedLines(const Contest& contest) {
+  std::vector<ListLine> lines;
+  for (const ContestantNumber number : unassignedSpeakers(contest)) {
+    lines.push_back(lineOf(contest, number));
+  }
+  return lines;
+}
+
+std::vector<ListLine> orderLines(const Contest& contest, std::int32_t group) {
+  std::vector<ListLine> lines;
   const ReasonsOrder& order = contest.reasonsOrder;
   for (std::int32_t row = 0; order.cell(row, group) != kNobody; ++row) {
-    lines.push_back(speakerLine(contest, order.cell(row, group)));
+    lines.push_back(lineOf(contest, order.cell(row, group)));
   }
   return lines;
 }
@@ -37,9 +48,9 @@ void putInto(Contest& contest, std::int32_t row, std::int32_t group, ContestantN
   contest.reasonsPlace[number] = {group, row};
 }
 
-bool hasLine(const Dialog& dialog, ControlId list, const std::string& line) {
+bool isListed(const Dialog& dialog, ControlId list, ContestantNumber number) {
   for (int i = 0; i < dialog.lineCount(list); ++i) {
-    if (dialog.line(list, i) == line) return true;
+    if (dialog.lineKey(list, i) == LineKey{number}) return true;
   }
   return false;
 }
@@ -61,7 +72,7 @@ void ReasonsOrderEditDialog::onOpen(Dialog& dialog) {
   Contest& contest = currentContest();
   compactReasonsOrder(contest);
   dialog.setLines(kGroups, groupLines(contest));
-  dialog.setLines(kUnassigned, unassignedSpeakers(contest));
+  dialog.setLines(kUnassigned, unassignedLines(contest));
 }
 
 void ReasonsOrderEditDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
@@ -106,7 +117,7 @@ void ReasonsOrderEditDialog::exchange(Dialog& dialog, Speaker speaker, int row) 
   putInto(contest, row, group, moved);
   putInto(contest, from, group, other);
   dialog.removeLine(kOrder, from);
-  dialog.insertLine(kOrder, row, speakerLine(contest, moved));
+  dialog.insertLine(kOrder, row, lineOf(contest, moved));
   dialog.select(kOrder, row);
 }
 
@@ -137,10 +148,11 @@ void ReasonsOrderEditDialog::remove(Dialog& dialog) {
   const ContestantNumber number = contest.reasonsOrder.cell(speaker->row, speaker->group);
   contest.reasonsOrder.setCell(speaker->row, speaker->group, kNobody);
   contest.reasonsPlace[number] = {};
-  const std::string line = dialog.line(kOrder, speaker->row);
   dialog.removeLine(kOrder, speaker->row);
   // Whoever kept a cell without the place that belongs to it can be listed already.
-  if (!hasLine(dialog, kUnassigned, line)) dialog.addLine(kUnassigned, line);
+  if (!isListed(dialog, kUnassigned, number)) {
+    dialog.addLine(kUnassigned, lineOf(contest, number));
+  }
   compactReasonsOrder(contest);
 }
 
@@ -162,7 +174,7 @@ void ReasonsOrderEditDialog::assign(Dialog& dialog) {
     dialog.select(kGroups, std::nullopt);
     return;
   }
-  const ContestantNumber number = leadingNumber(dialog.line(kUnassigned, *line));
+  const ContestantNumber number = *dialog.selectedNumber(kUnassigned);
   const bool stoodElsewhere = clearCellsOf(contest, number);
   putInto(contest, row, *group, number);
   compactReasonsOrder(contest);
@@ -170,7 +182,7 @@ void ReasonsOrderEditDialog::assign(Dialog& dialog) {
   if (stoodElsewhere) {
     dialog.setLines(kOrder, orderLines(contest, *group));
   } else {
-    dialog.addLine(kOrder, speakerLine(contest, number));
+    dialog.addLine(kOrder, lineOf(contest, number));
   }
 }
 

@@ -51,9 +51,9 @@ void appendGrid(std::string& out, const ReasonsOrder& order, const ReasonsBand& 
 }
 
 void appendUnassigned(std::string& out, const Contest& contest) {
-  const std::vector<std::string> unassigned = unassignedSpeakers(contest);
+  const std::vector<ContestantNumber> unassigned = unassignedSpeakers(contest);
   if (!unassigned.empty()) out += "\n\t\tContestants Not Assigned in Reasons Order\n";
-  for (const std::string& line : unassigned) out += line + "\n";
+  for (const ContestantNumber number : unassigned) out += speakerLine(contest, number) + "\n";
 }
 
 void appendRoomBoxes(std::string& out, const ReasonsBand& band) {

@@ -8,13 +8,13 @@ std::string speakerLine(const Contest& contest, ContestantNumber number) {
   return formatText("     %d - %s", number, contestantName(contest, number).c_str());
 }
 
-std::vector<std::string> unassignedSpeakers(const Contest& contest) {
-  std::vector<std::string> lines;
+std::vector<ContestantNumber> unassignedSpeakers(const Contest& contest) {
+  std::vector<ContestantNumber> unassigned;
   for (const auto& [number, name] : contest.contestantNames) {
     const bool isAssigned = reasonsPlaceOf(contest, number).isAssigned();
-    if (!name.empty() && !isAssigned) lines.push_back(speakerLine(contest, number));
+    if (!name.empty() && !isAssigned) unassigned.push_back(number);
   }
-  return lines;
+  return unassigned;
 }
 
 }  // namespace scorvane

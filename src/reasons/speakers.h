@@ -11,7 +11,7 @@ namespace scorvane {
 /// "     101 - Ann Lee".
 [[nodiscard]] std::string speakerLine(const Contest& contest, ContestantNumber number);
 
-/// The lines of the named contestants without a place, in ascending number order.
-[[nodiscard]] std::vector<std::string> unassignedSpeakers(const Contest& contest);
+/// The named contestants without a reasons place, in ascending order.
+[[nodiscard]] std::vector<ContestantNumber> unassignedSpeakers(const Contest& contest);
 
 }  // namespace scorvane

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 #include "model/contest.h"
 #include "session/open_contest.h"
@@ -43,7 +44,7 @@ void addCategory(Dialog& dialog) {
     dialog.removeLine(kCategoryList, 0);
   }
   categories.push_back(category);
-  dialog.addLine(kCategoryList, category);
+  dialog.addLine(kCategoryList, {category, category});
   startAdding(dialog);
 }
 
@@ -61,7 +62,7 @@ void updateCategory(Dialog& dialog) {
     dialog.setText(kCategoryText, index < categories.size() ? categories[index] : "");
     return;
   }
-  dialog.insertLine(kCategoryList, *selected, category);
+  dialog.insertLine(kCategoryList, *selected, {category, category});
   dialog.removeLine(kCategoryList, *selected + 1);
   // Deliberate: the first category's stored name never changes here, though its line shows the new
   // text until the dialog is opened again.
@@ -91,9 +92,9 @@ void deleteCategory(Dialog& dialog) {
 }
 
 void selectCategory(Dialog& dialog) {
-  const auto selected = dialog.selection(kCategoryList);
-  if (!selected) return;
-  dialog.setText(kCategoryText, dialog.line(kCategoryList, *selected));
+  const auto category = dialog.selectedText(kCategoryList);
+  if (!category) return;
+  dialog.setText(kCategoryText, *category);
   dialog.focus(kCategoryText);
   dialog.setDefaultButton(kUpdateCategory);
 }
@@ -109,7 +110,11 @@ void onTextFocus(Dialog& dialog, ControlEvent event) {
 
 void showCategories(Dialog& dialog) {
   dialog.setText(kCategoryText, "");
-  dialog.setLines(kCategoryList, currentContest().categories);
+  std::vector<ListLine> lines;
+  for (const std::string& category : currentContest().categories) {
+    lines.push_back({category, category});
+  }
+  dialog.setLines(kCategoryList, lines);
   dialog.select(kCategoryList, std::nullopt);
 }
 

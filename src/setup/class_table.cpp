@@ -46,7 +46,7 @@ void reloadClassTable(Dialog& dialog) {
 
 void appendToClassTable(Dialog& dialog, std::int32_t index) {
   const auto lines = classLines(currentContest(), index);
-  for (std::size_t k = 0; k < kTable.size(); ++k) dialog.addLine(kTable[k], lines[k]);
+  for (std::size_t k = 0; k < kTable.size(); ++k) dialog.addLine(kTable[k], {lines[k], index});
 }
 
 void selectInClassTable(Dialog& dialog, std::optional<int> line) {

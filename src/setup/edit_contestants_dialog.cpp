@@ -20,9 +20,10 @@ using namespace edit_contestants;
 
 namespace {
 
-std::string contestantLine(const Contest& contest, ContestantNumber number) {
-  return formatText("%d - %s - %c", number, contestantName(contest, number).c_str(),
-                    groupOfContestant(contest, number));
+ListLine contestantLine(const Contest& contest, ContestantNumber number) {
+  return {formatText("%d - %s - %c", number, contestantName(contest, number).c_str(),
+                     groupOfContestant(contest, number)),
+          number};
 }
 
 void emptyFields(Dialog& dialog) {
@@ -32,13 +33,12 @@ void emptyFields(Dialog& dialog) {
 }
 
 void selectContestant(Dialog& dialog) {
-  const auto selected = dialog.selection(kList);
-  if (!selected) return;
+  const auto number = dialog.selectedNumber(kList);
+  if (!number) return;
   const Contest& contest = currentContest();
-  const ContestantNumber number = leadingNumber(dialog.line(kList, *selected));
-  dialog.setNumber(kNumber, number);
-  dialog.setText(kContestantName, contestantName(contest, number));
-  dialog.setText(kGroup, std::string(1, groupOfContestant(contest, number)));
+  dialog.setNumber(kNumber, *number);
+  dialog.setText(kContestantName, contestantName(contest, *number));
+  dialog.setText(kGroup, std::string(1, groupOfContestant(contest, *number)));
   dialog.focus(kContestantName);
 }
 
@@ -89,7 +89,7 @@ void finish(Dialog& dialog) {
 
 void EditContestantsDialog::onOpen(Dialog& dialog) {
   const Contest& contest = currentContest();
-  std::vector<std::string> lines;
+  std::vector<ListLine> lines;
   for (const auto& [number, name] : contest.contestantNames) {
     if (!name.empty()) lines.push_back(contestantLine(contest, number));
   }

@@ -43,7 +43,7 @@ ContestantNumber numberShown(const Dialog& dialog) {
 }
 
 void replaceMemberLine(Dialog& dialog, int slot, ContestantNumber number) {
-  dialog.insertLine(kMemberList, slot, memberLine(currentContest(), number, slot));
+  dialog.insertLine(kMemberList, slot, {memberLine(currentContest(), number, slot), number});
   dialog.removeLine(kMemberList, slot + 1);
 }
 
@@ -69,7 +69,7 @@ void storeMember(Dialog& dialog, std::optional<int> updated) {
   if (updated) {
     replaceMemberLine(dialog, slot, number);
   } else {
-    dialog.addLine(kMemberList, memberLine(contest, number, slot));
+    dialog.addLine(kMemberList, {memberLine(contest, number, slot), number});
     addBlankScores(contest, number);
   }
   resetMemberForm(dialog);
@@ -111,13 +111,12 @@ void deleteMember(Dialog& dialog) {
 }
 
 void selectMember(Dialog& dialog) {
-  const auto selected = dialog.selection(kMemberList);
-  if (!selected) return;
+  const auto number = dialog.selectedNumber(kMemberList);
+  if (!number) return;
   const Contest& contest = currentContest();
-  const ContestantNumber number = leadingNumber(dialog.line(kMemberList, *selected));
-  dialog.setNumber(kNumber, number);
-  dialog.setText(kContestantName, contestantName(contest, number));
-  dialog.setText(kGroup, std::string(1, groupOfNumber(contest.settings, number)));
+  dialog.setNumber(kNumber, *number);
+  dialog.setText(kContestantName, contestantName(contest, *number));
+  dialog.setText(kGroup, std::string(1, groupOfNumber(contest.settings, *number)));
   dialog.focus(kContestantName);
   dialog.selectText(kContestantName);
   dialog.setDefaultButton(kUpdateMember);
@@ -146,10 +145,11 @@ void resetMemberForm(Dialog& dialog) {
 }
 
 void showMembers(Dialog& dialog, const std::vector<ContestantNumber>& members) {
-  std::vector<std::string> lines;
+  std::vector<ListLine> lines;
   lines.reserve(members.size());
   for (const ContestantNumber number : members) {
-    lines.push_back(memberLine(currentContest(), number, static_cast<std::int32_t>(lines.size())));
+    const auto slot = static_cast<std::int32_t>(lines.size());
+    lines.push_back({memberLine(currentContest(), number, slot), number});
   }
   dialog.setLines(kMemberList, lines);
 }
@@ -159,7 +159,7 @@ std::vector<ContestantNumber> membersShown(const Dialog& dialog) {
   const int count = dialog.lineCount(kMemberList);
   members.reserve(static_cast<std::size_t>(count));
   for (int slot = 0; slot < count; ++slot) {
-    members.push_back(leadingNumber(dialog.line(kMemberList, slot)));
+    members.push_back(std::get<ContestantNumber>(*dialog.lineKey(kMemberList, slot)));
   }
   return members;
 }

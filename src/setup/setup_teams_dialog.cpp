@@ -16,12 +16,6 @@ using namespace setup_teams;
 
 namespace {
 
-std::optional<std::string> selectedTeam(const Dialog& dialog) {
-  const auto line = dialog.selection(kTeamList);
-  if (!line) return std::nullopt;
-  return dialog.line(kTeamList, *line);
-}
-
 void resetTeamForm(Dialog& dialog) {
   dialog.setText(kTeamName, "");
   dialog.setText(kCoach, "");
@@ -56,9 +50,9 @@ std::optional<std::string> readTeamName(Dialog& dialog) {
 
 void SetupTeamsDialog::onOpen(Dialog& dialog) {
   teamWritten_ = false;
-  std::vector<std::string> names;
-  for (const auto& [name, team] : currentContest().teams) names.push_back(name);
-  dialog.setLines(kTeamList, names);
+  std::vector<ListLine> lines;
+  for (const auto& [name, team] : currentContest().teams) lines.push_back({name, name});
+  dialog.setLines(kTeamList, lines);
   showNoTeam(dialog);
   dialog.focus(kTeamName);
 }
@@ -95,7 +89,7 @@ void SetupTeamsDialog::showTeam(Dialog& dialog) {
   dialog.clearLines(kMemberList);
   resetForms(dialog);
   teamWritten_ = true;
-  const auto name = selectedTeam(dialog);
+  const auto name = dialog.selectedText(kTeamList);
   const auto team = name ? contest.teams.find(*name) : contest.teams.end();
   if (team == contest.teams.end()) return;
   dialog.setText(kTeamName, team->first);
@@ -119,14 +113,14 @@ void SetupTeamsDialog::addNewTeam(Dialog& dialog) {
   team.coach = fieldText(dialog, kCoach);
   team.members = fillTeamSlots(contest, membersShown(dialog));
   addTeam(contest, *name, std::move(team));
-  dialog.addLine(kTeamList, *name);
+  dialog.addLine(kTeamList, {*name, *name});
   showNoTeam(dialog);
   teamWritten_ = false;
 }
 
 void SetupTeamsDialog::updateTeam(Dialog& dialog) {
   Contest& contest = currentContest();
-  const auto oldName = selectedTeam(dialog);
+  const auto oldName = dialog.selectedText(kTeamList);
   if (!oldName) {
     // Deliberate: this caption ends with a full stop, as two of the member's do.
     dialog.show("A team cannot be updated unless it is selected from the list box.", "Error.");
@@ -143,14 +137,14 @@ void SetupTeamsDialog::updateTeam(Dialog& dialog) {
   replaceTeam(contest, *oldName, *name, std::move(team));
   if (*name != *oldName) {
     dialog.removeLine(kTeamList, *dialog.selection(kTeamList));
-    if (!isListed) dialog.addLine(kTeamList, *name);
+    if (!isListed) dialog.addLine(kTeamList, {*name, *name});
   }
   showNoTeam(dialog);
   teamWritten_ = false;
 }
 
 void SetupTeamsDialog::removeSelectedTeam(Dialog& dialog) {
-  const auto name = selectedTeam(dialog);
+  const auto name = dialog.selectedText(kTeamList);
   if (!name) {
     dialog.show("No Team selected to remove.", "Warning");
     return;

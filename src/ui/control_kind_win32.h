@@ -20,7 +20,7 @@ enum class ControlKind { button, edit, list, combo, other };
 
 /// Lists and combo boxes understand the same requests under different names.
 struct LineMessages {
-  unsigned count, lineLength, line, add, insert, remove, clear, reserve, selection, select;
+  unsigned count, add, insert, remove, clear, reserve, selection, select, key, setKey;
 };
 /// The names that the control understands.
 [[nodiscard]] const LineMessages& lineMessagesOf(NativeWindow control);

@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <variant>
 #include <vector>
 
 #include "text/unsigned_number.h"
@@ -28,6 +30,15 @@ enum class ControlEvent {
   lostFocus,         ///< edit fields only
 };
 
+/// What a line of a list stands for, such as a contestant's number or a team's name. The behaviour
+/// sets it with the line and gets it back, so it never has to read its own captions.
+using LineKey = std::variant<std::int32_t, std::string>;
+
+struct ListLine {
+  std::string text;
+  LineKey key;
+};
+
 /// Texts are 8-bit. Line indexes count from 0. An index that a list does not have, or an id that
 /// the dialog does not have, is ignored by the setters and reads as empty.
 class Dialog : public Window {
@@ -46,17 +57,35 @@ class Dialog : public Window {
 
   // Lists and combo boxes.
   [[nodiscard]] virtual int lineCount(ControlId id) const = 0;
-  [[nodiscard]] virtual std::string line(ControlId id, int index) const = 0;
-  /// Appends a line, or puts it into its sorted place in a sorted list; gives its index.
-  virtual int addLine(ControlId id, std::string_view line) = 0;
+  /// The key of a line; nothing when there is no such line.
+  [[nodiscard]] virtual std::optional<LineKey> lineKey(ControlId id, int index) const = 0;
+  /// Appends a line, or inserts it where it belongs in a sorted list; returns its index.
+  virtual int addLine(ControlId id, const ListLine& line) = 0;
   /// Inserts a line before `index`, even in a sorted list.
-  virtual void insertLine(ControlId id, int index, std::string_view line) = 0;
+  virtual void insertLine(ControlId id, int index, const ListLine& line) = 0;
   virtual void removeLine(ControlId id, int index) = 0;
   virtual void clearLines(ControlId id) = 0;
   /// Replaces all lines at once; for lists that can be long.
-  virtual void setLines(ControlId id, const std::vector<std::string>& lines) = 0;
+  virtual void setLines(ControlId id, const std::vector<ListLine>& lines) = 0;
+  /// The same with lines whose keys are their positions, from 0.
+  void setLines(ControlId id, const std::vector<std::string>& lines) {
+    std::vector<ListLine> keyed;
+    keyed.reserve(lines.size());
+    for (const std::string& line : lines) {
+      keyed.push_back({line, static_cast<std::int32_t>(keyed.size())});
+    }
+    setLines(id, keyed);
+  }
   /// The selected line of a single-selection list or combo box.
   [[nodiscard]] virtual std::optional<int> selection(ControlId id) const = 0;
+  /// The key of the selected line, of the kind that the lines were given; nothing without a
+  /// selection.
+  [[nodiscard]] std::optional<std::int32_t> selectedNumber(ControlId id) const {
+    return selectedKey<std::int32_t>(id);
+  }
+  [[nodiscard]] std::optional<std::string> selectedText(ControlId id) const {
+    return selectedKey<std::string>(id);
+  }
   /// Selects a line, or none. Raises no event.
   virtual void select(ControlId id, std::optional<int> index) = 0;
   /// The selected lines of a multiple-selection list, ascending.
@@ -76,6 +105,15 @@ class Dialog : public Window {
   virtual void end(int result) = 0;
 
   void setNumber(ControlId id, std::int64_t value) { setText(id, std::to_string(value)); }
+
+ private:
+  template <typename Key>
+  [[nodiscard]] std::optional<Key> selectedKey(ControlId id) const {
+    const std::optional<int> index = selection(id);
+    const std::optional<LineKey> key = index ? lineKey(id, *index) : std::nullopt;
+    if (!key) return std::nullopt;
+    return std::get<Key>(*key);
+  }
 };
 
 /// What one dialog does. It holds the dialog's own state and sees no window handle.

@@ -43,12 +43,13 @@ class NativeDialog final : public Dialog {
   [[nodiscard]] bool isChecked(ControlId id) const override;
   void setChecked(ControlId id, bool checked) override;
   [[nodiscard]] int lineCount(ControlId id) const override;
-  [[nodiscard]] std::string line(ControlId id, int index) const override;
-  int addLine(ControlId id, std::string_view line) override;
-  void insertLine(ControlId id, int index, std::string_view line) override;
+  [[nodiscard]] std::optional<LineKey> lineKey(ControlId id, int index) const override;
+  int addLine(ControlId id, const ListLine& line) override;
+  void insertLine(ControlId id, int index, const ListLine& line) override;
   void removeLine(ControlId id, int index) override;
   void clearLines(ControlId id) override;
-  void setLines(ControlId id, const std::vector<std::string>& lines) override;
+  using Dialog::setLines;
+  void setLines(ControlId id, const std::vector<ListLine>& lines) override;
   [[nodiscard]] std::optional<int> selection(ControlId id) const override;
   void select(ControlId id, std::optional<int> index) override;
   [[nodiscard]] std::vector<int> selections(ControlId id) const override;
@@ -65,6 +66,7 @@ class NativeDialog final : public Dialog {
   LRESULT send(ControlId id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
   [[nodiscard]] const LineMessages& lineMessages(ControlId id) const;
   [[nodiscard]] bool hasLine(ControlId id, int index) const;
+  void keepKey(ControlId id, LRESULT index, const LineKey& key);
   void useColumnFont();
   void drawDefaultButtons();
 
@@ -74,6 +76,8 @@ class NativeDialog final : public Dialog {
   bool ended_ = false;
   GraphicsObject columnFont_;
   std::vector<std::vector<HWND>> linkedLists_;
+  /// The keys of all lines so far; each line holds the position of its own.
+  std::vector<LineKey> keys_;
 };
 
 // The timer by which a list scrolls while the mouse is dragged out of it.
@@ -192,11 +196,6 @@ void NativeDialog::setText(ControlId id, std::string_view text) {
   HWND field = control(id);
   if (field == nullptr) return;
   SetWindowTextA(field, std::string(text).c_str());
-  // Only fields of one line report a text set by the program.
-  if (controlKind(field) == ControlKind::edit &&
-      (GetWindowLongA(field, GWL_STYLE) & ES_MULTILINE) != 0) {
-    command(id, EN_CHANGE);
-  }
 }
 
 bool NativeDialog::isChecked(ControlId id) const {
@@ -211,25 +210,29 @@ int NativeDialog::lineCount(ControlId id) const {
   return std::max(0, static_cast<int>(send(id, lineMessages(id).count)));
 }
 
-std::string NativeDialog::line(ControlId id, int index) const {
-  if (!hasLine(id, index)) return {};
-  const LineMessages& messages = lineMessages(id);
-  const auto at = static_cast<WPARAM>(index);
-  const LRESULT reserved = send(id, messages.lineLength, at);
-  if (reserved < 0) return {};
-  std::string line(static_cast<std::size_t>(reserved) + 1, '\0');
-  const LRESULT length = send(id, messages.line, at, reinterpret_cast<LPARAM>(line.data()));
-  line.resize(static_cast<std::size_t>(std::max<LRESULT>(length, 0)));
-  return line;
+std::optional<LineKey> NativeDialog::lineKey(ControlId id, int index) const {
+  if (!hasLine(id, index)) return std::nullopt;
+  return keys_.at(
+      static_cast<std::size_t>(send(id, lineMessages(id).key, static_cast<WPARAM>(index))));
 }
 
-int NativeDialog::addLine(ControlId id, std::string_view line) {
-  return static_cast<int>(send(id, lineMessages(id).add, 0, textParameter(std::string(line))));
+void NativeDialog::keepKey(ControlId id, LRESULT index, const LineKey& key) {
+  if (index < 0) return;
+  send(id, lineMessages(id).setKey, static_cast<WPARAM>(index), static_cast<LPARAM>(keys_.size()));
+  keys_.push_back(key);
 }
 
-void NativeDialog::insertLine(ControlId id, int index, std::string_view line) {
+int NativeDialog::addLine(ControlId id, const ListLine& line) {
+  const LRESULT index = send(id, lineMessages(id).add, 0, textParameter(line.text));
+  keepKey(id, index, line.key);
+  return static_cast<int>(index);
+}
+
+void NativeDialog::insertLine(ControlId id, int index, const ListLine& line) {
   if (index < 0 || index > lineCount(id)) return;
-  send(id, lineMessages(id).insert, static_cast<WPARAM>(index), textParameter(std::string(line)));
+  keepKey(id,
+          send(id, lineMessages(id).insert, static_cast<WPARAM>(index), textParameter(line.text)),
+          line.key);
 }
 
 void NativeDialog::removeLine(ControlId id, int index) {
@@ -240,14 +243,14 @@ void NativeDialog::clearLines(ControlId id) {
   send(id, lineMessages(id).clear);
 }
 
-void NativeDialog::setLines(ControlId id, const std::vector<std::string>& lines) {
+void NativeDialog::setLines(ControlId id, const std::vector<ListLine>& lines) {
   const LineMessages& messages = lineMessages(id);
   std::size_t bytes = 0;
-  for (const std::string& line : lines) bytes += line.size() + 1;
+  for (const ListLine& line : lines) bytes += line.text.size() + 1;
   send(id, WM_SETREDRAW, FALSE);
   send(id, messages.clear);
   send(id, messages.reserve, lines.size(), static_cast<LPARAM>(bytes));
-  for (const std::string& line : lines) send(id, messages.add, 0, textParameter(line));
+  for (const ListLine& line : lines) addLine(id, line);
   send(id, WM_SETREDRAW, TRUE);
   InvalidateRect(control(id), nullptr, TRUE);
 }
@@ -260,11 +263,6 @@ std::optional<int> NativeDialog::selection(ControlId id) const {
 
 void NativeDialog::select(ControlId id, std::optional<int> index) {
   const int line = index && hasLine(id, *index) ? *index : -1;
-  if (isMultipleSelection(control(id))) {
-    send(id, LB_SETSEL, FALSE, -1);
-    setSelected(id, line, true);
-    return;
-  }
   send(id, lineMessages(id).select, static_cast<WPARAM>(line));
 }
 

@@ -12,6 +12,7 @@ struct TemplateControl {
   std::string statement;  ///< LTEXT, EDITTEXT, LISTBOX, ...
   std::string caption;    ///< with its "&"
   int id = -1;
+  std::string name;    ///< the id's, in words, when the script gives it by name
   std::string styles;  ///< everything after the position, as written
 
   [[nodiscard]] bool has(const char* style) const {

@@ -99,7 +99,7 @@ void MemoryDialog::click(ControlId id) {
 }
 
 void MemoryDialog::choose(ControlId id, int line) {
-  const bool selected = control(id).lines.at(static_cast<std::size_t>(line)).second;
+  const bool selected = control(id).lines.at(static_cast<std::size_t>(line)).selected;
   if (!isEnabled(id)) return;
   focus(id);
   if (control(id).has("LBS_MULTIPLESEL")) {
@@ -121,7 +121,7 @@ void MemoryDialog::pressCloseBox() {
 
 std::vector<std::string> MemoryDialog::lines(ControlId id) const {
   std::vector<std::string> texts;
-  for (const auto& [text, selected] : control(id).lines) texts.push_back(text);
+  for (const Control::Line& line : control(id).lines) texts.push_back(line.text);
   return texts;
 }
 
@@ -140,16 +140,17 @@ int MemoryDialog::lineCount(ControlId id) const {
   return static_cast<int>(control(id).lines.size());
 }
 
-std::string MemoryDialog::line(ControlId id, int index) const {
-  return hasLine(id, index) ? control(id).lines[static_cast<std::size_t>(index)].first : "";
+std::optional<LineKey> MemoryDialog::lineKey(ControlId id, int index) const {
+  if (!hasLine(id, index)) return std::nullopt;
+  return control(id).lines[static_cast<std::size_t>(index)].key;
 }
 
 // Case does not count in a sorted list.
-int MemoryDialog::addLine(ControlId id, std::string_view line) {
+int MemoryDialog::addLine(ControlId id, const ListLine& line) {
   int index = lineCount(id);
-  const std::string text(line);
   const auto isBehind = [&](int other) {
-    return strcasecmp(this->line(id, other).c_str(), text.c_str()) > 0;
+    const std::string& text = control(id).lines[static_cast<std::size_t>(other)].text;
+    return strcasecmp(text.c_str(), line.text.c_str()) > 0;
   };
   const bool isSorted = control(id).has("LBS_SORT");
   while (isSorted && index > 0 && isBehind(index - 1)) --index;
@@ -157,10 +158,10 @@ int MemoryDialog::addLine(ControlId id, std::string_view line) {
   return index;
 }
 
-void MemoryDialog::insertLine(ControlId id, int index, std::string_view line) {
+void MemoryDialog::insertLine(ControlId id, int index, const ListLine& line) {
   if (index < 0 || index > lineCount(id)) return;
   auto& lines = control(id).lines;
-  lines.emplace(lines.begin() + index, line, false);
+  lines.insert(lines.begin() + index, Control::Line{line, false});
 }
 
 void MemoryDialog::removeLine(ControlId id, int index) {
@@ -168,9 +169,9 @@ void MemoryDialog::removeLine(ControlId id, int index) {
   if (hasLine(id, index)) lines.erase(lines.begin() + index);
 }
 
-void MemoryDialog::setLines(ControlId id, const std::vector<std::string>& lines) {
+void MemoryDialog::setLines(ControlId id, const std::vector<ListLine>& lines) {
   clearLines(id);
-  for (const std::string& line : lines) addLine(id, line);
+  for (const ListLine& line : lines) addLine(id, line);
 }
 
 std::optional<int> MemoryDialog::selection(ControlId id) const {
@@ -179,20 +180,20 @@ std::optional<int> MemoryDialog::selection(ControlId id) const {
 }
 
 void MemoryDialog::select(ControlId id, std::optional<int> index) {
-  for (auto& [text, selected] : control(id).lines) selected = false;
+  for (Control::Line& line : control(id).lines) line.selected = false;
   setSelected(id, index.value_or(-1), true);
 }
 
 std::vector<int> MemoryDialog::selections(ControlId id) const {
   std::vector<int> chosen;
   for (int i = 0; i < lineCount(id); ++i) {
-    if (control(id).lines[static_cast<std::size_t>(i)].second) chosen.push_back(i);
+    if (control(id).lines[static_cast<std::size_t>(i)].selected) chosen.push_back(i);
   }
   return chosen;
 }
 
 void MemoryDialog::setSelected(ControlId id, int index, bool selected) {
-  if (hasLine(id, index)) control(id).lines[static_cast<std::size_t>(index)].second = selected;
+  if (hasLine(id, index)) control(id).lines[static_cast<std::size_t>(index)].selected = selected;
 }
 
 void MemoryDialog::focus(ControlId id) {

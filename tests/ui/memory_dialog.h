@@ -54,8 +54,11 @@ class MemoryDialog : public Scripted<Dialog> {
     std::string text;
     bool enabled = true;
     bool checked = false;
-    bool marked = false;                              ///< the whole text is selected
-    std::vector<std::pair<std::string, bool>> lines;  ///< with whether they are selected
+    bool marked = false;  ///< the whole text is selected
+    struct Line : ListLine {
+      bool selected = false;
+    };
+    std::vector<Line> lines;
 
     [[nodiscard]] bool isEdit() const { return statement == "EDITTEXT"; }
     [[nodiscard]] bool isList() const { return statement == "LISTBOX" || statement == "COMBOBOX"; }
@@ -98,12 +101,13 @@ class MemoryDialog : public Scripted<Dialog> {
   [[nodiscard]] bool isChecked(ControlId id) const override { return control(id).checked; }
   void setChecked(ControlId id, bool checked) override { control(id).checked = checked; }
   [[nodiscard]] int lineCount(ControlId id) const override;
-  [[nodiscard]] std::string line(ControlId id, int index) const override;
-  int addLine(ControlId id, std::string_view line) override;
-  void insertLine(ControlId id, int index, std::string_view line) override;
+  [[nodiscard]] std::optional<LineKey> lineKey(ControlId id, int index) const override;
+  int addLine(ControlId id, const ListLine& line) override;
+  void insertLine(ControlId id, int index, const ListLine& line) override;
   void removeLine(ControlId id, int index) override;
   void clearLines(ControlId id) override { control(id).lines.clear(); }
-  void setLines(ControlId id, const std::vector<std::string>& lines) override;
+  using Dialog::setLines;
+  void setLines(ControlId id, const std::vector<ListLine>& lines) override;
   [[nodiscard]] std::optional<int> selection(ControlId id) const override;
   void select(ControlId id, std::optional<int> index) override;
   [[nodiscard]] std::vector<int> selections(ControlId id) const override;

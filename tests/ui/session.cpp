@@ -154,6 +154,8 @@ class Stage {
     currentContest() = world_.contests.at(name)();
     while (std::getline(names, name, ',')) world_.events.at(name.substr(1))(currentContest());
     shown_.clear();
+    lists_.clear();
+    selected_.clear();
     stored_ = storedNow();
     dialog_.reset();
     behaviour_ = world_.dialogs.at(caption)();
@@ -164,7 +166,13 @@ class Stage {
     std::string label;
     for (const TemplateControl& control : template_->controls) {
       if (!control.caption.empty()) label = control.caption;
-      if (control.id == id) break;
+      if (control.id != id) continue;
+      // The caption before a static text is another one's.
+      if (control.statement.ends_with("TEXT") && control.statement != "EDITTEXT" &&
+          !control.name.empty()) {
+        label = control.name;
+      }
+      break;
     }
     std::erase(label, '&');
     return escaped(label) + ' ' + std::to_string(id);
@@ -180,12 +188,35 @@ class Stage {
     for (const auto& [id, control] : dialog_->controls()) {
       std::string& value = shown[nameOf(id)];
       if (control.text != control.caption) value = ' ' + control.text;
-      for (const auto& [line, selected] : control.lines) value += (selected ? "|>" : "|") + line;
       if (control.checked) value += " checked";
       if (control.marked) value += " marked";
       if (!control.enabled) value += " disabled";
     }
     return shown;
+  }
+
+  // Of a list only the lines that went or came, behind "-" and "+", and the selected ones.
+  void writeListChanges() {
+    for (const auto& [id, control] : dialog_->controls()) {
+      std::vector<std::string>& before = lists_[id];
+      std::vector<std::string> now;
+      std::string selected;
+      for (const auto& line : control.lines) {
+        now.push_back(line.text);
+        if (line.selected) selected += '|' + line.text;
+      }
+      const auto first = std::mismatch(before.begin(), before.end(), now.begin(), now.end());
+      const auto last = std::mismatch(before.rbegin(), std::reverse_iterator(first.first),
+                                      now.rbegin(), std::reverse_iterator(first.second));
+      std::string change;
+      for (auto line = first.first; line != last.first.base(); ++line) change += " -|" + *line;
+      for (auto line = first.second; line != last.second.base(); ++line) change += " +|" + *line;
+      if (!change.empty()) write(nameOf(id) + ':' + change);
+      before = std::move(now);
+      if (std::exchange(selected_[id], selected) != selected) {
+        write(nameOf(id) + " selected: " + selected);
+      }
+    }
   }
 
   void write(const std::string& line) { played_ += "  " + escaped(line) + '\n'; }
@@ -197,6 +228,7 @@ class Stage {
     for (const auto& [name, value] : shownNow()) {
       if (std::exchange(shown_[name], value) != value) write(name + ':' + value);
     }
+    writeListChanges();
     const auto now = storedNow();
     const auto writeOnlyIn = [this](const auto& some, const auto& others, const char* mark) {
       std::vector<std::string> lines;
@@ -214,6 +246,8 @@ class Stage {
   std::unique_ptr<DialogBehaviour> behaviour_;
   std::optional<MemoryDialog> dialog_;
   std::map<std::string, std::string> shown_;
+  std::map<ControlId, std::vector<std::string>> lists_;
+  std::map<ControlId, std::string> selected_;
   std::multiset<std::string> stored_;
   std::string played_;
 };
