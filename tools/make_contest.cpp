@@ -99,6 +99,7 @@ std::optional<Order> parseArguments(int count, char** arguments) {
 }  // namespace scorvane
 
 int main(int count, char** arguments) {
+  using namespace scorvane;
   const auto order = parseArguments(count, arguments);
   if (!order) {
     std::fputs(kUsage, stderr);

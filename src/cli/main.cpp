@@ -44,6 +44,7 @@ int run(const std::vector<std::string_view>& arguments) {
 }  // namespace scorvane
 
 int main(int argc, char** argv) {
+  using namespace scorvane;
   try {
     return run({argv + (argc > 0 ? 1 : 0), argv + argc});
   } catch (const std::exception& error) {

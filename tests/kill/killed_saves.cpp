@@ -126,6 +126,7 @@ useconds_t timeOfTwoSaves(const Disk& disk, const std::string& a, const std::str
 }  // namespace scorvane
 
 int main(int count, char** arguments) {
+  using namespace scorvane;
   const int kills = count > 1 ? std::atoi(arguments[1]) : 300;
   const unsigned seed =
       count > 3 ? static_cast<unsigned>(std::atoi(arguments[3])) : std::random_device()();

@@ -117,6 +117,7 @@ std::string follow(const std::string& command, const std::string& value, Desk& d
 }  // namespace scorvane
 
 int main() {
+  using namespace scorvane;
   Desk desk;
   std::string line;
   while (std::getline(std::cin, line)) {
