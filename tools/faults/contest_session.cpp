@@ -37,7 +37,6 @@ class Desk : public Window {
     return shown.defaultAnswer;
   }
   std::optional<std::string> chooseFile(const FileQuestion& /*question*/) override { return path; }
-  int runDialog(int /*resourceId*/, DialogBehaviour& /*behaviour*/) override { return 0; }
 };
 
 /// Different for each byte even when it ends at it.
