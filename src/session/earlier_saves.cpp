@@ -104,7 +104,12 @@ bool exists(FileSystem& files, const std::string& path) {
   return facts && facts->exists;
 }
 
-constexpr std::string_view kContentPrefix = "content-";
+constexpr const char* kContentPrefix = "content-";
+
+/// A file without content whose name tells what the contest's file held last.
+std::string contentName(std::uint64_t hash) {
+  return kContentPrefix + hashText(hash);
+}
 
 }  // namespace
 
@@ -142,8 +147,6 @@ Keeping keepEarlierSave(FileSystem& files, const std::string& contestPath, std::
   name.size = bytes.size();
   name.isUnsavedRest = isUnsavedRest;
   name.sequence = kept.lastSequence + 1;
-  // Another copy of the program may have taken the number just now.
-  while (exists(files, folder + "/" + name.text())) ++name.sequence;
   if (!makeFile(files, folder + "/" + name.text(), bytes)) return Keeping::failed;
   makeNote(files, folder, {contestPath.empty() ? "" : fullPath(files, contestPath), ""});
   return Keeping::kept;
@@ -159,7 +162,7 @@ void tidyEarlierSaves(FileSystem& files, const std::string& contestPath, std::ui
   const std::vector<EarlierSave> saves = keptIn(files, folder, contestPath).saves;
   if (saves.empty()) return;
   for (const std::size_t i : superfluousSaves(saves)) files.remove(saves[i].path);
-  const std::string content = std::string(kContentPrefix) + hashText(hash);
+  const std::string content = contentName(hash);
   for (const ListedFile& file : files.list(folder)) {
     if (file.name.starts_with(kContentPrefix) && file.name != content) {
       files.remove(folder + "/" + file.name);
@@ -171,10 +174,9 @@ void tidyEarlierSaves(FileSystem& files, const std::string& contestPath, std::ui
 void followRenamedContest(FileSystem& files, const std::string& contestPath, std::uint64_t hash) {
   const std::string own = folderOf(files, contestPath);
   if (!files.list(own).empty()) return;
-  const std::string content = "/" + std::string(kContentPrefix) + hashText(hash);
   for (const ListedFile& entry : files.list(earlierSavesFolder(files))) {
     const std::string folder = earlierSavesFolder(files) + "/" + entry.name;
-    if (!entry.isFolder || !exists(files, folder + content)) continue;
+    if (!entry.isFolder || !exists(files, folder + "/" + contentName(hash))) continue;
     const std::string former = readNote(files, folder).contestPath;
     if (former.empty() || exists(files, former)) continue;
     if (files.makeFolders(own)) makeNote(files, own, {fullPath(files, contestPath), entry.name});
