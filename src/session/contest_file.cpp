@@ -85,6 +85,7 @@ Saving save(std::string_view bytes, ForeignChanges foreignChanges) {
   if (!saveAndKeepOld(old, bytes)) return Saving::failed;
   knownContent() = {currentFileName(), hashOf(bytes)};
   contestHasFile(currentFileName(), bytes);
+  if (isKeepingWork()) tidyEarlierSaves(sessionFiles(), currentFileName(), savedState().hash);
   return Saving::done;
 }
 
@@ -188,6 +189,7 @@ bool loadContest(Window& owner, bool useGivenPath) {
   currentContest() = std::get<Contest>(std::move(reading));
   knownContent() = {currentFileName(), hashOf(*bytes)};
   contestHasFile(currentFileName(), *bytes);
+  if (isKeepingWork()) followRenamedContest(sessionFiles(), currentFileName(), savedState().hash);
   reportText() = offerRecovery(owner).value_or(kWelcomeText);
   return true;
 }

@@ -23,6 +23,18 @@ std::string earlierSavesFolder(FileSystem& files) {
   return dataFolder(files, "Earlier Saves");
 }
 
+std::string copyPath(FileSystem& files, const std::string& key, int ordinal) {
+  std::string path = recoveryFolder(files) + "/" + key;
+  if (ordinal > 1) path.append(" (").append(std::to_string(ordinal)).append(")");
+  return path.append(".scv");
+}
+
+bool isCopyOf(std::string_view name, const std::string& key) {
+  if (!name.starts_with(key)) return false;
+  name.remove_prefix(key.size());
+  return name.starts_with(" (") || name == ".scv";
+}
+
 std::string fullPath(FileSystem& files, const std::string& contestPath) {
   return files.resolve(contestPath).value_or(contestPath);
 }

@@ -57,12 +57,11 @@ std::uint64_t savedHash() {
 bool claimPath(FileSystem& files) {
   if (!kept().path.empty()) return true;
   constexpr int kMostCopies = 50;
-  const std::string folder = recoveryFolder(files);
-  if (files.localDataFolder().empty() || !files.makeFolders(folder)) return false;
+  if (files.localDataFolder().empty() || !files.makeFolders(recoveryFolder(files))) return false;
   const std::string name =
       contestKey(files, kept().grewFrom.exists ? kept().grewFrom.path : currentFileName());
   for (int i = 1; i <= kMostCopies; ++i) {
-    const std::string path = folder + "/" + name + (i == 1 ? "" : "-" + std::to_string(i)) + ".scv";
+    const std::string path = copyPath(files, name, i);
     FileSystem::Claim claim = files.claim(path);
     if (claim.outcome == FileOutcome::denied) continue;
     if (claim.outcome != FileOutcome::done) return false;

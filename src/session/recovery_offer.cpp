@@ -181,7 +181,7 @@ std::optional<std::string> offerRecovery(Window& owner) {
   };
   for (const ListedFile& file : listedCopies(files)) {
     const FoundCopy found(files, recoveryFolder(files) + "/" + file.name, file.changed);
-    if (!found.bytes || (!file.name.starts_with(key) && !movedHere(found.copy))) continue;
+    if (!found.bytes || (!isCopyOf(file.name, key) && !movedHere(found.copy))) continue;
     if (auto report = offer(owner, found)) return report;
   }
   return std::nullopt;
@@ -193,7 +193,7 @@ void keepUntitledRests(FileSystem& files) {
     const FoundCopy found(files, recoveryFolder(files) + "/" + file.name, file.changed);
     if (!found.bytes) continue;
     const bool hasFile =
-        found.copy.grewFrom ? found.copy.grewFrom->exists : !file.name.starts_with(key + ".");
+        found.copy.grewFrom ? found.copy.grewFrom->exists : !isCopyOf(file.name, key);
     if (!hasFile) moveToEarlierSaves(files, found, "");
   }
 }
