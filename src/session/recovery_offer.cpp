@@ -86,21 +86,24 @@ RecoveredWork workIn(const Contest& file, const Contest& recovered, const Recove
   return work;
 }
 
-std::string localTime(std::int64_t ticks, const char* format) {
+std::tm localTime(std::int64_t ticks) {
   const auto seconds = static_cast<std::time_t>(ticks / kTicksPerSecond);
   const std::tm* local = std::localtime(&seconds);
-  if (local == nullptr) return {};
-  std::array<char, 64> text{};
-  return {text.data(), std::strftime(text.data(), text.size(), format, local)};
+  return local == nullptr ? std::tm{} : *local;
 }
 
 /// Such as "2:31 PM", with the date unless that is today's.
 std::string clockTime(std::int64_t ticks, std::int64_t now) {
-  constexpr const char* kDate = "%B %d, %Y";
-  std::string time = localTime(ticks, "%I:%M %p");
-  if (time.starts_with('0')) time.erase(0, 1);
-  const std::string date = localTime(ticks, kDate);
-  return date == localTime(now, kDate) ? time : time + " on " + date;
+  const std::tm then = localTime(ticks);
+  const std::tm today = localTime(now);
+  const bool isToday = then.tm_yday == today.tm_yday && then.tm_year == today.tm_year;
+  std::array<char, 64> text{};
+  if (isToday) {
+    std::strftime(text.data(), text.size(), "%I:%M %p", &then);
+  } else {
+    std::strftime(text.data(), text.size(), "%I:%M %p on %B %d, %Y", &then);
+  }
+  return text.data() + (text[0] == '0' ? 1 : 0);
 }
 
 bool wantsBack(Window& owner, const RecoveredWork& work, const std::string& until) {
