@@ -33,6 +33,7 @@ class MemoryFiles : public FileSystem {
   bool replacedUnflushed = false;  ///< a file was put in place before the medium held it
   bool writtenOver = false;        ///< bytes of a file that was there before were written over
 
+  std::string readOnlyPath;  ///< what begins so can only be read
   struct PowerCut {};
   int cutAtCall = 0;  ///< the operation at which a PowerCut is thrown, half done; 0 for none
   std::int64_t clock = 1'000'000 * kTicksPerSecond;
@@ -73,7 +74,7 @@ class MemoryFiles : public FileSystem {
     return {FileOutcome::done, std::make_unique<Output>(*this, files[path], true)};
   }
   Opened openExisting(const std::string& path) override {
-    if (fails() || !files.contains(path)) return {failure, nullptr};
+    if (fails() || !files.contains(path) || isReadOnly(path)) return {failure, nullptr};
     return {FileOutcome::done, std::make_unique<Output>(*this, files[path], false)};
   }
   FileOutcome replace(const std::string& from, const std::string& to) override {
@@ -196,8 +197,11 @@ class MemoryFiles : public FileSystem {
     bool isOpen_ = true;
   };
 
+  [[nodiscard]] bool isReadOnly(const std::string& path) const {
+    return !readOnlyPath.empty() && path.starts_with(readOnlyPath);
+  }
   [[nodiscard]] bool isProtected(const std::string& path) const {
-    return folderIsProtected && !path.starts_with("temporary/");
+    return isReadOnly(path) || (folderIsProtected && !path.starts_with("temporary/"));
   }
   /// Counts one more operation; whether it is to fail.
   bool fails() {
