@@ -31,9 +31,11 @@ void GroupEntryDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event)
     start(dialog);
   }
   if (id == kEntryScoreButton && event == ControlEvent::clicked) {
-    if (choice_.isMade(dialog, "group") && scores_.enter(dialog, choice_)) advance(dialog);
-    // The next card is typed at once, also after a press by mouse.
-    dialog.focus(scores_.scoreField);
+    if (choice_.isMade(dialog, "group")) {
+      if (scores_.enter(dialog, choice_)) advance(dialog);
+      // The next card is typed at once, also after a press by mouse.
+      dialog.focus(scores_.scoreField);
+    }
   }
   endOn(dialog, id, event, scores_.escape);
 }

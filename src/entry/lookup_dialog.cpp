@@ -47,10 +47,11 @@ void enableFor(Dialog& dialog, ControlId field, bool carried) {
   if (!carried) dialog.setText(field, "");
 }
 
-std::optional<ContestantNumber> existing(const Contest& contest, std::int64_t number) {
-  const auto contestant = static_cast<ContestantNumber>(number);
-  if (contestant != number || !contest.contestantNames.contains(contestant)) return std::nullopt;
-  return contestant;
+// One too large for 32 bits is no number.
+std::optional<ContestantNumber> typedContestant(const Dialog& dialog) {
+  const std::optional<std::int64_t> typed = typedNumber(dialog.text(kNumberField));
+  if (!typed || *typed != static_cast<ContestantNumber>(*typed)) return std::nullopt;
+  return static_cast<ContestantNumber>(*typed);
 }
 
 void showLastScore(Dialog& dialog, ContestantNumber number, std::int32_t classIndex) {
@@ -100,13 +101,12 @@ bool readPlace(Dialog& dialog, Entry& entry) {
     return false;
   }
   entry.classIndex = *line;
-  const std::optional<std::int64_t> typed = typedNumber(dialog.text(kNumberField));
-  if (!typed) {
+  const std::optional<ContestantNumber> number = typedContestant(dialog);
+  if (!number) {
     refuse(dialog, "Error:  no member number entered.", {}, kNumberField);
     return false;
   }
-  const auto number = existing(currentContest(), *typed);
-  if (!number) {
+  if (!currentContest().contestantNames.contains(*number)) {
     refuse(dialog, kNoSuchContestant, {kNumberField, kLetterField, kReasonsField, kQuestionsField},
            kNumberField);
     return false;
@@ -134,9 +134,8 @@ void score(Dialog& dialog) {
 
 void lookUp(Dialog& dialog) {
   empty(dialog, {kLetterField, kReasonsField});
-  const std::int64_t typed = typedNumber(dialog.text(kNumberField)).value_or(0);
-  const auto number = existing(currentContest(), typed);
-  if (!number) {
+  const ContestantNumber number = typedContestant(dialog).value_or(0);
+  if (!currentContest().contestantNames.contains(number)) {
     refuse(dialog, kNoSuchContestant, {kNumberField}, kNumberField);
     return;
   }
@@ -145,7 +144,7 @@ void lookUp(Dialog& dialog) {
     refuse(dialog, "Error:  A class must be selected.", {}, kEntryClassList);
     return;
   }
-  showLastScore(dialog, *number, *line);
+  showLastScore(dialog, number, *line);
   dialog.focus(kNumberField);
   // The next number is typed over this one.
   dialog.selectText(kNumberField);

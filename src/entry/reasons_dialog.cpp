@@ -51,7 +51,6 @@ void ReasonsDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
   if (choice_.take(dialog, id, event)) start(dialog);
   if (id == kEntryScoreButton && event == ControlEvent::clicked) {
     score(dialog);
-    dialog.focus(kCard.field);
   }
   endOn(dialog, id, event);
 }
@@ -83,10 +82,13 @@ void ReasonsDialog::start(Dialog& dialog) {
 }
 
 void ReasonsDialog::score(Dialog& dialog) {
-  if (!choice_.isMade(dialog, "reasons group") || !enterScore(dialog, kCard, choice_)) return;
-  showLastContestant(dialog, *choice_.contestant());
-  showLastReasons(dialog, currentContest(), *choice_.contestant(), choice_.classIndex());
-  advance(dialog);
+  if (!choice_.isMade(dialog, "reasons group")) return;
+  if (enterScore(dialog, kCard, choice_)) {
+    showLastContestant(dialog, *choice_.contestant());
+    showLastReasons(dialog, currentContest(), *choice_.contestant(), choice_.classIndex());
+    advance(dialog);
+  }
+  dialog.focus(kCard.field);
 }
 
 // Past the top, an empty cell ends the group even when more contestants stand below it.

@@ -26,6 +26,7 @@ void close(DialogBehaviour&& behaviour, int resource) {
       EXPECT_EQ(dialog.result(), cancelled ? 2 : 1) << dialog.caption() << way;
       EXPECT_EQ(folder.count(), named && !cancelled ? 1U : 0U) << dialog.caption() << way;
       EXPECT_TRUE(dialog.desktop.fileQuestions.empty()) << "no name is asked for";
+      EXPECT_EQ(dialog.desktop.takeMessage(), "") << dialog.caption() << way;
     }
   }
 }
