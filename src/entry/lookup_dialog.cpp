@@ -111,7 +111,7 @@ void LookupDialog::score(Dialog& dialog) {
   if (const auto refusal = readScores(dialog, typed)) return show(dialog, *refusal);
   const std::optional<std::int32_t> classIndex = dialog.selectedNumber(IDC_ENTRY_CLASS);
   if (!classIndex) return show(dialog, {"Error:  no class selected.", {}, IDC_ENTRY_CLASS});
-  // Odd but required, docs/required-behaviour.md: number-beyond-32-bits-is-none
+  // Odd but required, docs/required-behaviour.md: number-too-large-is-none
   const std::optional<ContestantNumber> number = typedContestant(dialog);
   if (!number) {
     return show(dialog, {"Error:  no member number entered.", {}, IDC_LOOKUP_CONTESTANT});

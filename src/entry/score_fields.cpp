@@ -8,13 +8,12 @@ std::optional<std::string> readLetter(const std::string& text,
                                       std::optional<PlacingLetter>& letter) {
   if (text.empty()) return std::nullopt;
   if (text.size() > 1) return "Error:  too many letters entered for score.";
-  // Signed, so that a byte beyond ASCII counts as below "A".
-  const auto typed = static_cast<signed char>(text.front());
+  const char typed = text.front();
   // Odd but required, docs/required-behaviour.md: z-passes-as-a-letter
   if (typed == 'Y' || typed < 'A' || typed > 'Z') {
     return formatText("Error:  score must be between A and X <%s> (Z=zero).", text.c_str());
   }
-  letter = text.front();
+  letter = typed;
   return std::nullopt;
 }
 
