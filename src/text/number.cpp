@@ -33,6 +33,20 @@ std::int32_t leadingNumber(std::string_view text) {
   return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
 }
 
+std::optional<std::int64_t> typedNumber(std::string_view text) {
+  constexpr std::int64_t kLargest = 999'999'999'999'999'999;
+  text = withoutOuterBlanks(text);
+  const bool negative = !text.empty() && text.front() == '-';
+  if (negative) text.remove_prefix(1);
+  if (text.empty()) return std::nullopt;
+  std::int64_t value = 0;
+  for (const char digit : text) {
+    if (!isDigit(digit)) return std::nullopt;
+    value = value > kLargest / 10 ? kLargest : value * 10 + (digit - '0');
+  }
+  return negative ? -value : value;
+}
+
 std::string_view withoutOuterBlanks(std::string_view text) {
   while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
   while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
