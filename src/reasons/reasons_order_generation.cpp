@@ -83,10 +83,6 @@ std::optional<std::string> generateReasonsOrder(Contest& contest, std::uint32_t 
     return "There must be at least as many reasons takers as there are reasons classes.\n"
            "\t\tA reasons order can not be assigned.";
   }
-  if (contest.reasonsOrder.empty()) {
-    return "There are no teams to take places in the reasons order.  "
-           "Reasons order cannot be generated.";
-  }
   auto cells = drawOrder(contest, reasonsGroupStep(groups, classes), seed);
   if (!cells) {
     return "There are more contestants than places in the reasons order.  "

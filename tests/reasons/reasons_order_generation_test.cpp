@@ -47,7 +47,7 @@ TEST(ReasonsOrderGeneration, DrawsRowsUntilOneIsFree) {
   EXPECT_EQ(groupsOfSpeakers(reasonsContest(1, 1, 500)), Groups(500, 0));
 }
 
-// Of ten rows seed 1 names 1, 7, 4, 0, 9 and seed 2 names 5, 6, 8, 0, 1.
+// Of ten rows seed 1 names 1, 7, 4, 0, 9; seed 2 names 5, 6, 8, 5 again and so 4, then 0.
 TEST(ReasonsOrderGeneration, FollowsItsSeed) {
   struct Case {
     std::uint32_t seed;
@@ -56,7 +56,7 @@ TEST(ReasonsOrderGeneration, FollowsItsSeed) {
   };
   for (const auto& [seed, draws, speakers] :
        {Case{1, {41, 18467, 6334, 26500, 19169}, {104, 101, 103, 102, 105}},
-        Case{2, {45, 29216, 24198, 17795, 29484}, {105, 101, 102, 104, 103}}}) {
+        Case{2, {45, 29216, 24198, 17795, 29484}, {105, 104, 101, 102, 103}}}) {
     ReasonsRandom random(seed);
     for (const std::int32_t draw : draws) EXPECT_EQ(random.draw(), draw) << seed;
     Contest contest = reasonsContest(1, 1, 5);

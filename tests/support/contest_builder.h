@@ -73,7 +73,7 @@ class ContestBuilder {
     return *this;
   }
   /// Enters a contestant's cards, one letter a class from the first on (' ' = not entered), with
-  /// the placing score that the cut rule gives.
+  /// the placing score by the cut rule.
   ContestBuilder& placings(ContestantNumber number, std::string_view letters) {
     std::int32_t k = 0;
     for (const char letter : letters) {
