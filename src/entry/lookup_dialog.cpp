@@ -9,9 +9,9 @@
 #include "entry/last_score.h"
 #include "entry/score_card.h"
 #include "entry/typed_letter.h"
-#include "entry/typed_number.h"
 #include "model/class_lists.h"
 #include "session/open_contest.h"
+#include "text/number.h"
 
 namespace scorvane {
 
