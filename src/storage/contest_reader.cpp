@@ -44,11 +44,6 @@ std::size_t plausibleCount(const LineScanner& lines, std::int32_t count) {
   return std::min(static_cast<std::size_t>(count), lines.size() / kShortestUsualLine);
 }
 
-template <class... Functions>
-struct Overloaded : Functions... {
-  using Functions::operator()...;
-};
-
 /// What settings get whose line has no value.
 ContestSettings settingsWithoutValues() {
   ContestSettings settings = newContest().settings;
@@ -62,14 +57,13 @@ void setValue(ContestSettings& settings, const SettingLine& line, std::string_vi
     ContestSettings missing = settingsWithoutValues();
     missing.totalNumPerTeam = settings.numPerTeam;
     std::visit([&](auto value) { settings.*value = missing.*value; }, line.value);
-    return;
+  } else if (const auto* words = std::get_if<std::string ContestSettings::*>(&line.value)) {
+    settings.** words = text;
+  } else if (const auto* flag = std::get_if<bool ContestSettings::*>(&line.value)) {
+    settings.** flag = leadingNumber(text) == 1;
+  } else {
+    settings.*std::get<std::int32_t ContestSettings::*>(line.value) = leadingNumber(text);
   }
-  std::visit(
-      Overloaded{
-          [&](std::string ContestSettings::*value) { settings.*value = text; },
-          [&](std::int32_t ContestSettings::*value) { settings.*value = leadingNumber(text); },
-          [&](bool ContestSettings::*value) { settings.*value = leadingNumber(text) == 1; }},
-      line.value);
 }
 
 std::vector<std::string> readCategories(FieldScanner& fields) {
