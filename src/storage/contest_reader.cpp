@@ -8,6 +8,7 @@
 
 #include "model/new_contest.h"
 #include "model/numbering.h"
+#include "model/reasons_places.h"
 #include "storage/contest_format.h"
 #include "storage/line_scanner.h"
 #include "storage/score_reader.h"
@@ -223,10 +224,8 @@ void unassignThoseWithoutCell(Contest& contest) {
 // Makes the table from the places. A place outside the table, or one that a later contestant holds
 // too, is given up, so that the person turns up among the unassigned.
 void rebuildReasonsOrder(Contest& contest) {
-  const auto slots = std::max(contest.settings.totalNumPerTeam, 0);
   ReasonsOrder& order = contest.reasonsOrder;
-  order.reset(static_cast<std::int64_t>(contest.teams.size()) * slots,
-              contest.settings.numReasonsGroups);
+  order.reset(reasonsRows(contest), contest.settings.numReasonsGroups);
   std::vector<ReasonsOrder::Cells::Entry> cells;
   std::size_t assigned = 0;
   for (const auto& [number, place] : contest.reasonsPlace) {

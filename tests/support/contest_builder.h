@@ -10,6 +10,7 @@
 #include "model/contest.h"
 #include "model/new_contest.h"
 #include "model/numbering.h"
+#include "model/roster.h"
 
 namespace scorvane {
 
@@ -66,8 +67,7 @@ class ContestBuilder {
   /// A contestant without a team, with the next free number.
   ContestBuilder& contestant(const std::string& name) {
     const ContestantNumber number = contest.settings.nextContestantNum;
-    contest.contestantNames[number] = name;
-    contest.contestantGroup[number] = groupOfNumber(contest.settings, number);
+    setContestant(contest, number, name);
     contest.reasonsPlace[number] = {};
     updateNextContestant(contest);
     return *this;

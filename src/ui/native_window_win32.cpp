@@ -1,4 +1,4 @@
-#include "ui/resolution_win32.h"
+#include "ui/native_window_win32.h"
 
 #include <windows.h>
 

@@ -5,15 +5,14 @@
 
 namespace scorvane {
 
-/// What Escape does: most entry dialogs have a cancel that leaves the file alone.
+/// What Escape does: in most entry dialogs it ends without saving.
 enum class Escape { leavesFile, saves };
 
 /// Ends the dialog when the event is its Done or OK, after saving, or its Cancel. The scores
 /// stored so far stay in the contest in any case.
 void endOn(Dialog& dialog, ControlId id, ControlEvent event, Escape escape = Escape::leavesFile);
 
-/// Saves the contest if it has a file, and ends the dialog. An untitled contest is deliberately
-/// not asked a name for.
+/// Saves the contest if it has a file, and ends the dialog.
 void saveAndEnd(Dialog& dialog);
 
 }  // namespace scorvane

@@ -1,17 +1,22 @@
-#include "reasons/reasons_order_report.h"
+#include "reasons/reasons_reports.h"
 
-#include <cstdint>
-#include <vector>
+#include <algorithm>
+#include <cstddef>
 
 #include "model/class_lists.h"
-#include "reasons/reasons_bands.h"
-#include "reasons/speakers.h"
+#include "model/reasons_places.h"
 #include "text/format.h"
 #include "text/report_marks.h"
 
 namespace scorvane {
 
 namespace {
+
+// Bands are separated so that each starts a printed page of its own.
+void appendBandBreak(std::string& out) {
+  out += kPageBreakLine;
+  out += "\n\n\n";
+}
 
 constexpr const char* kRoomGap = "      ";
 
@@ -33,7 +38,7 @@ bool isRowEmpty(const ReasonsOrder& order, const ReasonsBand& band, std::int32_t
   return true;
 }
 
-// Ends at the first row without anybody, even when later rows hold contestants.
+// Odd but required, docs/required-behaviour.md: reasons-order-ends-at-empty-row
 void appendGrid(std::string& out, const ReasonsOrder& order, const ReasonsBand& band,
                 const char* gap) {
   for (std::int32_t row = 0; !isRowEmpty(order, band, row); ++row) {
@@ -70,8 +75,7 @@ void appendRoomBoxes(std::string& out, const ReasonsBand& band) {
 void appendClassOrder(std::string& out, const Contest& contest, const ReasonsBand& band) {
   const std::vector<std::int32_t> classes = reasonsClasses(contest.classes);
   for (std::int32_t g = band.first; g < band.end; ++g) {
-    // Counted within the band, deliberately: the first group of every band starts with the first
-    // reasons class.
+    // Odd but required, docs/required-behaviour.md: class-order-restarts-in-every-band
     const auto k = static_cast<std::size_t>(g - band.first);
     for (std::size_t i = 0; i < classes.size(); ++i) {
       const std::int32_t heard = classes[(k + i) % classes.size()];
@@ -91,8 +95,7 @@ void appendClassOrderByTurns(std::string& out, const Contest& contest, const Rea
   const auto width = static_cast<std::size_t>(band.width());
   for (std::size_t i = 0; i < classes.size(); ++i) {
     for (std::size_t c = 0; c < width; ++c) {
-      // Deliberately this index: it is the rotation of the plain form only when the band is as wide
-      // as there are reasons classes.
+      // Odd but required, docs/required-behaviour.md: class-order-of-the-room-form
       const std::int32_t heard = classes[(i * (width + 1) + c) % classes.size()];
       appendFormat(out, "%2d-%-11.11s ", heard + 1, contest.classes.name(heard).c_str());
     }
@@ -100,7 +103,73 @@ void appendClassOrderByTurns(std::string& out, const Contest& contest, const Rea
   }
 }
 
+// The sheets.
+
+void appendClassLine(std::string& out, const JudgingClasses& classes, std::int32_t classIndex) {
+  const PlacingLetter official = classes.official(classIndex);
+  const auto order = orderOfLetter(official);
+  const Cuts cuts = classes.cuts(classIndex);
+  appendFormat(out, "%d. %s, Official Score %c (%d%d%d%d), Cuts (%d,%d,%d)\n\n", classIndex + 1,
+               classes.name(classIndex).c_str(), official, order[0], order[1], order[2], order[3],
+               cuts.cut1, cuts.cut2, cuts.cut3);
+}
+
+void appendBandHeader(std::string& out, const ReasonsBand& band) {
+  out += '\n';
+  for (std::int32_t g = band.first; g < band.end; ++g) appendFormat(out, "%3d Score  ", g + 1);
+  out += '\n';
+  for (std::int32_t g = band.first; g < band.end; ++g) out += " --------- ";
+  out += "\n\n";
+}
+
+void appendNumber(std::string& out, ReasonsSheet sheet, std::int32_t contestant,
+                  const ScoreRecord& record) {
+  if (contestant == kNobody) {
+    appendFormat(out, " %-4c      ", ' ');
+  } else if (sheet == ReasonsSheet::order) {
+    appendFormat(out, " %-4d_____ ", contestant);
+  } else {
+    appendFormat(out, " %-4d__%2d_ ", contestant, record.reasonsScore);
+  }
+}
+
+void appendPlacing(std::string& out, ReasonsSheet sheet, std::int32_t contestant,
+                   const ScoreRecord& record) {
+  if (contestant == kNobody || sheet == ReasonsSheet::verification) {
+    out += "           ";
+    return;
+  }
+  const auto order = orderOfLetter(record.letter);
+  appendFormat(out, " %c %d%d%d%d %2d ", record.letter, order[0], order[1], order[2], order[3],
+               record.placingScore);
+}
+
+void appendRow(std::string& out, const Contest& contest, ReasonsSheet sheet,
+               std::int32_t classIndex, const ReasonsBand& band, std::int32_t row) {
+  for (const auto append : {appendNumber, appendPlacing}) {
+    for (std::int32_t g = band.first; g < band.end; ++g) {
+      const std::int32_t contestant = contest.reasonsOrder.cell(row, g);
+      append(out, sheet, contestant, scoreRecord(contest, contestant, classIndex));
+    }
+    out += '\n';
+  }
+  out += '\n';
+}
+
 }  // namespace
+
+std::vector<ReasonsBand> reasonsBands(std::int32_t groups) {
+  constexpr std::int32_t kWidest = 8;
+  const std::int32_t shown = std::clamp(groups, 0, kMostReasonsGroupsShown);
+  const std::int32_t count = std::max((shown + kWidest - 1) / kWidest, 1);
+  const std::int32_t width = (shown + count - 1) / count;
+  std::vector<ReasonsBand> bands;
+  bands.reserve(static_cast<std::size_t>(count));
+  for (std::int32_t b = 0; b < count; ++b) {
+    bands.push_back({b * width, std::min((b + 1) * width, shown)});
+  }
+  return bands;
+}
 
 std::string reasonsOrderReport(const Contest& contest, ReasonsOrderForm form) {
   const bool room = form == ReasonsOrderForm::room;
@@ -122,6 +191,28 @@ std::string reasonsOrderReport(const Contest& contest, ReasonsOrderForm form) {
       appendClassOrder(out, contest, band);
     }
     out += '\n';
+  }
+  return out;
+}
+
+std::optional<std::string> reasonsSheet(const Contest& contest, ReasonsSheet sheet,
+                                        std::int32_t classIndex) {
+  const ReasonsOrder& order = contest.reasonsOrder;
+  if (order.empty() || !contest.classes.hasReasons(classIndex)) return std::nullopt;
+  std::string out = sheet == ReasonsSheet::order ? "Reasons Order Score Sheet\n\n"
+                                                 : "Reasons Score Verification Sheet\n\n";
+  appendClassLine(out, contest.classes, classIndex);
+  for (const ReasonsBand& band : reasonsBands(contest.settings.numReasonsGroups)) {
+    if (closeIfTooLong(out)) break;
+    if (band.first > 0) {
+      out += "\n\n";
+      appendBandBreak(out);
+    }
+    appendBandHeader(out, band);
+    // Odd but required, docs/required-behaviour.md: sheets-end-with-the-first-group
+    for (std::int32_t row = 0; order.cell(row, 0) != kNobody; ++row) {
+      appendRow(out, contest, sheet, classIndex, band, row);
+    }
   }
   return out;
 }

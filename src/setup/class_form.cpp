@@ -1,10 +1,12 @@
-#include "setup/class_storing.h"
+#include "setup/class_form.h"
 
 #include <cstddef>
 #include <utility>
 #include <vector>
 
+#include "setup/setup_ids.h"
 #include "text/format.h"
+#include "ui/field_text.h"
 
 namespace scorvane {
 
@@ -29,18 +31,11 @@ void removeLast(std::vector<Element>& column) {
   if (!column.empty()) column.pop_back();
 }
 
-template <typename Element>
-void removeAt(std::vector<Element>& column, std::int32_t index) {
-  if (index >= 0 && static_cast<std::size_t>(index) < column.size()) {
-    column.erase(column.begin() + index);
-  }
-}
-
 void emptyFirstName(JudgingClasses& classes) {
   if (!classes.className.empty()) classes.className[0].clear();
 }
 
-// The official letter's checks and the undo of each.
+// Why the official letter is refused, after the undo that goes with it.
 std::optional<std::string> checkOfficial(JudgingClasses& classes, const std::string& official) {
   if (official.empty()) {
     removeLast(classes.className);
@@ -71,8 +66,22 @@ void undoIllegalCuts(JudgingClasses& classes) {
 
 }  // namespace
 
+ClassForm readClassForm(const Dialog& dialog) {
+  ClassForm form;
+  form.name = fieldText(dialog, IDC_CLASS_NAME);
+  form.reasons = dialog.isChecked(IDC_CLASS_REASONS);
+  form.questions = dialog.isChecked(IDC_CLASS_QUESTIONS);
+  form.official = fieldText(dialog, IDC_OFFICIAL_LETTER);
+  form.category = dialog.selection(IDC_CLASS_CATEGORY).value_or(-1);
+  form.cut1 = dialog.number(IDC_CUT1).value_or(0);
+  form.cut2 = dialog.number(IDC_CUT2).value_or(0);
+  form.cut3 = dialog.number(IDC_CUT3).value_or(0);
+  return form;
+}
+
 std::optional<std::string> storeClass(JudgingClasses& classes, const ClassForm& form,
                                       Index updated) {
+  if (form.name.empty()) return "You didn't enter a class name!";
   store(classes.className, updated, form.name);
   if (auto refusal = checkOfficial(classes, form.official)) return refusal;
   store(classes.officialLetter, updated, form.official[0]);
@@ -90,17 +99,6 @@ std::optional<std::string> storeClass(JudgingClasses& classes, const ClassForm& 
   store(classes.cut2, updated, static_cast<std::int32_t>(form.cut2));
   store(classes.cut3, updated, static_cast<std::int32_t>(form.cut3));
   return std::nullopt;
-}
-
-void removeClass(JudgingClasses& classes, std::int32_t index) {
-  removeAt(classes.className, index);
-  removeAt(classes.reasonsFlag, index);
-  removeAt(classes.questionsFlag, index);
-  removeAt(classes.officialLetter, index);
-  removeAt(classes.cut1, index);
-  removeAt(classes.cut2, index);
-  removeAt(classes.cut3, index);
-  removeAt(classes.categoryIndex, index);
 }
 
 }  // namespace scorvane

@@ -1,5 +1,4 @@
-// Storing one class of the Setup Classes form step by step, and taking back what was stored when
-// a later step refuses.
+// The form of the Setup Classes dialog: reading one class from it and storing that class.
 #pragma once
 
 #include <cstdint>
@@ -7,6 +6,7 @@
 #include <string>
 
 #include "model/contest.h"
+#include "ui/dialog.h"
 
 namespace scorvane {
 
@@ -22,18 +22,14 @@ struct ClassForm {
   std::uint32_t cut3 = 0;
 };
 
+[[nodiscard]] ClassForm readClassForm(const Dialog& dialog);
+
 /// Stores the form as a new class, or over the class at `updated` (from 0). A column that is too
-/// short for that index is lengthened by blank elements. Gives the message for the operator when
-/// the form is refused; the class columns may have changed then, see below.
+/// short for that index is filled up with blank elements. Returns the message for the operator
+/// when the form is refused; the columns have changed then, by the undo of what was stored.
 ///
-/// Deliberate, flaws included: the undo of a refusal always works on the end of the columns, as if
-/// a class had been added. A refused update therefore loses the last class's name (and, for
-/// illegal cuts, its letter, flags and category) and an illegal letter or illegal cuts empty the
-/// name of the first class.
+/// Odd but required, docs/required-behaviour.md: refused-class-undone-at-the-wrong-end
 [[nodiscard]] std::optional<std::string> storeClass(JudgingClasses& classes, const ClassForm& form,
                                                     std::optional<std::int32_t> updated);
-
-/// Removes a class (index from 0) from every column that has it.
-void removeClass(JudgingClasses& classes, std::int32_t index);
 
 }  // namespace scorvane

@@ -11,6 +11,18 @@ namespace scorvane {
 
 namespace {
 
+UINT buttonsOf(Buttons buttons) {
+  switch (buttons) {
+    case Buttons::okCancel:
+      return MB_OKCANCEL;
+    case Buttons::yesNo:
+      return MB_YESNO;
+    case Buttons::ok:
+      break;
+  }
+  return MB_OK;
+}
+
 // Pairs of name and pattern, each ended by a NUL, the list by one more.
 std::string filterList(const std::vector<FileFilter>& filters) {
   std::string list;
@@ -44,6 +56,26 @@ class KeptFolder {
 };
 
 }  // namespace
+
+Answer askOver(NativeWindow owner, const Message& message) {
+  UINT style = buttonsOf(message.buttons);
+  if (message.defaultAnswer == Answer::cancel || message.defaultAnswer == Answer::no) {
+    style |= MB_DEFBUTTON2;
+  }
+  if (message.informationIcon) style |= MB_ICONINFORMATION;
+  switch (MessageBoxA(owner, message.text.c_str(), message.caption.c_str(), style)) {
+    case IDOK:
+      return Answer::ok;
+    case IDYES:
+      return Answer::yes;
+    case IDNO:
+      return Answer::no;
+    default:
+      break;
+  }
+  // No box could be shown: nothing was agreed to.
+  return message.buttons == Buttons::yesNo ? Answer::no : Answer::cancel;
+}
 
 std::optional<std::string> chooseFileOver(NativeWindow owner, const FileQuestion& question) {
   const std::string filters = filterList(question.filters);
