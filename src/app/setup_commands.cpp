@@ -1,6 +1,6 @@
 #include "app/setup_commands.h"
 
-#include "app/contest_file_commands.h"
+#include "app/file_menu.h"
 #include "app/shown_report.h"
 #include "setup/edit_contestants_dialog.h"
 #include "setup/setup_classes_dialog.h"

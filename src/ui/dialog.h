@@ -9,7 +9,7 @@
 #include <variant>
 #include <vector>
 
-#include "text/unsigned_number.h"
+#include "text/number.h"
 #include "ui/window.h"
 
 namespace scorvane {

@@ -1,4 +1,4 @@
-#include "text/line_ends.h"
+#include "text/characters.h"
 
 #include <algorithm>
 
@@ -13,6 +13,14 @@ std::string withWindowsLineEnds(std::string_view text) {
     converted += c;
   }
   return converted;
+}
+
+std::string withoutControlCharacters(std::string_view text) {
+  std::string cleaned(text);
+  std::replace_if(
+      cleaned.begin(), cleaned.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; },
+      ' ');
+  return cleaned;
 }
 
 }  // namespace scorvane

@@ -1,10 +1,9 @@
-#include "app/contest_file_commands.h"
+#include "app/file_menu.h"
 
 #include <utility>
 
 #include "app/shown_report.h"
 #include "model/contest.h"
-#include "model/new_contest.h"
 #include "model/numbering.h"
 #include "session/contest_file.h"
 #include "session/open_contest.h"
@@ -38,10 +37,8 @@ void showContestTitle(MainWindow& window) {
 }
 
 void prepareContest() {
-  currentContest() = newContest();
+  startNewContest();
   currentContest().groupLetters = makeGroupLetters(currentContest().settings.numGroups);
-  currentFileName().clear();
-  reportText() = kWelcomeText;
 }
 
 std::string contestPath(std::string_view commandLine) {
@@ -64,26 +61,23 @@ void openContestOfCommandLine(MainWindow& window, std::string_view commandLine) 
 }
 
 void openContestFile(MainWindow& window, const std::string& path) {
-  currentFileName() = path;
-  if (!loadContest(window, true)) {
-    newContestCommand(window);
-    return;
+  if (openContest(window, path)) {
+    showContestTitle(window);
+  } else {
+    window.setTitle(programTitle());
   }
-  showContestTitle(window);
   showReport(window, kWelcomeText);
 }
 
 void newContestCommand(MainWindow& window) {
-  resetContest();
-  currentFileName().clear();
+  startNewContest();
   window.setTitle(programTitle());
   showReport(window, kWelcomeText);
 }
 
-// The title is set even when nothing was opened: cancelling leaves a new contest, and the title
-// then names that one, without a path.
 void openContestCommand(MainWindow& window) {
-  loadContest(window, false);
+  // When nothing was opened, the title names the new contest that was left, and an empty path.
+  openChosenContest(window);
   showContestTitle(window);
   showReport(window, kWelcomeText);
 }
@@ -95,7 +89,7 @@ void saveContestCommand(MainWindow& window) {
 }
 
 void saveContestAsCommand(MainWindow& window) {
-  saveContest(window, true);
+  saveContestAs(window);
   showContestTitle(window);
   window.refreshReportView();
 }

@@ -1,4 +1,4 @@
-#include "app/contest_file_commands.h"
+#include "app/file_menu.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-// Starting the program and the File menu's contest commands: which contest is open, and what the
-// title bar says of it.
+// The main window's part in opening and saving contests: start-up, the File menu's contest
+// commands, the title bar. The files themselves are the business of session/contest_file.h.
 #pragma once
 
 #include <string>
@@ -9,26 +9,25 @@
 
 namespace scorvane {
 
-/// The program's name as the title bar shows it, as the resources give it; at most kMaxTitle
-/// bytes of it are used.
+/// The program's name for the title bar, out of the resources; at most kMaxTitle bytes of it are
+/// used.
 void setProgramTitle(std::string title);
 inline constexpr std::size_t kMaxTitle = 499;
 
 /// Sets the title bar to program, file path and contest name; cut to kMaxTitle bytes.
 void showContestTitle(MainWindow& window);
 
-/// Makes the contest the program starts with: a new one of today with its group letters.
+/// Makes the contest the program starts with: a new one with its group letters.
 void prepareContest();
 
-/// The path that a command line names: without the quotes around it, or else all of it, blanks
-/// inside included. "" when it names none.
+/// The path in a command line: what is between quotes, or else all of it, blanks inside included.
+/// "" when there is none.
 [[nodiscard]] std::string contestPath(std::string_view commandLine);
 
 /// Opens the contest that the command line names, if it names one.
 void openContestOfCommandLine(MainWindow& window, std::string_view commandLine);
 
-/// Opens a contest file; a new contest, after a message, when it cannot be read. A path of more
-/// than kMaxPathLength bytes is refused: cut, it could be another file's.
+/// Opens a contest file and shows it; a new contest, after a message, when it cannot be read.
 void openContestFile(MainWindow& window, const std::string& path);
 
 // The commands.
