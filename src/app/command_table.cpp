@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "app/contest_file_commands.h"
 #include "app/entry_commands.h"
+#include "app/file_menu.h"
 #include "app/reasons_commands.h"
 #include "app/results_commands.h"
 #include "app/round_commands.h"

@@ -7,7 +7,7 @@
 
 #include "app/clipboard_win32.h"
 #include "app/command_table.h"
-#include "app/contest_file_commands.h"
+#include "app/file_menu.h"
 #include "app/manual_win32.h"
 #include "model/contest.h"
 #include "output/printer_win32.h"

@@ -4,8 +4,8 @@
 #include <array>
 #include <memory>
 
-#include "app/contest_file_commands.h"
 #include "app/desktop_window_win32.h"
+#include "app/file_menu.h"
 
 namespace scorvane {
 

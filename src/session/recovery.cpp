@@ -65,8 +65,8 @@ bool claimPath(FileSystem& files) {
     FileSystem::Claim claim = files.claim(path);
     if (claim.outcome == FileOutcome::denied) continue;
     if (claim.outcome != FileOutcome::done) return false;
-    const auto facts = files.facts(path);
-    if (!facts || facts->exists) continue;
+    const auto status = files.status(path);
+    if (!status || status->exists) continue;
     kept().path = path;
     kept().claim = std::move(claim.hold);
     return true;

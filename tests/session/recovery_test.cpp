@@ -30,12 +30,11 @@ struct Recovery : testing::Test {
   /// The program is started and a contest opened; what is asked gets one answer.
   bool start(const std::string& path = kPath, Answer answer = Answer::yes) {
     stopKeepingWork();
-    resetContest();
-    currentFileName() = path;
+    startNewContest();
     window.desktop = {};
     window.desktop.answers = {answer};
     startKeepingWork(disk);
-    return path.empty() || loadContest(window, true);
+    return path.empty() || openContest(window, path);
   }
   void type(ContestantNumber number, std::int32_t classIndex, const ScoreRecord& record) {
     typed = record;
