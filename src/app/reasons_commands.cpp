@@ -47,7 +47,7 @@ void runGenerateReasonsOrder(MainWindow& window) {
 
 void runEditReasonsOrder(MainWindow& window) {
   ReasonsOrderEditDialog dialog;
-  runDialogOverWelcome(window, IDD_REASONS_ORDER_EDIT, dialog);
+  runSetupOverWelcome(window, IDD_REASONS_ORDER_EDIT, dialog);
   showReport(window, plainReasonsOrder(currentContest(), {}));
 }
 

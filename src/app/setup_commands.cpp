@@ -15,7 +15,7 @@ namespace {
 template <typename Behaviour>
 void runSetup(MainWindow& window, int resourceId) {
   Behaviour behaviour;
-  runDialogOverWelcome(window, resourceId, behaviour);
+  runSetupOverWelcome(window, resourceId, behaviour);
   showContestTitle(window);
 }
 

@@ -102,11 +102,11 @@ void saveToCurrentFile(Window& owner, ForeignChanges foreignChanges) {
   const std::string bytes = writeContest(currentContest());
   Saving saving = save(bytes, foreignChanges);
   if (saving == Saving::wouldLoseForeignChanges) {
-    if (!agreesToReplaceForeignChanges(owner)) return;
+    if (!agreesToReplaceForeignChanges(owner)) return contestWasNotSaved(NotSaved::cancelled);
     saving = save(bytes, ForeignChanges::replace);
   }
   if (saving == Saving::failed) {
-    contestWasNotSaved();
+    contestWasNotSaved(NotSaved::failed);
     owner.show(kNotSaved, "File Save Error");
     return;
   }
@@ -177,7 +177,7 @@ void saveContestAs(Window& owner) {
   // Odd but required, docs/required-behaviour.md: save-as-forgets-the-name
   currentFileName().clear();
   auto path = owner.chooseFile(contestFileQuestion(FileQuestion::Purpose::save));
-  if (!path) return;
+  if (!path) return contestWasNotSaved(NotSaved::cancelled);
   currentFileName() = std::move(*path);
   // Choosing the name was the consent to replace what is there.
   saveToCurrentFile(owner, ForeignChanges::replace);
