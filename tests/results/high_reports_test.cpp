@@ -1,9 +1,9 @@
 // The reports of the best individuals and teams.
 #include <gtest/gtest.h>
 
-#include "results/high_individual_report.h"
-#include "results/high_team_report.h"
-#include "results/tie_breaker_report.h"
+#include "results/high_reports.h"
+#include "results/rankings.h"
+#include "results/tie_breakers.h"
 #include "tests/support/approved.h"
 #include "tests/support/contest_builder.h"
 
@@ -11,12 +11,8 @@ namespace scorvane {
 
 namespace {
 
-HighReportRequest twenty(ScoreKind kind, ClassSet classes, const std::string& title = "") {
-  return {.classes = std::move(classes),
-          .kind = kind,
-          .numToReport = 20,
-          .percent = false,
-          .title = title};
+ReportRequest twenty(ScoreKind kind, ClassSet classes, const std::string& title = "") {
+  return {.kind = kind, .classes = std::move(classes), .numToReport = 20, .title = title};
 }
 
 // In the overall ranking Cat and the nameless 106 are equal up to the third value, Bob and Ann up
@@ -102,6 +98,34 @@ TEST(HighReports, ListTheNumberOrPercentageAskedForButOneRowAtLeast) {
     EXPECT_EQ(std::count(individuals.begin(), individuals.end(), '\n') - 4, rows) << number;
     EXPECT_EQ((std::count(teams.begin(), teams.end(), '\n') - 4) / 3, rows) << number;
   }
+}
+
+// Of 52 classes the last two do not count: Ann has 49 times 1 and once 50.
+TEST(CustomReport, TakesTheFirstFiftyClassesAndCutsTheTitle) {
+  ContestBuilder builder;
+  builder.team("Adams", "", {"Ann", "Bob"});
+  ReportRequest request = twenty(ScoreKind::placings, {}, std::string(500, 'x'));
+  for (std::int32_t k = 0; k < 52; ++k) {
+    builder.addClass({});
+    builder.contest.scores[101][k].placingScore = k == 49 ? 50 : 1;
+    request.classes.push_back(k);
+  }
+  const std::string report = customReport(builder.contest, request);
+  EXPECT_NE(report.find("Adams                              99\n"), std::string::npos) << report;
+  EXPECT_EQ(report.find('\n'), std::string("High Individual Placings ").size() + 499);
+  request.team = true;
+  EXPECT_TRUE(customReport(builder.contest, request).starts_with("High Team Placings xxx"));
+}
+
+// Asked for nobody, the report ends with the leader: also with one who has no name.
+TEST(HighIndividualReport, OfZeroRowsEndsWithTheLeader) {
+  ContestBuilder builder;
+  builder.addClass({}).team("Adams", "", {"Ann", ""}).scores(101, {{10}}).scores(102, {{50}});
+  ReportRequest request = wholeContestRequest(builder.contest, ScoreKind::overall);
+  request.numToReport = 0;
+  EXPECT_TRUE(individualRows(builder.contest, request).empty());
+  request.numToReport = 1;
+  EXPECT_EQ(individualRows(builder.contest, request).size(), 1U);
 }
 
 TEST(HighReports, OfTheCountySampleAreAsApproved) {

@@ -1,4 +1,4 @@
-// The listings of contestants and teams, to check numbering and groups before the contest.
+// The listings to check the set-up by before the contest: classes, officials, contestants, teams.
 #pragma once
 
 #include <string>
@@ -6,6 +6,13 @@
 #include "model/contest.h"
 
 namespace scorvane {
+
+/// Every class with its kind and category.
+[[nodiscard]] std::string classesReport(const Contest& contest);
+
+/// Every class with its kind, official placing and cuts, to be checked against the officials'
+/// cards. A class whose official letter names no order shows the digits 0000.
+[[nodiscard]] std::string officialPlacingsReport(const Contest& contest);
 
 /// The named contestants by number with group and team. An alternate is told by the place among
 /// the team's consecutive lines, not by the slot in the team.
