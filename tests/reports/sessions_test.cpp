@@ -46,7 +46,8 @@ const SessionWorld kReports = {
      {"Round Verification Report",
       [] { return std::make_unique<Asking<RoundVerificationDialog>>(); }}},
     {{"three classes", threeClasses}},
-    {{"no categories", [](Contest& c) { c.categories.clear(); }}}};
+    {{"no categories", [](Contest& c) { c.categories.clear(); }},
+     {"one category", [](Contest& c) { c.categories.resize(1); }}}};
 
 class ReportSession : public testing::TestWithParam<std::string> {};
 class ResultSession : public testing::TestWithParam<std::string> {};

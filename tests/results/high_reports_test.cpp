@@ -4,6 +4,7 @@
 #include "results/high_reports.h"
 #include "results/rankings.h"
 #include "results/tie_breakers.h"
+#include "results/total_summary_report.h"
 #include "tests/support/approved.h"
 #include "tests/support/contest_builder.h"
 
@@ -97,6 +98,30 @@ TEST(HighReports, ListTheNumberOrPercentageAskedForButOneRowAtLeast) {
     const std::string teams = highTeamReport(builder.contest, request);
     EXPECT_EQ(std::count(individuals.begin(), individuals.end(), '\n') - 4, rows) << number;
     EXPECT_EQ((std::count(teams.begin(), teams.end(), '\n') - 4) / 3, rows) << number;
+  }
+}
+
+// Every name has forty letters of its own.
+TEST(HighReports, CutNamesToTheirColumns) {
+  const auto letters = [](char letter, std::size_t count = 40) {
+    return std::string(count, letter);
+  };
+  ContestBuilder builder;
+  builder.members(2, 3, 1).addClass({.name = letters('D')}).categories({letters('K')});
+  builder.team(letters('T'), letters('C'), {letters('A'), letters('B'), letters('X')});
+  builder.scores(101, {{50}}).scores(102, {{40}});
+  const auto request = wholeContestRequest(builder.contest, ScoreKind::overall);
+  const std::string reports = highIndividualReport(builder.contest, request) +
+                              highTeamReport(builder.contest, request) +
+                              totalSummaryReport(builder.contest);
+  for (const std::string& cut :
+       {"  " + letters('A', 30) + "  " + letters('T', 30) + "  ",
+        "  " + letters('T', 21) + "  " + letters('A', 25) + " (", "  " + letters('B', 25) + " (",
+        "Coach: " + letters('C', 30) + " ", letters('D', 38) + "  " + letters('K', 30) + "\n",
+        "Team:  " + letters('T', 30) + "          Coach:  " + letters('C', 30) + "\n",
+        " | " + letters('K', 16) + " | ", "101 " + letters('A', 20) + " | ",
+        "103 " + letters('X', 16) + " alt | "}) {
+    EXPECT_NE(reports.find(cut), std::string::npos) << cut << '\n' << reports;
   }
 }
 
