@@ -149,7 +149,7 @@ constexpr std::array kCommands = {
     Command{32857, "Help", "Scorvane Help (F1)", helpCommand},
     Command{104, "Help", "About ...", aboutCommand},
 
-    // In no menu: shows what the system's font chooser gives.
+    // In no menu: shows the fields of the font that the system's font chooser returns.
     Command{32809, "", "", fontCommand},
 };
 

@@ -12,7 +12,7 @@ namespace scorvane {
 
 class DialogBehaviour;
 
-/// What the system's font chooser tells of a font; sizes in its logical units.
+/// What the system's font chooser says about a font; sizes in its logical units.
 struct FontFields {
   long height = 0, width = 0, escapement = 0, orientation = 0, weight = 0;
   int italic = 0, underline = 0, strikeOut = 0, charSet = 0;
@@ -22,7 +22,7 @@ struct FontFields {
 
 class MainWindow : public Window {
  public:
-  /// Runs the dialog of a resource id modally over this window; gives the result it ended with.
+  /// Runs the dialog of a resource id modally over this window; returns the result it ended with.
   virtual int runDialog(int resourceId, DialogBehaviour& behaviour) = 0;
   /// Sets the text of the title bar.
   virtual void setTitle(std::string_view title) = 0;

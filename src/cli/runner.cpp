@@ -5,6 +5,7 @@
 #include <utility>
 #include <variant>
 
+#include "cli/system.h"
 #include "storage/contest_reader.h"
 #include "storage/safe_save.h"
 #include "text/line_ends.h"
@@ -24,6 +25,9 @@ std::variant<Contest, std::string> openContest(const std::string& path, FileSyst
   const auto refuse = [&path](const char* reason) {
     return "cannot read '" + path + "': " + reason;
   };
+  if (const auto file = files.openToRead(path)) {
+    expectMemory(3 * static_cast<std::size_t>(file->size()));  // the bytes, and the contest of them
+  }
   const std::optional<std::string> bytes = files.readWhole(path);
   if (!bytes) return refuse("it does not exist or cannot be opened");
   auto reading = readContest(*bytes);

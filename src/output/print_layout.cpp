@@ -56,7 +56,7 @@ class Layout {
         startPage();
       }
     }
-    // Deliberate: the last footer stands one row higher than the footers of full pages.
+    // Odd but required, docs/required-behaviour.md: last-footer-one-row-higher
     row_ = lastBodyRow_;
     endPage();
     return std::move(operations_);

@@ -14,7 +14,7 @@ namespace scorvane {
 /// cards. A class whose official letter names no order shows the digits 0000.
 [[nodiscard]] std::string officialPlacingsReport(const Contest& contest);
 
-/// The named contestants by number with group and team. An alternate is told by the place among
+/// The named contestants by number with group and team. An alternate is told by the position among
 /// the team's consecutive lines, not by the slot in the team.
 [[nodiscard]] std::string contestantsReport(const Contest& contest);
 

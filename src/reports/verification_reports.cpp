@@ -153,7 +153,7 @@ struct Grid {
 // shows a zero; contestants without any are left out unless the grid lists all.
 template <typename AppendCell>
 std::string buildGrid(const Contest& contest, const Grid& grid, AppendCell appendCell) {
-  // The length counts all classes, not only the columns shown; that is deliberate.
+  // Odd but required, docs/required-behaviour.md: rules-count-all-classes
   const std::string rule = makeRule(contest.classes, 26, grid.rulePerClass);
   std::string out = grid.title;
   appendFormat(out, "%26.26s", "");

@@ -8,14 +8,14 @@
 namespace scorvane {
 
 /// Every named contestant's stored letter for every class, in a block for each group. Contestants
-/// whose group letter is none of the contest's (numbers below startNum) stand in no block.
+/// whose group letter is none of the contest's (numbers below startNum) are in no block.
 [[nodiscard]] std::string verifyScoresReport(const Contest& contest);
 
 /// Each team's placings with the official placings and cuts above them.
 [[nodiscard]] std::string verifyPlacingsReport(const Contest& contest);
 
-/// Each team's reasons scores. A member's total deliberately adds the reasons scores of all
-/// classes, also of those that carry none (any more).
+/// Each team's reasons scores. A member's total adds the reasons scores of all classes.
+/// Odd but required, docs/required-behaviour.md: reasons-total-of-all-classes
 [[nodiscard]] std::string reasonsByTeamReport(const Contest& contest);
 
 /// The contestants with a placing score of 0 in some class, marked " | -@-" among their letters.

@@ -116,7 +116,7 @@ struct ScoreStatistics {
   void add(std::int32_t score);
 };
 
-/// sum / count for a place of two digits: 1 is added when the first decimal is 5 or more, the rest
+/// sum / count in two digits: 1 is added when the first decimal is 5 or more, the rest
 /// is cut off, and 100 or more shows as 99. 0 when there is nobody.
 [[nodiscard]] std::int64_t roundedToTwoDigits(std::int64_t sum, std::int64_t count);
 
