@@ -17,10 +17,10 @@ int lowered(char c) {
 std::size_t editDistance(std::string_view a, std::string_view b) {
   std::vector<std::size_t> row(b.size() + 1);  // distances to the beginnings of `b`
   std::iota(row.begin(), row.end(), std::size_t{0});
-  for (std::size_t i = 0; i < a.size(); ++i) {
+  for (const char letter : a) {
     std::size_t diagonal = row[0]++;
     for (std::size_t j = 0; j < b.size(); ++j) {
-      const std::size_t changed = diagonal + (lowered(a[i]) == lowered(b[j]) ? 0 : 1);
+      const std::size_t changed = diagonal + (lowered(letter) == lowered(b[j]) ? 0 : 1);
       diagonal = row[j + 1];
       row[j + 1] = std::min({changed, row[j] + 1, row[j + 1] + 1});
     }
