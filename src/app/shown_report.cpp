@@ -2,22 +2,54 @@
 
 #include <utility>
 
+#include "reasons/reasons_class_dialog.h"
+#include "reasons/reasons_ids.h"
+#include "reports/round_verification_dialog.h"
+#include "reports/round_verification_ids.h"
+#include "results/custom_report_dialog.h"
+#include "results/custom_report_ids.h"
 #include "session/open_contest.h"
 #include "text/report_marks.h"
 
 namespace scorvane {
 
-void showReport(MainWindow& window, std::optional<std::string> report) {
-  if (!report) return;
-  reportText() = std::move(*report);
+std::optional<ReportRequest> askReasonsClass(MainWindow& window) {
+  ReasonsClassDialog dialog(currentContest());
+  window.runDialog(IDD_REASONS_CLASS, dialog);
+  if (!dialog.chosenClass()) return std::nullopt;
+  ReportRequest request;
+  request.classIndex = dialog.chosenClass();
+  return request;
+}
+
+std::optional<ReportRequest> askRound(MainWindow& window) {
+  RoundVerificationDialog dialog;
+  window.runDialog(IDD_ROUND_VERIFICATION, dialog);
+  return dialog.request();
+}
+
+std::optional<ReportRequest> askCustom(MainWindow& window) {
+  CustomReportDialog dialog;
+  window.runDialog(IDD_CUSTOM_REPORT, dialog);
+  return dialog.request();
+}
+
+void runReport(MainWindow& window, const Report& report) {
+  const auto request = report.ask == nullptr ? ReportRequest{} : report.ask(window);
+  auto text = request ? report.build(currentContest(), *request) : std::nullopt;
+  if (text) reportText() = std::move(*text);
   window.refreshReportView();
 }
 
-int runDialogOverWelcome(MainWindow& window, int resourceId, DialogBehaviour& behaviour) {
-  showReport(window, kWelcomeText);
-  const int result = window.runDialog(resourceId, behaviour);
+void showReport(MainWindow& window, std::string report) {
+  reportText() = std::move(report);
   window.refreshReportView();
-  return result;
+}
+
+void runDialogOverWelcome(MainWindow& window, int resourceId, DialogBehaviour& behaviour) {
+  showReport(window, kWelcomeText);
+  window.runDialog(resourceId, behaviour);
+  window.refreshReportView();
 }
 
 }  // namespace scorvane
