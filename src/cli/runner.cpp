@@ -5,6 +5,7 @@
 #include <utility>
 #include <variant>
 
+#include "cli/system.h"
 #include "storage/contest_reader.h"
 #include "storage/safe_save.h"
 #include "text/characters.h"
@@ -33,6 +34,9 @@ const char* reasonOf(ContestFault fault) {
 
 // The contest, or why there is none.
 std::variant<Contest, std::string> openContest(const std::string& path, FileSystem& files) {
+  if (const auto file = files.openToRead(path)) {
+    expectMemory(3 * static_cast<std::size_t>(file->size()));  // the bytes, and the contest of them
+  }
   auto loading = loadContestFile(files, path);
   if (auto* loaded = std::get_if<LoadedContest>(&loading)) return std::move(loaded->contest);
   return "cannot read '" + path + "': " + reasonOf(std::get<ContestFault>(loading));
