@@ -9,6 +9,8 @@
 #include "storage/file.h"
 #include "storage/safe_save.h"
 
+using namespace scorvane;
+
 namespace {
 
 const std::string kOld = "old content";
