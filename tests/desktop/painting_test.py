@@ -11,7 +11,7 @@ from desktop_case import NATIVE, Desktop, DesktopTest, Lettering, Screen, wait_f
 HIGH_TEAM, CONTESTANTS, GROUP_ASSIGNMENTS, SETUP_CLASSES = 32801, 32853, 32838, 32788
 LISTS = (1016, 1017, 1018, 1019, 1071)  # of Setup Classes; only the last has a scroll bar
 LEFT, WHEEL_UP, WHEEL_DOWN = 1, 4, 5
-WM_MOUSEWHEEL = 0x020A
+WM_MOUSEWHEEL, LB_GETTOPINDEX = 0x020A, 0x018E
 THICKNESS = 17  # of scroll bars, and the length of their arrows
 
 
@@ -207,6 +207,11 @@ class PaintingTest(DesktopTest):
         for one in LISTS[:2]:
             dialog.send(one, WM_MOUSEWHEEL, -20 << 16 & 0xFFFFFFFF)
         expect(1)
+        # A line dragged out of its list scrolls on for as long as it is held there.
+        left, top, _, height = dialog.client_area(LISTS[0])
+        self.addCleanup(self.drop)
+        self.desktop.mouse("mousemove", left, top, "mousedown", LEFT, "mousemove", left, top + height + 9)
+        wait_for(lambda: {dialog.send(one, LB_GETTOPINDEX) for one in LISTS} == {last}, "the lists to scroll on")
 
 
 if __name__ == "__main__":
