@@ -27,7 +27,7 @@ namespace {
 template <typename Behaviour>
 void runSetup(MainWindow& window, int resourceId) {
   Behaviour behaviour;
-  runDialogOverWelcome(window, resourceId, behaviour);
+  runSetupOverWelcome(window, resourceId, behaviour);
   showContestTitle(window);
 }
 
@@ -74,7 +74,7 @@ void runGenerateReasonsOrder(MainWindow& window) {
 
 void runEditReasonsOrder(MainWindow& window) {
   ReasonsOrderEditDialog dialog;
-  runDialogOverWelcome(window, IDD_REASONS_ORDER_EDIT, dialog);
+  runSetupOverWelcome(window, IDD_REASONS_ORDER_EDIT, dialog);
   showReasonsOrder(window);
 }
 

@@ -2,13 +2,11 @@
 
 #include <utility>
 
-#include "app/shown_report.h"
 #include "model/contest.h"
 #include "model/numbering.h"
 #include "session/contest_file.h"
 #include "session/open_contest.h"
 #include "text/format.h"
-#include "text/report_marks.h"
 
 namespace scorvane {
 
@@ -66,20 +64,20 @@ void openContestFile(MainWindow& window, const std::string& path) {
   } else {
     window.setTitle(programTitle());
   }
-  showReport(window, kWelcomeText);
+  window.refreshReportView();
 }
 
 void newContestCommand(MainWindow& window) {
   startNewContest();
   window.setTitle(programTitle());
-  showReport(window, kWelcomeText);
+  window.refreshReportView();
 }
 
 void openContestCommand(MainWindow& window) {
   // When nothing was opened, the title names the new contest that was left, and an empty path.
   openChosenContest(window);
   showContestTitle(window);
-  showReport(window, kWelcomeText);
+  window.refreshReportView();
 }
 
 void saveContestCommand(MainWindow& window) {

@@ -9,9 +9,34 @@
 #include "results/custom_report_dialog.h"
 #include "results/custom_report_ids.h"
 #include "session/open_contest.h"
+#include "session/recovery.h"
 #include "text/report_marks.h"
 
 namespace scorvane {
+
+namespace {
+
+/// Another behaviour, whose changes of the contest are kept as they come.
+class KeptBehaviour : public DialogBehaviour {
+ public:
+  explicit KeptBehaviour(DialogBehaviour& behaviour) : behaviour_(behaviour) {}
+
+  void onOpen(Dialog& dialog) override { behaviour_.onOpen(dialog); }
+  void onEvent(Dialog& dialog, ControlId id, ControlEvent event) override {
+    behaviour_.onEvent(dialog, id, event);
+    // Nothing is stored while somebody types.
+    if (event == ControlEvent::clicked || event == ControlEvent::selectionChanged) contestChanged();
+  }
+  void onClose(Dialog& dialog) override {
+    behaviour_.onClose(dialog);
+    contestChanged();
+  }
+
+ private:
+  DialogBehaviour& behaviour_;
+};
+
+}  // namespace
 
 std::optional<ReportRequest> askReasonsClass(MainWindow& window) {
   ReasonsClassDialog dialog(currentContest());
@@ -50,6 +75,12 @@ void runDialogOverWelcome(MainWindow& window, int resourceId, DialogBehaviour& b
   showReport(window, kWelcomeText);
   window.runDialog(resourceId, behaviour);
   window.refreshReportView();
+  sayIfWorkIsNotKept(window);
+}
+
+void runSetupOverWelcome(MainWindow& window, int resourceId, DialogBehaviour& behaviour) {
+  KeptBehaviour kept(behaviour);
+  runDialogOverWelcome(window, resourceId, kept);
 }
 
 }  // namespace scorvane

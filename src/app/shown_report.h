@@ -32,7 +32,10 @@ void runReport(MainWindow& window, const Report& report);
 /// Makes `report` the report text and shows it.
 void showReport(MainWindow& window, std::string report);
 
-/// Runs a setup or score-entry dialog over the welcome text.
+/// Runs a score-entry dialog over the welcome text.
 void runDialogOverWelcome(MainWindow& window, int resourceId, DialogBehaviour& behaviour);
+/// The same with a dialog that changes the contest in other ways: whatever it stores is in the
+/// recovery copy before its next event.
+void runSetupOverWelcome(MainWindow& window, int resourceId, DialogBehaviour& behaviour);
 
 }  // namespace scorvane

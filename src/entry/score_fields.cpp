@@ -1,5 +1,6 @@
 #include "entry/score_fields.h"
 
+#include "session/recovery.h"
 #include "text/format.h"
 
 namespace scorvane {
@@ -29,6 +30,7 @@ void storeScores(Contest& contest, ContestantNumber number, std::int32_t classIn
   }
   if (typed.reasons) record.reasonsScore = *typed.reasons;
   if (typed.questions) record.questionsScore = *typed.questions;
+  scoreStored({number, classIndex, record});
 }
 
 }  // namespace scorvane

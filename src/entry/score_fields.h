@@ -27,8 +27,8 @@ struct TypedScores {
                                                     std::optional<PlacingLetter>& letter);
 
 /// Stores what was typed in a contestant's record of a class (index from 0), a letter with its
-/// placing score. All scores typed into dialogs pass through here. Without any the contest stays
-/// as it is; a missing record is not created then.
+/// placing score, and returns when the recovery copy has it. All scores typed into dialogs pass
+/// through here. Without any the contest stays as it is; a missing record is not created then.
 void storeScores(Contest& contest, ContestantNumber number, std::int32_t classIndex,
                  const TypedScores& typed);
 

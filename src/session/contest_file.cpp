@@ -8,7 +8,10 @@
 
 #include "model/contest.h"
 #include "model/new_contest.h"
+#include "session/earlier_saves.h"
 #include "session/open_contest.h"
+#include "session/recovery.h"
+#include "session/recovery_offer.h"
 #include "storage/contest_reader.h"
 #include "storage/contest_writer.h"
 #include "storage/file.h"
@@ -52,23 +55,37 @@ std::size_t hashOf(std::string_view bytes) {
 
 /// Whether saving would overwrite what somebody else has saved to the current file meanwhile, such
 /// as a second copy of the program with the same contest.
-bool holdsForeignChanges(std::string_view ownBytes) {
-  if (knownContent().path != currentFileName()) return false;
-  const std::optional<std::string> found = systemFiles().readWhole(currentFileName());
-  return found && hashOf(*found) != knownContent().hash && *found != ownBytes;
+bool isForeign(std::string_view found, std::string_view ownBytes) {
+  return knownContent().path == currentFileName() && hashOf(found) != knownContent().hash &&
+         found != ownBytes;
 }
 
 enum class ForeignChanges { keep, replace };
 enum class Saving { done, failed, wouldLoseForeignChanges };
 
+/// Keeps what the save replaces. On a disk too full for both the save comes first.
+bool saveAndKeepOld(const std::optional<std::string>& old, std::string_view bytes) {
+  FileSystem& files = sessionFiles();
+  const std::string& path = currentFileName();
+  const bool isKept = isKeepingWork() && old && *old != bytes &&
+                      keepEarlierSave(files, path, *old, false) == Keeping::kept;
+  if (saveSafely(files, path, bytes)) return true;
+  if (!isKept) return false;
+  forgetNewestSave(files, path);
+  return saveSafely(files, path, bytes);
+}
+
 Saving save(std::string_view bytes, ForeignChanges foreignChanges) {
   // No other copy of the program may save between the look at the file and its replacement.
-  const auto lock = systemFiles().lockForSaving(currentFileName());
-  if (foreignChanges == ForeignChanges::keep && holdsForeignChanges(bytes)) {
+  const auto lock = sessionFiles().lockForSaving(currentFileName());
+  const std::optional<std::string> old = sessionFiles().readWhole(currentFileName());
+  if (foreignChanges == ForeignChanges::keep && old && isForeign(*old, bytes)) {
     return Saving::wouldLoseForeignChanges;
   }
-  if (!saveSafely(systemFiles(), currentFileName(), bytes)) return Saving::failed;
+  if (!saveAndKeepOld(old, bytes)) return Saving::failed;
   knownContent() = {currentFileName(), hashOf(bytes)};
+  contestHasFile(currentFileName(), bytes);
+  if (isKeepingWork()) tidyEarlierSaves(sessionFiles(), currentFileName(), savedState().hash);
   return Saving::done;
 }
 
@@ -85,10 +102,11 @@ void saveToCurrentFile(Window& owner, ForeignChanges foreignChanges) {
   const std::string bytes = writeContest(currentContest());
   Saving saving = save(bytes, foreignChanges);
   if (saving == Saving::wouldLoseForeignChanges) {
-    if (!agreesToReplaceForeignChanges(owner)) return;
+    if (!agreesToReplaceForeignChanges(owner)) return contestWasNotSaved(NotSaved::cancelled);
     saving = save(bytes, ForeignChanges::replace);
   }
   if (saving == Saving::failed) {
+    contestWasNotSaved(NotSaved::failed);
     owner.show(kNotSaved, "File Save Error");
     return;
   }
@@ -114,6 +132,7 @@ void showFault(Window& owner, ContestFault fault, const std::string& path) {
 }  // namespace
 
 void startNewContest() {
+  leaveContest();
   currentContest() = newContest();
   currentFileName().clear();
   reportText() = kWelcomeText;
@@ -121,17 +140,20 @@ void startNewContest() {
 
 bool openContest(Window& owner, const std::string& path) {
   std::variant<LoadedContest, ContestFault> loading = ContestFault::unreadable;
-  if (path.size() <= kMaxPathLength) loading = loadContestFile(systemFiles(), path);
+  if (path.size() <= kMaxPathLength) loading = loadContestFile(sessionFiles(), path);
   if (const auto* fault = std::get_if<ContestFault>(&loading)) {
     startNewContest();
     showFault(owner, *fault, path);
     return false;
   }
+  leaveContest();
   auto& loaded = std::get<LoadedContest>(loading);
   currentContest() = std::move(loaded.contest);
   currentFileName() = path;
   knownContent() = {path, hashOf(loaded.bytes)};
-  reportText().clear();
+  contestHasFile(path, loaded.bytes);
+  if (isKeepingWork()) followRenamedContest(sessionFiles(), path, savedState().hash);
+  reportText() = offerRecovery(owner).value_or(kWelcomeText);
   return true;
 }
 
@@ -155,7 +177,7 @@ void saveContestAs(Window& owner) {
   // Odd but required, docs/required-behaviour.md: save-as-forgets-the-name
   currentFileName().clear();
   auto path = owner.chooseFile(contestFileQuestion(FileQuestion::Purpose::save));
-  if (!path) return;
+  if (!path) return contestWasNotSaved(NotSaved::cancelled);
   currentFileName() = std::move(*path);
   // Choosing the name was the consent to replace what is there.
   saveToCurrentFile(owner, ForeignChanges::replace);

@@ -46,7 +46,7 @@ TEST_F(ContestCommands, LoadsTheFileThatIsChosen) {
   EXPECT_TRUE(openChosenContest(window));
   EXPECT_EQ(writeContest(currentContest()), smallFile());
   EXPECT_EQ(currentFileName(), path);
-  EXPECT_EQ(reportText(), "");
+  EXPECT_EQ(reportText(), kWelcomeText);
   const FileQuestion& question = window.desktop.fileQuestions.at(0);
   EXPECT_EQ(question.purpose, FileQuestion::Purpose::open);
   EXPECT_TRUE(question.fileMustExist);

@@ -15,6 +15,8 @@ class MemoryFiles : public FileSystem {
   struct File {
     std::string content;
     bool isFlushed = true;
+    std::string onMedium{};  ///< what a power cut leaves for sure
+    std::int64_t changed = 0;
   };
   std::map<std::string, File> files;
 
@@ -32,6 +34,28 @@ class MemoryFiles : public FileSystem {
   bool replacedUnflushed = false;  ///< a file was put in place before the medium held it
   bool writtenOver = false;        ///< bytes of a file that was there before were written over
   int pausedFor = 0;               ///< milliseconds
+
+  std::string readOnlyPath;  ///< what begins so can only be read
+  struct PowerCut {};
+  int cutAtCall = 0;  ///< the operation at which a PowerCut is thrown, half done; 0 for none
+  std::int64_t clock = 1'000'000 * kTicksPerSecond;
+  std::string localData = "local";
+
+  /// What the disk holds after a power cut: of what was not flushed the first `torn` bytes. False
+  /// when no file has that many: all cases were seen.
+  bool losePower(std::size_t torn) {
+    bool isTorn = torn == 0;
+    claims_.clear();
+    for (auto& [path, file] : files) {
+      const std::size_t safe = std::min(file.onMedium.size(), file.content.size());
+      isTorn = isTorn || file.content.size() - safe >= torn;
+      if (file.content.size() > safe)
+        file.content.resize(std::min(file.content.size(), safe + torn));
+      file = {file.content, true, file.content, file.changed};
+    }
+    cutAtCall = 0;
+    return isTorn;
+  }
 
   std::unique_ptr<InputFile> openToRead(const std::string& path) override {
     if (fails() || !files.contains(path)) return nullptr;
@@ -52,7 +76,7 @@ class MemoryFiles : public FileSystem {
     return {FileOutcome::done, std::make_unique<Output>(*this, files[path], true)};
   }
   Opened openExisting(const std::string& path) override {
-    if (fails() || !files.contains(path)) return {failure, nullptr};
+    if (fails() || !files.contains(path) || isReadOnly(path)) return {failure, nullptr};
     return {FileOutcome::done, std::make_unique<Output>(*this, files[path], false)};
   }
   FileOutcome replace(const std::string& from, const std::string& to) override {
@@ -71,6 +95,38 @@ class MemoryFiles : public FileSystem {
   }
   void pause(int milliseconds) override { pausedFor += milliseconds; }
   std::shared_ptr<void> lockForSaving(const std::string& /*path*/) override { return nullptr; }
+  Opened openToAppend(const std::string& path) override {
+    if (fails() || isProtected(path)) return {failure, nullptr};
+    File& file = files[path];
+    return {FileOutcome::done, std::make_unique<Output>(*this, file, true, file.content.size())};
+  }
+  std::vector<ListedFile> list(const std::string& folder) override {
+    std::vector<ListedFile> found;
+    if (fails()) return found;
+    for (const auto& [path, file] : files) {
+      if (!path.starts_with(folder + "/")) continue;
+      const std::string name =
+          path.substr(folder.size() + 1, path.find('/', folder.size() + 1) - folder.size() - 1);
+      const bool isFolder = folder.size() + 1 + name.size() < path.size();
+      if (!found.empty() && found.back().name == name) continue;
+      found.push_back({name, isFolder, file.content.size(), file.changed});
+    }
+    return found;
+  }
+  bool makeFolders(const std::string& folder) override { return !fails() && !isProtected(folder); }
+  std::string localDataFolder() override { return localData; }
+  std::optional<std::int64_t> lastChange(const std::string& path) override {
+    if (fails() || !files.contains(path)) return std::nullopt;
+    return files[path].changed;
+  }
+  std::int64_t now() override { return clock; }
+  Claim claim(const std::string& path) override {
+    if (fails() || isProtected(path)) return {failure, nullptr};
+    if (!claims_[path].expired()) return {FileOutcome::denied, nullptr};
+    auto hold = std::make_shared<int>();
+    claims_[path] = hold;
+    return {FileOutcome::done, hold};
+  }
 
  private:
   // Returns fewer bytes than there is room for.
@@ -96,9 +152,13 @@ class MemoryFiles : public FileSystem {
 
   class Output final : public OutputFile {
    public:
-    Output(MemoryFiles& disk, File& file, bool isNew) : disk_(disk), file_(file), isNew_(isNew) {}
+    Output(MemoryFiles& disk, File& file, bool isNew, std::size_t position = 0)
+        : disk_(disk), file_(file), isNew_(isNew), position_(position) {}
     ~Output() override {
-      if (isOpen_) static_cast<void>(close());
+      if (!isOpen_) return;
+      // Nothing is thrown from here; a cut is the same before the next operation.
+      if (disk_.cutAtCall == disk_.calls + 1) ++disk_.cutAtCall;
+      static_cast<void>(close());
     }
 
     bool write(std::string_view bytes) override {
@@ -108,6 +168,7 @@ class MemoryFiles : public FileSystem {
           std::min(wanted, file_.content.size() + disk_.freeRoom() - position_);
       file_.content.replace(position_, taken, bytes.substr(0, taken));
       file_.isFlushed = false;
+      file_.changed = disk_.clock;
       position_ += taken;
       disk_.writtenOver = disk_.writtenOver || !isNew_;
       return taken == bytes.size();
@@ -120,7 +181,11 @@ class MemoryFiles : public FileSystem {
       file_.isFlushed = false;
       return done;
     }
-    bool flush() override { return file_.isFlushed = !disk_.fails(); }
+    bool flush() override {
+      if (disk_.fails()) return file_.isFlushed = false;
+      file_.onMedium = file_.content;
+      return file_.isFlushed = true;
+    }
     // One that fails loses what was written last.
     bool close() override {
       isOpen_ = false;
@@ -133,16 +198,20 @@ class MemoryFiles : public FileSystem {
     MemoryFiles& disk_;
     File& file_;
     bool isNew_;
+    std::size_t position_;
     bool isOpen_ = true;
-    std::size_t position_ = 0;
   };
 
+  [[nodiscard]] bool isReadOnly(const std::string& path) const {
+    return !readOnlyPath.empty() && path.starts_with(readOnlyPath);
+  }
   [[nodiscard]] bool isProtected(const std::string& path) const {
-    return folderIsProtected && !path.starts_with("temporary/");
+    return isReadOnly(path) || (folderIsProtected && !path.starts_with("temporary/"));
   }
   /// Counts one more operation; whether it is to fail.
   bool fails() {
     ++calls;
+    if (calls == cutAtCall) throw PowerCut();
     return failingCall != 0 && (calls == failingCall || (stayBroken && calls > failingCall));
   }
   [[nodiscard]] std::size_t freeRoom() const {
@@ -150,6 +219,8 @@ class MemoryFiles : public FileSystem {
     for (const auto& [path, file] : files) used += file.content.size();
     return room - used;
   }
+
+  std::map<std::string, std::weak_ptr<void>> claims_;
 };
 
 }  // namespace scorvane
