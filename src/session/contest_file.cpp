@@ -8,7 +8,10 @@
 
 #include "model/contest.h"
 #include "model/new_contest.h"
+#include "session/earlier_saves.h"
 #include "session/open_contest.h"
+#include "session/recovery.h"
+#include "session/recovery_offer.h"
 #include "storage/contest_reader.h"
 #include "storage/contest_writer.h"
 #include "storage/file.h"
@@ -52,23 +55,37 @@ std::size_t hashOf(std::string_view bytes) {
 
 /// Whether saving would take away what somebody else has put into the current file meanwhile, such
 /// as a second copy of the program with the same contest.
-bool holdsForeignChanges(std::string_view ownBytes) {
-  if (knownContent().path != currentFileName()) return false;
-  const std::optional<std::string> found = systemFiles().readWhole(currentFileName());
-  return found && hashOf(*found) != knownContent().hash && *found != ownBytes;
+bool isForeign(std::string_view found, std::string_view ownBytes) {
+  return knownContent().path == currentFileName() && hashOf(found) != knownContent().hash &&
+         found != ownBytes;
 }
 
 enum class ForeignChanges { keep, replace };
 enum class Saving { done, failed, wouldLoseForeignChanges };
 
+/// Keeps what the save replaces. On a disk too full for both the save comes first.
+bool saveAndKeepOld(const std::optional<std::string>& old, std::string_view bytes) {
+  FileSystem& files = sessionFiles();
+  const std::string& path = currentFileName();
+  const bool isKept = isKeepingWork() && old && *old != bytes &&
+                      keepEarlierSave(files, path, *old, false) == Keeping::kept;
+  if (saveSafely(files, path, bytes)) return true;
+  if (!isKept) return false;
+  forgetNewestSave(files, path);
+  return saveSafely(files, path, bytes);
+}
+
 // No other copy of the program can save between the look at the file and its replacement.
 Saving save(std::string_view bytes, ForeignChanges foreignChanges) {
-  const auto turn = systemFiles().lockForSaving(currentFileName());
-  if (foreignChanges == ForeignChanges::keep && holdsForeignChanges(bytes)) {
+  const auto turn = sessionFiles().lockForSaving(currentFileName());
+  const std::optional<std::string> old = sessionFiles().readWhole(currentFileName());
+  if (foreignChanges == ForeignChanges::keep && old && isForeign(*old, bytes)) {
     return Saving::wouldLoseForeignChanges;
   }
-  if (!saveSafely(systemFiles(), currentFileName(), bytes)) return Saving::failed;
+  if (!saveAndKeepOld(old, bytes)) return Saving::failed;
   knownContent() = {currentFileName(), hashOf(bytes)};
+  contestHasFile(currentFileName(), bytes);
+  if (isKeepingWork()) tidyEarlierSaves(sessionFiles(), currentFileName(), savedState().hash);
   return Saving::done;
 }
 
@@ -141,6 +158,7 @@ void saveContest(Window& owner, bool askForName) {
     saving = save(bytes, ForeignChanges::replace);
   }
   if (saving == Saving::failed) {
+    contestWasNotSaved();
     owner.show(kNotSaved, "File Save Error");
     return;
   }
@@ -153,10 +171,11 @@ void saveCurrent(Window& owner) {
 }
 
 bool loadContest(Window& owner, bool useGivenPath) {
+  leaveContest();
   if (!useGivenPath && !chooseFileToOpen(owner)) return false;
   reportText() = kWelcomeText;
   const bool isUsableName = currentFileName().size() <= kMaxPathLength;
-  const auto bytes = isUsableName ? systemFiles().readWhole(currentFileName()) : std::nullopt;
+  const auto bytes = isUsableName ? sessionFiles().readWhole(currentFileName()) : std::nullopt;
   if (!bytes) {
     refuseMissingFile(owner);
     return false;
@@ -169,6 +188,9 @@ bool loadContest(Window& owner, bool useGivenPath) {
   }
   currentContest() = std::get<Contest>(std::move(reading));
   knownContent() = {currentFileName(), hashOf(*bytes)};
+  contestHasFile(currentFileName(), *bytes);
+  if (isKeepingWork()) followRenamedContest(sessionFiles(), currentFileName(), savedState().hash);
+  reportText() = offerRecovery(owner).value_or(kWelcomeText);
   return true;
 }
 

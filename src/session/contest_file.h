@@ -23,9 +23,10 @@ void saveContest(Window& owner, bool askForName);
 void saveCurrent(Window& owner);
 
 /// Reads a file into the current contest: the one named by currentFileName() with `useGivenPath`,
-/// otherwise one that the operator chooses. False on any failure, and when cancelled; a message
-/// has then been shown (not for a cancelled choice), and the contest is a new one without a file
-/// name.
+/// otherwise one that the operator chooses. Unsaved work that was kept of it is offered then; the
+/// report text tells what came back, or is the welcome. False on any failure, and when cancelled; a
+/// message has then been shown (not for a cancelled choice), and the contest is a new one without a
+/// file name.
 bool loadContest(Window& owner, bool useGivenPath);
 
 }  // namespace scorvane

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace scorvane {
 
@@ -59,6 +60,17 @@ class OutputFile {
   [[nodiscard]] virtual bool close() = 0;
 };
 
+/// Times of the clock and of files count in units of 100 nanoseconds from the start of 1970 (UTC).
+inline constexpr std::int64_t kTicksPerSecond = 10'000'000;
+
+/// One line of a folder's list.
+struct ListedFile {
+  std::string name;
+  bool isFolder = false;
+  std::uint64_t size = 0;
+  std::int64_t changed = 0;  ///< when it was last written to
+};
+
 /// Paths are 8-bit text as the operator's system understands it, at most kMaxPathLength bytes.
 class FileSystem {
  public:
@@ -105,6 +117,27 @@ class FileSystem {
   /// the result is destroyed. Waits for five seconds at most: a turn that cannot be had is no
   /// reason not to save.
   [[nodiscard]] virtual std::shared_ptr<void> lockForSaving(const std::string& path) = 0;
+
+  /// Opens a file for writing behind its content; makes it when there is none.
+  [[nodiscard]] virtual Opened openToAppend(const std::string& path) = 0;
+  /// What a folder holds, by name; nothing when it cannot be read or there is none.
+  [[nodiscard]] virtual std::vector<ListedFile> list(const std::string& folder) = 0;
+  /// Makes a folder and those it lies in, as far as they are missing.
+  [[nodiscard]] virtual bool makeFolders(const std::string& folder) = 0;
+  /// Where programs keep what belongs to the operator on this machine; empty when there is no such
+  /// folder.
+  [[nodiscard]] virtual std::string localDataFolder() = 0;
+  /// When a file was last written to; nothing when that cannot be told.
+  [[nodiscard]] virtual std::optional<std::int64_t> lastChange(const std::string& path) = 0;
+  [[nodiscard]] virtual std::int64_t now() = 0;
+
+  struct Claim {
+    FileOutcome outcome = FileOutcome::failed;  ///< `denied` while another program has it
+    std::shared_ptr<void> hold;                 ///< with `done` only; destroying it ends the claim
+  };
+  /// Claims a path for this program alone, by a file beside it. The claim ends with the program at
+  /// the latest, in whatever way that ends.
+  [[nodiscard]] virtual Claim claim(const std::string& path) = 0;
 };
 
 /// Larger files are not read: no contest comes near, and a device without end must not hang.

@@ -141,6 +141,25 @@ std::optional<std::string> linkTarget(const std::string& path) {
   return target.starts_with('/') ? target : folderOf(path) + "/" + target;
 }
 
+std::int64_t ticksOf(const struct timespec& time) {
+  return std::int64_t{time.tv_sec} * kTicksPerSecond + time.tv_nsec / 100;
+}
+
+/// A file locked for as long as this lives; its name goes first, so that nobody locks a file
+/// without one.
+struct ClaimLock {
+  ClaimLock(int number, std::string path) : file(number), name(std::move(path)) {}
+  ClaimLock(const ClaimLock&) = delete;
+  ClaimLock& operator=(const ClaimLock&) = delete;
+  ~ClaimLock() {
+    if (isHeld) ::unlink(name.c_str());
+  }
+
+  Descriptor file;
+  std::string name;
+  bool isHeld = false;
+};
+
 /// A folder that may be locked. It is unlocked before it is closed, as it is left open to the
 /// system whether closing that fails closes.
 struct SaveLock {
@@ -233,6 +252,70 @@ class PosixFileSystem : public FileSystem {
       pause(10);
     }
     return lock;
+  }
+
+  Opened openToAppend(const std::string& path) override {
+    return opened(::open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666));
+  }
+
+  std::vector<ListedFile> list(const std::string& folder) override {
+    std::vector<ListedFile> files;
+    std::error_code error;
+    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+      struct stat status {};
+      if (::stat(entry->path().c_str(), &status) != 0) continue;
+      files.push_back({entry->path().filename().string(), S_ISDIR(status.st_mode),
+                       static_cast<std::uint64_t>(status.st_size), ticksOf(status.st_mtim)});
+    }
+    std::sort(files.begin(), files.end(),
+              [](const ListedFile& a, const ListedFile& b) { return a.name < b.name; });
+    return files;
+  }
+
+  bool makeFolders(const std::string& folder) override {
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    return std::filesystem::is_directory(folder, error);
+  }
+
+  std::string localDataFolder() override {
+    if (const char* folder = std::getenv("XDG_DATA_HOME"); folder != nullptr && *folder == '/') {
+      return folder;
+    }
+    const char* home = std::getenv("HOME");
+    return home == nullptr || *home == '\0' ? "" : std::string(home) + "/.local/share";
+  }
+
+  std::optional<std::int64_t> lastChange(const std::string& path) override {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0) return std::nullopt;
+    return ticksOf(status.st_mtim);
+  }
+
+  std::int64_t now() override {
+    struct timespec time {};
+    ::clock_gettime(CLOCK_REALTIME, &time);
+    return ticksOf(time);
+  }
+
+  Claim claim(const std::string& path) override {
+    const std::string name = path + ".lock";
+    auto lock = std::make_shared<ClaimLock>(
+        ::open(name.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666), name);
+    if (!lock->file.isOpen()) return {};
+    if (::flock(lock->file.number(), LOCK_EX | LOCK_NB) != 0) {
+      return {errno == EWOULDBLOCK ? FileOutcome::denied : FileOutcome::failed, nullptr};
+    }
+    // Whoever had it before may have taken the name away meanwhile.
+    struct stat held {};
+    struct stat named {};
+    if (::fstat(lock->file.number(), &held) != 0 || ::stat(name.c_str(), &named) != 0 ||
+        held.st_ino != named.st_ino) {
+      return {FileOutcome::denied, nullptr};
+    }
+    lock->isHeld = true;
+    return {FileOutcome::done, std::move(lock)};
   }
 };
 

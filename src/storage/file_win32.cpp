@@ -1,4 +1,6 @@
 #include <windows.h>
+// The shell needs windows.h before it.
+#include <shlobj.h>
 
 #include <algorithm>
 #include <array>
@@ -149,12 +151,15 @@ class WindowsOutputFile : public OutputFile {
   Handle handle_;
 };
 
-FileSystem::Opened openForWriting(const std::string& path, DWORD disposition) {
+FileSystem::Opened openForWriting(const std::string& path, DWORD disposition,
+                                  DWORD start = FILE_BEGIN) {
   // No one else may write meanwhile; readers see whole content, as they open after the renaming.
   const HANDLE handle = CreateFileW(systemPath(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ,
                                     nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
   if (handle == INVALID_HANDLE_VALUE) return {outcomeOf(GetLastError()), nullptr};
-  return {FileOutcome::done, std::make_unique<WindowsOutputFile>(handle)};
+  auto file = std::make_unique<WindowsOutputFile>(handle);
+  if (SetFilePointerEx(handle, {}, nullptr, start) == 0) return {};
+  return {FileOutcome::done, std::move(file)};
 }
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
@@ -180,6 +185,22 @@ void passOnRights(const std::wstring& from, const std::wstring& to) {
   if ((old.dwFileAttributes & kPassedOn) != 0) {
     SetFileAttributesW(from.c_str(), (old.dwFileAttributes & kPassedOn) | FILE_ATTRIBUTE_ARCHIVE);
   }
+}
+
+std::int64_t ticksOf(const FILETIME& time) {
+  constexpr std::int64_t kStartOf1970 = 116'444'736'000'000'000;
+  return ((std::int64_t{time.dwHighDateTime} << 32) | time.dwLowDateTime) - kStartOf1970;
+}
+
+/// The folder's name in 8-bit text, if need be as it was in the days of eight letters.
+std::string spelled(const std::wstring& folder) {
+  const std::string path = narrow(folder);
+  if (wide(path) == folder) return path;
+  std::wstring brief(MAX_PATH, L'\0');
+  brief.resize(std::min<std::size_t>(
+      GetShortPathNameW(folder.c_str(), brief.data(), static_cast<DWORD>(brief.size())),
+      brief.size()));
+  return narrow(brief);
 }
 
 class WindowsFileSystem : public FileSystem {
@@ -266,6 +287,74 @@ class WindowsFileSystem : public FileSystem {
     });
     WaitForSingleObject(lock.get(), kPatience);
     return lock;
+  }
+
+  Opened openToAppend(const std::string& path) override {
+    return openForWriting(path, OPEN_ALWAYS, FILE_END);
+  }
+
+  std::vector<ListedFile> list(const std::string& folder) override {
+    std::vector<ListedFile> files;
+    WIN32_FIND_DATAW entry;
+    const HANDLE search = FindFirstFileW((systemPath(folder) + L"\\*").c_str(), &entry);
+    if (search == INVALID_HANDLE_VALUE) return files;
+    do {
+      const std::wstring name = entry.cFileName;
+      if (name == L"." || name == L"..") continue;
+      files.push_back({narrow(name), (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
+                       (std::uint64_t{entry.nFileSizeHigh} << 32) | entry.nFileSizeLow,
+                       ticksOf(entry.ftLastWriteTime)});
+    } while (FindNextFileW(search, &entry) != 0);
+    FindClose(search);
+    std::sort(files.begin(), files.end(),
+              [](const ListedFile& a, const ListedFile& b) { return a.name < b.name; });
+    return files;
+  }
+
+  bool makeFolders(const std::string& folder) override {
+    const std::wstring full = systemPath(folder);
+    for (std::size_t end = full.find(L'\\'); end != std::wstring::npos;
+         end = full.find(L'\\', end + 1)) {
+      CreateDirectoryW(full.substr(0, end).c_str(), nullptr);
+    }
+    CreateDirectoryW(full.c_str(), nullptr);
+    const DWORD attributes = GetFileAttributesW(full.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+  }
+
+  // The environment is asked first: the shell's library takes long to load.
+  std::string localDataFolder() override {
+    std::array<wchar_t, MAX_PATH> folder{};
+    const DWORD length =
+        GetEnvironmentVariableW(L"LOCALAPPDATA", folder.data(), static_cast<DWORD>(folder.size()));
+    if (length > 0 && length < folder.size()) return spelled(folder.data());
+    if (SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, 0, folder.data()) != S_OK) {
+      return {};
+    }
+    return spelled(folder.data());
+  }
+
+  std::optional<std::int64_t> lastChange(const std::string& path) override {
+    WIN32_FILE_ATTRIBUTE_DATA facts;
+    if (GetFileAttributesExW(systemPath(path).c_str(), GetFileExInfoStandard, &facts) == 0) {
+      return std::nullopt;
+    }
+    return ticksOf(facts.ftLastWriteTime);
+  }
+
+  std::int64_t now() override {
+    FILETIME time;
+    GetSystemTimeAsFileTime(&time);
+    return ticksOf(time);
+  }
+
+  // Windows closes the file of a killed program, and removes it then.
+  Claim claim(const std::string& path) override {
+    auto file = std::make_shared<Handle>(
+        CreateFileW(systemPath(path + ".lock").c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+                    FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE, nullptr));
+    if (file->isOpen()) return {FileOutcome::done, std::move(file)};
+    return {outcomeOf(GetLastError()), nullptr};
   }
 };
 

@@ -15,6 +15,8 @@ class MemoryFiles : public FileSystem {
   struct File {
     std::string content;
     bool isFlushed = true;
+    std::string onMedium{};  ///< what a power cut leaves for sure
+    std::int64_t changed = 0;
   };
   std::map<std::string, File> files;
 
@@ -30,6 +32,27 @@ class MemoryFiles : public FileSystem {
   int calls = 0;
   bool replacedUnflushed = false;  ///< a file was put in place before the medium held it
   bool writtenOver = false;        ///< bytes of a file that was there before were written over
+
+  struct PowerCut {};
+  int cutAtCall = 0;  ///< the operation at which a PowerCut is thrown, half done; 0 for none
+  std::int64_t clock = 1'000'000 * kTicksPerSecond;
+  std::string localData = "local";
+
+  /// What the disk holds after a power cut: of what was not flushed the first `torn` bytes. False
+  /// when no file has that many: all cases were seen.
+  bool losePower(std::size_t torn) {
+    bool isTorn = torn == 0;
+    claims_.clear();
+    for (auto& [path, file] : files) {
+      const std::size_t safe = std::min(file.onMedium.size(), file.content.size());
+      isTorn = isTorn || file.content.size() - safe >= torn;
+      if (file.content.size() > safe)
+        file.content.resize(std::min(file.content.size(), safe + torn));
+      file = {file.content, true, file.content, file.changed};
+    }
+    cutAtCall = 0;
+    return isTorn;
+  }
 
   std::unique_ptr<InputFile> openToRead(const std::string& path) override {
     if (fails() || !files.contains(path)) return nullptr;
@@ -69,6 +92,38 @@ class MemoryFiles : public FileSystem {
   }
   void pause(int /*milliseconds*/) override {}
   std::shared_ptr<void> lockForSaving(const std::string& /*path*/) override { return nullptr; }
+  Opened openToAppend(const std::string& path) override {
+    if (fails() || isProtected(path)) return {failure, nullptr};
+    File& file = files[path];
+    return {FileOutcome::done, std::make_unique<Output>(*this, file, true, file.content.size())};
+  }
+  std::vector<ListedFile> list(const std::string& folder) override {
+    std::vector<ListedFile> found;
+    if (fails()) return found;
+    for (const auto& [path, file] : files) {
+      if (!path.starts_with(folder + "/")) continue;
+      const std::string name =
+          path.substr(folder.size() + 1, path.find('/', folder.size() + 1) - folder.size() - 1);
+      const bool isFolder = folder.size() + 1 + name.size() < path.size();
+      if (!found.empty() && found.back().name == name) continue;
+      found.push_back({name, isFolder, file.content.size(), file.changed});
+    }
+    return found;
+  }
+  bool makeFolders(const std::string& folder) override { return !fails() && !isProtected(folder); }
+  std::string localDataFolder() override { return localData; }
+  std::optional<std::int64_t> lastChange(const std::string& path) override {
+    if (fails() || !files.contains(path)) return std::nullopt;
+    return files[path].changed;
+  }
+  std::int64_t now() override { return clock; }
+  Claim claim(const std::string& path) override {
+    if (fails() || isProtected(path)) return {failure, nullptr};
+    if (!claims_[path].expired()) return {FileOutcome::denied, nullptr};
+    auto hold = std::make_shared<int>();
+    claims_[path] = hold;
+    return {FileOutcome::done, hold};
+  }
 
  private:
   // Gives few bytes at a time and never the same number, so that a read ends anywhere in a line.
@@ -94,7 +149,8 @@ class MemoryFiles : public FileSystem {
 
   class Output final : public OutputFile {
    public:
-    Output(MemoryFiles& disk, File& file, bool isNew) : disk_(disk), file_(file), isNew_(isNew) {}
+    Output(MemoryFiles& disk, File& file, bool isNew, std::size_t position = 0)
+        : disk_(disk), file_(file), isNew_(isNew), position_(position) {}
     ~Output() override {
       if (isOpen_) static_cast<void>(close());
     }
@@ -106,6 +162,7 @@ class MemoryFiles : public FileSystem {
           std::min(wanted, file_.content.size() + disk_.freeRoom() - position_);
       file_.content.replace(position_, taken, bytes.substr(0, taken));
       file_.isFlushed = false;
+      file_.changed = disk_.clock;
       position_ += taken;
       disk_.writtenOver = disk_.writtenOver || !isNew_;
       return taken == bytes.size();
@@ -118,7 +175,11 @@ class MemoryFiles : public FileSystem {
       file_.isFlushed = false;
       return done;
     }
-    bool flush() override { return file_.isFlushed = !disk_.fails(); }
+    bool flush() override {
+      if (disk_.fails()) return file_.isFlushed = false;
+      file_.onMedium = file_.content;
+      return file_.isFlushed = true;
+    }
     // One that fails loses what was written last.
     bool close() override {
       isOpen_ = false;
@@ -131,8 +192,8 @@ class MemoryFiles : public FileSystem {
     MemoryFiles& disk_;
     File& file_;
     bool isNew_;
+    std::size_t position_;
     bool isOpen_ = true;
-    std::size_t position_ = 0;
   };
 
   [[nodiscard]] bool isProtected(const std::string& path) const {
@@ -141,6 +202,7 @@ class MemoryFiles : public FileSystem {
   /// Counts one more operation; whether it is to fail.
   bool fails() {
     ++calls;
+    if (calls == cutAtCall) throw PowerCut();
     return failingCall != 0 && (calls == failingCall || (stayBroken && calls > failingCall));
   }
   [[nodiscard]] std::size_t freeRoom() const {
@@ -148,6 +210,8 @@ class MemoryFiles : public FileSystem {
     for (const auto& [path, file] : files) used += file.content.size();
     return room - used;
   }
+
+  std::map<std::string, std::weak_ptr<void>> claims_;
 };
 
 }  // namespace scorvane

@@ -33,7 +33,7 @@ constexpr void (*kMoods[])(MemoryFiles&) = {
 void expectNothingLost(MemoryFiles& disk, bool saved, const std::string& bytes) {
   EXPECT_FALSE(disk.replacedUnflushed);
   EXPECT_TRUE(saved || disk.calls >= disk.failingCall);
-  const auto& [content, isFlushed] = disk.files["a.scv"];
+  const auto& [content, isFlushed, onMedium, changed] = disk.files["a.scv"];
   if (saved) {
     EXPECT_EQ(content, bytes);
     EXPECT_TRUE(isFlushed);

@@ -1,0 +1,54 @@
+// Keeping unsaved work safe. While the open contest differs from its file, a recovery copy of it
+// stands in the operator's folder for application data: from there it comes back after the program
+// was ended, whatever ended it.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "model/contest.h"
+#include "session/recovery_copy.h"
+#include "storage/file.h"
+#include "ui/window.h"
+
+namespace scorvane {
+
+/// Starts to keep the work on the current contest, which is new. Work that was left of contests
+/// without a file goes to the earlier saves. Without this call nothing is kept, as in the programs
+/// that have no window.
+void startKeepingWork(FileSystem& files);
+/// Forgets everything but what the disk holds, as the end of the program does.
+void stopKeepingWork();
+/// The files that the session works with: the machine's, unless others are in use.
+[[nodiscard]] FileSystem& sessionFiles();
+[[nodiscard]] bool isKeepingWork();
+
+/// To be called when a score of the current contest was stored, before it is shown as the last one:
+/// the medium has it then. What this costs does not grow with the contest, but for the first score
+/// after a save.
+void scoreStored(ContestantNumber number, std::int32_t classIndex);
+/// To be called when anything else may have been stored. The whole contest is kept when it has
+/// changed; a copy that is the same as the contest's file goes.
+void contestChanged();
+/// Says, once, that work could not be kept. To be called when a dialog has closed.
+void sayIfWorkIsNotKept(Window& owner);
+
+// What opening and saving tell.
+
+/// The contest was read from, or saved to, a file.
+void contestHasFile(const std::string& path, std::string_view bytes);
+/// Saving failed: what is kept of the contest stays when it is left.
+void contestWasNotSaved();
+/// The contest is left, for a new or another one or by an orderly end. Work that the operator chose
+/// not to save goes to the earlier saves.
+void leaveContest();
+
+/// Goes on with a copy that was found: it goes when the contest is saved.
+void adoptCopy(const std::string& path, std::shared_ptr<void> claim);
+/// The state of the contest's file that the current contest grew from.
+[[nodiscard]] const FileState& savedState();
+
+}  // namespace scorvane

@@ -1,0 +1,204 @@
+#include "session/recovery_offer.h"
+
+#include <algorithm>
+#include <array>
+#include <ctime>
+#include <set>
+#include <utility>
+#include <vector>
+
+#include "session/contest_file.h"
+#include "session/data_folder.h"
+#include "session/earlier_saves.h"
+#include "session/open_contest.h"
+#include "session/recovery.h"
+#include "session/recovery_copy.h"
+#include "storage/contest_writer.h"
+#include "text/format.h"
+
+namespace scorvane {
+
+namespace {
+
+/// A copy that no running program uses.
+struct FoundCopy {
+  FoundCopy(FileSystem& files, std::string path_, std::int64_t changed_)
+      : path(std::move(path_)), changed(changed_) {
+    claim = files.claim(path).hold;
+    if (claim != nullptr) bytes = files.readWhole(path);
+    if (bytes) copy = readRecoveryCopy(*bytes);
+  }
+  FoundCopy(const FoundCopy&) = delete;
+  FoundCopy& operator=(const FoundCopy&) = delete;
+  ~FoundCopy() = default;
+
+  std::string path;
+  std::int64_t changed;
+  std::shared_ptr<void> claim;
+  std::optional<std::string> bytes;  ///< nothing when it is in use or cannot be read
+  RecoveryCopy copy;
+};
+
+/// The copies' files, the one last written to first.
+std::vector<ListedFile> listedCopies(FileSystem& files) {
+  std::vector<ListedFile> copies = files.list(recoveryFolder(files));
+  std::erase_if(copies, [](const ListedFile& file) { return !file.name.ends_with(".scv"); });
+  std::stable_sort(copies.begin(), copies.end(),
+                   [](const ListedFile& a, const ListedFile& b) { return a.changed > b.changed; });
+  return copies;
+}
+
+void moveToEarlierSaves(FileSystem& files, const FoundCopy& found, const std::string& contestPath) {
+  const auto contest = recoveredContest(found.copy);
+  const std::string bytes = contest ? writeContest(*contest) : *found.bytes;
+  if (keepEarlierSave(files, contestPath, bytes, true, found.changed) == Keeping::failed) return;
+  files.remove(found.path);
+}
+
+/// What a copy would change in the contest of the file.
+struct RecoveredWork {
+  std::vector<TypedScore> scores;  ///< in the order of typing, as far as that is known
+  bool hasOtherChanges = false;
+};
+
+RecoveredWork workIn(const Contest& file, const Contest& recovered, const RecoveryCopy& copy) {
+  RecoveredWork work;
+  std::set<std::pair<ContestantNumber, std::int32_t>> listed;
+  const auto list = [&](ContestantNumber number, std::int32_t classIndex) {
+    if (!recovered.contestantNames.contains(number)) return;
+    if (!listed.emplace(number, classIndex).second) return;
+    work.scores.push_back({number, classIndex, scoreRecord(recovered, number, classIndex)});
+  };
+  for (const TypedScore& score : copy.typed) list(score.number, score.classIndex);
+  if (file.classes.className == recovered.classes.className) {
+    for (const auto& [number, records] : recovered.scores) {
+      for (const auto& [classIndex, record] : records) {
+        if (record != scoreRecord(file, number, classIndex)) list(number, classIndex);
+      }
+    }
+  }
+  Contest withScores = file;
+  for (const TypedScore& score : work.scores) {
+    if (!file.contestantNames.contains(score.number)) continue;
+    withScores.scores[score.number][score.classIndex] = score.record;
+  }
+  work.hasOtherChanges = writeContest(withScores) != writeContest(recovered);
+  return work;
+}
+
+std::tm localTime(std::int64_t ticks) {
+  const auto seconds = static_cast<std::time_t>(ticks / kTicksPerSecond);
+  const std::tm* local = std::localtime(&seconds);
+  return local == nullptr ? std::tm{} : *local;
+}
+
+/// Such as "2:31 PM", with the date unless that is today's.
+std::string clockTime(std::int64_t ticks, std::int64_t now) {
+  const std::tm then = localTime(ticks);
+  const std::tm today = localTime(now);
+  const bool isToday = then.tm_yday == today.tm_yday && then.tm_year == today.tm_year;
+  std::array<char, 64> text{};
+  if (isToday) {
+    std::strftime(text.data(), text.size(), "%I:%M %p", &then);
+  } else {
+    std::strftime(text.data(), text.size(), "%I:%M %p on %B %d, %Y", &then);
+  }
+  return text.data() + (text[0] == '0' ? 1 : 0);
+}
+
+bool wantsBack(Window& owner, const RecoveredWork& work, const std::string& until) {
+  std::string what;
+  if (!work.scores.empty()) {
+    what = std::to_string(work.scores.size()) +
+           (work.scores.size() == 1 ? " score typed" : " scores typed");
+  }
+  if (work.hasOtherChanges)
+    what += what.empty() ? "Changes of the setup" : " and changes of the setup";
+  const bool isOne = work.scores.size() == 1 && !work.hasOtherChanges;
+  Message question{"Scorvane was ended before its last work on this contest was saved.\r\n\r\n" +
+                       what + " until " + until + (isOne ? " was" : " were") +
+                       " kept.\r\n\r\nWould you like to bring them back?",
+                   "Information", Buttons::yesNo, Answer::yes};
+  return owner.ask(question) == Answer::yes;
+}
+
+std::string scoreOrDashes(bool carried, std::int32_t score) {
+  return carried ? std::to_string(score) : "---";
+}
+
+std::string recoveredReport(const Contest& contest, const RecoveredWork& work) {
+  const JudgingClasses& classes = contest.classes;
+  std::string out = "Scores Brought Back\n\n";
+  if (work.hasOtherChanges) out += "Changes of the setup were brought back, too.\n";
+  out += "Please compare the scores below with the cards.\n\n";
+  appendFormat(out, "%-6s %-20s %-24s %-6s %-7s %-9s\n", "Number", "Name", "Class", "Letter",
+               "Reasons", "Questions");
+  out += std::string(77, '-') + "\n";
+  for (const TypedScore& score : work.scores) {
+    const std::int32_t k = score.classIndex;
+    appendFormat(out, "%6d %-20.20s %2d. %-20.20s   %c    %7s %9s\n", score.number,
+                 contestantName(contest, score.number).c_str(), k + 1, classes.name(k).c_str(),
+                 score.record.letter,
+                 scoreOrDashes(classes.hasReasons(k), score.record.reasonsScore).c_str(),
+                 scoreOrDashes(classes.hasQuestions(k), score.record.questionsScore).c_str());
+  }
+  return out;
+}
+
+std::optional<std::string> offer(Window& owner, const FoundCopy& found) {
+  FileSystem& files = sessionFiles();
+  const Contest file = currentContest();
+  const bool grewFromFile = found.copy.grewFrom && found.copy.grewFrom->isSameFile(savedState());
+  const auto recovered =
+      grewFromFile ? recoveredOver(file, found.copy) : recoveredContest(found.copy);
+  if (recovered && writeContest(*recovered) == writeContest(file)) {
+    files.remove(found.path);
+    return std::nullopt;
+  }
+  if (grewFromFile && recovered) {
+    const RecoveredWork work = workIn(file, *recovered, found.copy);
+    if (wantsBack(owner, work, clockTime(found.changed, files.now()))) {
+      if (!found.copy.baseIsWhole) {
+        keepEarlierSave(files, savedState().path, *found.bytes, true, found.changed);
+      }
+      currentContest() = *recovered;
+      adoptCopy(found.path, found.claim);
+      saveContest(owner, false);
+      return recoveredReport(*recovered, work);
+    }
+  }
+  moveToEarlierSaves(files, found, savedState().path);
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<std::string> offerRecovery(Window& owner) {
+  if (!isKeepingWork()) return std::nullopt;
+  FileSystem& files = sessionFiles();
+  const std::string key = contestKey(files, savedState().path);
+  const auto movedHere = [&files](const RecoveryCopy& copy) {
+    if (!copy.grewFrom || !copy.grewFrom->isSameFile(savedState())) return false;
+    const auto facts = files.facts(copy.grewFrom->path);
+    return !facts || !facts->exists;
+  };
+  for (const ListedFile& file : listedCopies(files)) {
+    const FoundCopy found(files, recoveryFolder(files) + "/" + file.name, file.changed);
+    if (!found.bytes || (!isCopyOf(file.name, key) && !movedHere(found.copy))) continue;
+    if (auto report = offer(owner, found)) return report;
+  }
+  return std::nullopt;
+}
+
+void keepUntitledRests(FileSystem& files) {
+  const std::string key = contestKey(files, "");
+  for (const ListedFile& file : listedCopies(files)) {
+    const FoundCopy found(files, recoveryFolder(files) + "/" + file.name, file.changed);
+    if (!found.bytes) continue;
+    const bool hasFile =
+        found.copy.grewFrom ? found.copy.grewFrom->exists : !isCopyOf(file.name, key);
+    if (!hasFile) moveToEarlierSaves(files, found, "");
+  }
+}
+
+}  // namespace scorvane
