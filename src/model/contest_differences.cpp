@@ -289,6 +289,12 @@ bool isEntered(ScoreValue value, const ScoreRecord& record) {
   return valueOf(value, record) != (value == ScoreValue::letter ? kNoLetter : 0);
 }
 
+std::string scoreText(ScoreValue value, const ScoreRecord& record) {
+  if (value == ScoreValue::letter) return letterText(record.letter);
+  const bool isShown = value == ScoreValue::placingScore || isEntered(value, record);
+  return isShown ? std::to_string(valueOf(value, record)) : "";
+}
+
 std::vector<ClassMatch> matchClasses(const JudgingClasses& here, const JudgingClasses& there) {
   std::map<std::string_view, std::vector<std::int32_t>> left;  // of each name, the first one last
   for (std::int32_t k = there.count() - 1; k >= 0; --k) left[there.name(k)].push_back(k);

@@ -52,6 +52,10 @@ enum class ScoreValue {
 /// Whether a record holds such a score: no blank letter, no 0.
 [[nodiscard]] bool isEntered(ScoreValue value, const ScoreRecord& record);
 
+/// A record's score of such a kind as it is shown: "D (1,3,4,2)" for a letter; "" when it is not
+/// entered.
+[[nodiscard]] std::string scoreText(ScoreValue value, const ScoreRecord& record);
+
 struct ScoreDifference {
   std::size_t classMatch = 0;  ///< position in ContestDifferences::classes
   ScoreValue value = ScoreValue::letter;
