@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstdlib>
 #include <utility>
 
 #include "session/data_folder.h"
@@ -197,7 +196,7 @@ std::vector<std::size_t> superfluousSaves(const std::vector<EarlierSave>& saves)
   for (std::size_t i = 0; i < saves.size(); ++i) {
     const std::int64_t time = saves[i].time;
     const std::int64_t next = i == 0 ? time + kPauseBetweenDays : saves[i - 1].time;
-    const bool endsDay = std::abs(next - time) >= kPauseBetweenDays;
+    const bool endsDay = next - time >= kPauseBetweenDays;  // not when the clock was set back
     const bool endsHour = endsDay || next / kHour != time / kHour;
     if (endsDay) ++day;
     const bool stays = saves[i].isUnsavedRest || endsDay || (endsHour && day <= kDaysOfHours) ||

@@ -33,6 +33,7 @@ class MemoryFiles : public FileSystem {
   bool replacedUnflushed = false;  ///< a file was put in place before the medium held it
   bool writtenOver = false;        ///< bytes of a file that was there before were written over
 
+  std::string readOnlyPath;  ///< what begins so can only be read
   struct PowerCut {};
   int cutAtCall = 0;  ///< the operation at which a PowerCut is thrown, half done; 0 for none
   std::int64_t clock = 1'000'000 * kTicksPerSecond;
@@ -73,7 +74,7 @@ class MemoryFiles : public FileSystem {
     return {FileOutcome::done, std::make_unique<Output>(*this, files[path], true)};
   }
   Opened openExisting(const std::string& path) override {
-    if (fails() || !files.contains(path)) return {failure, nullptr};
+    if (fails() || !files.contains(path) || isReadOnly(path)) return {failure, nullptr};
     return {FileOutcome::done, std::make_unique<Output>(*this, files[path], false)};
   }
   FileOutcome replace(const std::string& from, const std::string& to) override {
@@ -152,7 +153,10 @@ class MemoryFiles : public FileSystem {
     Output(MemoryFiles& disk, File& file, bool isNew, std::size_t position = 0)
         : disk_(disk), file_(file), isNew_(isNew), position_(position) {}
     ~Output() override {
-      if (isOpen_) static_cast<void>(close());
+      if (!isOpen_) return;
+      // Nothing is thrown from here; a cut is the same before the next operation.
+      if (disk_.cutAtCall == disk_.calls + 1) ++disk_.cutAtCall;
+      static_cast<void>(close());
     }
 
     bool write(std::string_view bytes) override {
@@ -196,8 +200,11 @@ class MemoryFiles : public FileSystem {
     bool isOpen_ = true;
   };
 
+  [[nodiscard]] bool isReadOnly(const std::string& path) const {
+    return !readOnlyPath.empty() && path.starts_with(readOnlyPath);
+  }
   [[nodiscard]] bool isProtected(const std::string& path) const {
-    return folderIsProtected && !path.starts_with("temporary/");
+    return isReadOnly(path) || (folderIsProtected && !path.starts_with("temporary/"));
   }
   /// Counts one more operation; whether it is to fail.
   bool fails() {

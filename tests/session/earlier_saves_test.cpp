@@ -1,0 +1,218 @@
+#include "session/earlier_saves.h"
+
+#include <gtest/gtest.h>
+
+#include "session/contest_file.h"
+#include "session/data_folder.h"
+#include "session/open_contest.h"
+#include "session/recovery.h"
+#include "tests/storage/contest_text.h"
+#include "tests/storage/memory_files.h"
+#include "tests/support/temporary_folder.h"
+#include "tests/ui/memory_dialog.h"
+
+namespace scorvane {
+
+namespace {
+
+constexpr std::int64_t kHour = 3600;
+
+/// The times of those that stay, newest first.
+std::vector<std::int64_t> thinned(const std::vector<EarlierSave>& saves) {
+  std::vector<std::int64_t> times;
+  for (const EarlierSave& save : saves) times.push_back(save.time);
+  const auto gone = superfluousSaves(saves);
+  for (auto i = gone.rbegin(); i != gone.rend(); ++i) {
+    times.erase(times.begin() + static_cast<std::ptrdiff_t>(*i));
+  }
+  return times;
+}
+
+EarlierSave savedAt(std::int64_t time, std::uint64_t size = 1) {
+  return {"", time, false, "", size};
+}
+
+TEST(EarlierSaves, AreThinnedByTheDaysOfWork) {
+  // Ten days of work from 8 to 1 at night, saved every 20 minutes: 52 a day; the last one all day.
+  std::vector<EarlierSave> saves;
+  for (std::int64_t day = 9; day >= 0; --day) {
+    for (std::int64_t third = 51; third >= 0; --third) {
+      saves.push_back(savedAt(((day * 24) + 8) * kHour + third * 1200));
+    }
+  }
+  const std::vector<std::int64_t> times = thinned(saves);
+  EXPECT_EQ(times.size(), 52U + 6 * 18 + 3);
+  EXPECT_EQ(times[51], (9 * 24 + 8) * kHour);
+  EXPECT_EQ(times[52], (9 * 24 + 1) * kHour);  // the last of the day before, at 1 in the night
+  EXPECT_EQ(times[53], (9 * 24) * kHour + 2400);
+  EXPECT_EQ(times.back(), 25 * kHour);
+  saves[100].isUnsavedRest = true;
+  EXPECT_EQ(thinned(saves).size(), times.size() + 1);
+
+  // A busy day keeps 200, before them the last of each hour; what is thin stays as it is.
+  saves.clear();
+  for (std::int64_t minute = 600; minute > 0; --minute) saves.push_back(savedAt(minute * 60));
+  const std::vector<std::int64_t> busy = thinned(saves);
+  EXPECT_EQ(busy.size(), 200U + 6);
+  EXPECT_EQ(busy[199], 401 * 60);
+  EXPECT_EQ(busy[200], 359 * 60);
+
+  // A clock set back puts nothing out of order: the newest stays, also when it is huge.
+  const std::uint64_t most = 200U << 20;
+  EXPECT_EQ(thinned({savedAt(100, most + 1), savedAt(90 * kHour), savedAt(90 * kHour - 1)}),
+            (std::vector<std::int64_t>{100}));
+  EXPECT_EQ(thinned({savedAt(3, most / 2), savedAt(2, most / 2), savedAt(1)}),
+            (std::vector<std::int64_t>{3, 2}));
+}
+
+const std::string kPath = "county.scv";
+
+struct KeptSaves : testing::Test {
+  KeptSaves() { disk.files[kPath] = {smallFile(), true, "", 60 * kTicksPerSecond}; }
+  ~KeptSaves() override { stopKeepingWork(); }
+
+  void open(const std::string& path = kPath) {
+    stopKeepingWork();
+    resetContest();
+    startKeepingWork(disk);
+    currentFileName() = path;
+    ASSERT_TRUE(loadContest(window, true));
+  }
+  void save(const std::string& contestName) {
+    currentContest().settings.contestName = contestName;
+    saveCurrent(window);
+    EXPECT_NE(disk.files[currentFileName()].content.find(contestName), std::string::npos)
+        << disk.failingCall << " " << disk.room;
+  }
+  std::string kept(const std::string& path = kPath) {
+    std::string names;
+    for (const EarlierSave& save : earlierSaves(disk, path)) {
+      const std::string bytes = readEarlierSave(disk, save).value_or("unreadable");
+      const std::size_t end = std::min(bytes.find('\r'), bytes.size());
+      names += bytes.substr(bytes.find('\t') + 1, end - bytes.find('\t') - 1) + ";";
+    }
+    return names;
+  }
+
+  MemoryFiles disk;
+  MemoryWindow window;
+};
+
+TEST_F(KeptSaves, AreWhatSavesReplaced) {
+  open();
+  save("Two");
+  disk.clock -= 100 * kHour * kTicksPerSecond;  // the clock is set back
+  save("Three");
+  save("Four");
+  save("Four");  // nothing differs
+  EXPECT_EQ(kept(), "Three;Two;County Fair;");
+  EXPECT_EQ(earlierSaves(disk, kPath)[2].time, 60);  // since when it was the contest
+  EXPECT_LT(earlierSaves(disk, kPath)[0].time, earlierSaves(disk, kPath)[1].time);
+  EXPECT_FALSE(earlierSaves(disk, kPath)[0].isUnsavedRest);
+  EXPECT_EQ(earlierSaves(disk, kPath)[0].contestPath, kPath);
+
+  // Save As over another contest, or whatever it is.
+  disk.files["other.scv"] = {"some\tnotes\r\n", true};
+  window.desktop.files = {"other.scv"};
+  saveContest(window, true);
+  EXPECT_EQ(kept("other.scv"), "notes;");
+
+  // What was cut off while it was kept is not listed, and its number is not used again.
+  auto& [path, file] = *disk.files.find(earlierSaves(disk, kPath)[0].path);
+  file.content.pop_back();
+  EXPECT_EQ(kept(), "Two;County Fair;");
+  EXPECT_EQ(keepEarlierSave(disk, kPath, "a\tFive\r\n", false), Keeping::kept);
+  EXPECT_EQ(keepEarlierSave(disk, kPath, "a\tFive\r\n", false), Keeping::known);
+  EXPECT_EQ(kept(), "Five;Two;County Fair;");
+}
+
+TEST_F(KeptSaves, NeverStandInTheWayOfASave) {
+  for (int call = 1, calls = 1; call <= calls; ++call) {
+    disk.files = {{kPath, {smallFile(), true}}};
+    open();
+    disk.calls = 0;
+    disk.failingCall = call;
+    save("Two");
+    disk.failingCall = 0;
+    calls = disk.calls;
+  }
+  EXPECT_TRUE(window.desktop.messages.empty());
+
+  // On a disk with room for one copy more the save comes first, and with more room both are done.
+  int keptCount = 0;
+  for (std::size_t room = 2 * smallFile().size() + 20; room < 4 * smallFile().size(); room += 5) {
+    disk.files = {{kPath, {smallFile(), true}}};
+    disk.room = 1U << 20;
+    open();
+    disk.room = room;
+    save("Two");
+    keptCount += kept().empty() ? 0 : 1;
+  }
+  EXPECT_GT(keptCount, 0);
+  EXPECT_TRUE(window.desktop.messages.empty());
+  disk.room = 1U << 20;
+  disk.readOnlyPath = disk.localData;
+  save("Three");
+  disk.localData = "";
+  save("Four");
+  EXPECT_TRUE(window.desktop.messages.empty());
+}
+
+TEST_F(KeptSaves, AreFoundUnderAContestsNewName) {
+  open();
+  save("Two");
+  save("Three");
+  const auto rename = [&](const std::string& from, const std::string& to) {
+    disk.files[to] = disk.files[from];
+    disk.files.erase(from);
+  };
+  disk.files["copy.scv"] = disk.files[kPath];
+  open("copy.scv");
+  EXPECT_EQ(kept("copy.scv"), "") << "the other file still has that name";
+  rename(kPath, "moved.scv");
+  open("moved.scv");
+  EXPECT_EQ(kept("moved.scv"), "Two;County Fair;");
+  save("Four");
+  rename("moved.scv", "again.scv");
+  open("again.scv");
+  EXPECT_EQ(kept("again.scv"), "Three;Two;County Fair;");
+}
+
+// The port's own sides: the folder of this machine.
+TEST(LocalFiles, AreMadeListedAppendedToAndClaimed) {
+  const TemporaryFolder folder;
+  ::setenv("XDG_DATA_HOME", folder.path().c_str(), 1);
+  FileSystem& files = systemFiles();
+  EXPECT_EQ(files.localDataFolder(), folder.path());
+  ::unsetenv("XDG_DATA_HOME");
+  EXPECT_EQ(files.localDataFolder(), std::string(std::getenv("HOME")) + "/.local/share");
+  ASSERT_TRUE(files.makeFolders(folder.file("a/b")));
+  const std::string path = folder.file("a/b/c");
+  const std::int64_t before = files.now() - kTicksPerSecond;
+  for (const char* line : {"one", "two"}) {
+    const auto opened = files.openToAppend(path);
+    EXPECT_TRUE(opened.file->write(line) && opened.file->flush() && opened.file->close());
+  }
+  EXPECT_EQ(contentOf(path), "onetwo");
+  EXPECT_FALSE(files.makeFolders(path));
+  {
+    const FileSystem::Claim claim = files.claim(path);
+    EXPECT_EQ(claim.outcome, FileOutcome::done);
+    EXPECT_EQ(files.claim(path).outcome, FileOutcome::denied);
+    EXPECT_EQ(files.list(folder.file("a/b")).size(), 2U);
+  }
+  EXPECT_EQ(files.claim(path).outcome, FileOutcome::done);
+  EXPECT_EQ(files.claim(folder.file("none/c")).outcome, FileOutcome::failed);
+  const auto listed = files.list(folder.file("a/b"));
+  ASSERT_EQ(listed.size(), 1U);
+  EXPECT_EQ(listed[0].name, "c");
+  EXPECT_EQ(listed[0].size, 6U);
+  EXPECT_EQ(listed[0].changed, files.lastChange(path));
+  EXPECT_GT(listed[0].changed, before);
+  EXPECT_TRUE(files.list(folder.file("a")).at(0).isFolder);
+  EXPECT_TRUE(files.list(path).empty());
+}
+
+}  // namespace
+
+}  // namespace scorvane

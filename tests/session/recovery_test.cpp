@@ -1,0 +1,348 @@
+#include "session/recovery.h"
+
+#include <gtest/gtest.h>
+
+#include "model/new_contest.h"
+#include "session/contest_file.h"
+#include "session/data_folder.h"
+#include "session/earlier_saves.h"
+#include "session/open_contest.h"
+#include "storage/contest_salvage.h"
+#include "storage/contest_writer.h"
+#include "tests/storage/contest_text.h"
+#include "tests/storage/memory_files.h"
+#include "tests/ui/memory_dialog.h"
+#include "text/report_marks.h"
+
+namespace scorvane {
+
+namespace {
+
+const std::string kPath = "county.scv";
+
+struct Recovery : testing::Test {
+  Recovery() { put(kPath, smallFile()); }
+  ~Recovery() override { stopKeepingWork(); }
+
+  void put(const std::string& path, const std::string& bytes) {
+    disk.files[path] = {bytes, true, bytes, 7};
+  }
+  /// The program is started and a contest opened; what is asked gets one answer.
+  bool start(const std::string& path = kPath, Answer answer = Answer::yes) {
+    stopKeepingWork();
+    resetContest();
+    currentFileName() = path;
+    window.desktop = {};
+    window.desktop.answers = {answer};
+    startKeepingWork(disk);
+    return path.empty() || loadContest(window, true);
+  }
+  void type(ContestantNumber number, std::int32_t classIndex, const ScoreRecord& record) {
+    typed = record;
+    currentContest().scores[number][classIndex] = record;
+    scoreStored(number, classIndex);
+    shown.push_back({number, classIndex, record});
+  }
+  void addTeam(const std::string& name) {
+    currentContest().teams[name].members = {0, 0, 0};
+    contestChanged();
+    teams.push_back(name);
+  }
+  std::vector<std::string> copies() {
+    std::vector<std::string> names;
+    for (const ListedFile& file : disk.list(recoveryFolder(disk))) {
+      if (file.name.ends_with(".scv")) names.push_back(file.name);
+    }
+    return names;
+  }
+  std::string asked() {
+    return window.desktop.messages.empty() ? "" : window.desktop.messages[0].text;
+  }
+  void expectEverythingShown() {
+    ASSERT_EQ(writeContest(currentContest()), disk.files[kPath].content);
+    std::map<std::pair<int, int>, ScoreRecord> last;
+    for (const TypedScore& s : shown) last[{s.number, s.classIndex}] = s.record;
+    for (const auto& [at, record] : last) {
+      const ScoreRecord& found = scoreRecord(currentContest(), at.first, at.second);
+      ASSERT_TRUE(found == record || found == typed) << at.first;
+    }
+    for (const std::string& name : teams) ASSERT_TRUE(currentContest().teams.contains(name));
+  }
+  void anAfternoon() {
+    start();
+    type(101, 0, {'A', 40, 44, 0});
+    type(103, 1, {'B', 0, 0, 9});
+    type(103, 1, {'D', 0, 0, 10});
+    saveCurrent(window);
+    type(102, 0, {'X', -2, 3, 0});
+    addTeam("Avon");
+    type(102, 1, {'Z', 0, 0, 50});
+    saveCurrent(window);
+    type(103, 0, {'C', 50, 0, 0});
+    addTeam("Brook");
+  }
+
+  MemoryFiles disk;
+  MemoryWindow window;
+  std::vector<TypedScore> shown;
+  ScoreRecord typed;  ///< the one whose storing the power cut may have met
+  std::vector<std::string> teams;
+};
+
+// The power fails at the first operation of the disk, the second, and so on; of what was not
+// flushed the first byte is there, the first two, and so on.
+TEST_F(Recovery, BringsBackWhatWasShownWhereverThePowerFailed) {
+  const MemoryFiles::File untouched = disk.files[kPath];
+  bool isCut = true;
+  int bringings = 0;
+  for (int call = 1; isCut; ++call) {
+    disk.files = {{kPath, untouched}};
+    shown.clear();
+    teams.clear();
+    disk.calls = 0;
+    disk.cutAtCall = call;
+    isCut = false;
+    try {
+      anAfternoon();
+    } catch (const MemoryFiles::PowerCut&) {
+      isCut = true;
+    }
+    stopKeepingWork();
+    const auto left = disk.files;
+    for (std::size_t torn = 0; disk.losePower(torn); ++torn) {
+      SCOPED_TRACE(std::to_string(call) + ", torn at " + std::to_string(torn));
+      ASSERT_TRUE(start());
+      bringings += asked().empty() ? 0 : 1;
+      ASSERT_NO_FATAL_FAILURE(expectEverythingShown());
+      ASSERT_EQ(copies().size(), 0U);
+      disk.files = left;
+    }
+  }
+  EXPECT_GT(bringings, 1000);
+}
+
+TEST_F(Recovery, IsItselfSafeFromPowerCuts) {
+  anAfternoon();
+  stopKeepingWork();
+  const auto left = disk.files;
+  bool isCut = true;
+  for (int call = 1; isCut; ++call) {
+    disk.files = left;
+    disk.losePower(0);
+    disk.calls = 0;
+    disk.cutAtCall = call;
+    isCut = false;
+    try {
+      start();
+    } catch (const MemoryFiles::PowerCut&) {
+      isCut = true;
+    }
+    stopKeepingWork();
+    disk.losePower(0);
+    ASSERT_TRUE(start());
+    ASSERT_NO_FATAL_FAILURE(expectEverythingShown());
+  }
+}
+
+TEST_F(Recovery, AsksAndReportsWhatCameBack) {
+  start();
+  EXPECT_EQ(asked(), "");
+  type(102, 1, {'Z', 0, 0, 50});
+  type(101, 0, {'A', 40, 44, 0});
+  disk.losePower(0);
+  start();
+  const Message question = window.desktop.messages.at(0);
+  EXPECT_EQ(question.text.substr(0, question.text.find(" until")),
+            "Scorvane was ended before its last work on this contest was saved.\r\n\r\n"
+            "2 scores typed");
+  EXPECT_EQ(question.text.substr(question.text.find('M')),
+            "M were kept.\r\n\r\nWould you like to bring them back?");
+  EXPECT_EQ(question.caption, "Information");
+  EXPECT_EQ(question.buttons, Buttons::yesNo);
+  EXPECT_EQ(question.defaultAnswer, Answer::yes);
+  EXPECT_EQ(reportText().substr(reportText().find("Number")),
+            "Number Name                 Class                    Letter Reasons Questions\n"
+            "-----------------------------------------------------------------------------\n"
+            "   102 Ben Ode               2.                        Z        ---        50\n"
+            "   101 Ann Lee               1. Market Steers          A         44       ---\n");
+  expectEverythingShown();
+  EXPECT_EQ(copies().size(), 0U);
+  ASSERT_EQ(earlierSaves(disk, kPath).size(), 1U);  // what the save replaced
+  start();
+  EXPECT_EQ(asked(), "");
+  EXPECT_EQ(reportText(), kWelcomeText);
+
+  addTeam("Avon");
+  disk.losePower(0);
+  start(kPath, Answer::no);
+  EXPECT_NE(asked().find("\nChanges of the setup until"), std::string::npos);
+  EXPECT_FALSE(currentContest().teams.contains("Avon"));
+  EXPECT_EQ(copies().size(), 0U);
+  const auto rests = earlierSaves(disk, kPath);
+  ASSERT_TRUE(rests.at(0).isUnsavedRest);
+  EXPECT_NE(readEarlierSave(disk, rests[0])->find("Avon"), std::string::npos);
+}
+
+TEST_F(Recovery, IsOfferedForTheVeryFileItGrewFromOnly) {
+  const auto typeAndCut = [&] {
+    start();
+    type(101, 0, {'A', 40, 44, 0});
+    disk.losePower(0);
+    stopKeepingWork();
+  };
+  typeAndCut();
+  const auto left = disk.files;
+  const auto expectRestUnasked = [&](const std::string& why) {
+    EXPECT_TRUE(start());
+    EXPECT_EQ(asked(), "") << why;
+    EXPECT_EQ(copies().size(), 0U) << why;
+    EXPECT_EQ(earlierSaves(disk, kPath).size(), 1U) << why;
+    disk.files = left;
+  };
+  disk.files[kPath].changed = 8;
+  expectRestUnasked("another time of change");
+  disk.files[kPath].content = replaced(smallFile(), "County", "Baronial");
+  expectRestUnasked("other bytes");
+
+  // Renamed or moved it is the very file; a copy of a file that is still there is another one.
+  disk.files["moved.scv"] = disk.files[kPath];
+  start("moved.scv");
+  EXPECT_EQ(asked(), "");
+  disk.files.erase(kPath);
+  start("moved.scv");
+  EXPECT_NE(asked(), "");
+  EXPECT_EQ(scoreRecord(currentContest(), 101, 0).reasonsScore, 44);
+
+  // While another program works with the copy, this one uses its own.
+  disk.files = left;
+  {
+    const auto claim = disk.claim(copyPath(disk, contestKey(disk, kPath), 1));
+    start();
+    EXPECT_EQ(asked(), "");
+    type(102, 1, {'Z', 0, 0, 50});
+    EXPECT_EQ(copies().size(), 2U);
+  }
+  disk.losePower(0);
+  start();
+  EXPECT_NE(asked(), "");
+  start();
+  EXPECT_EQ(copies().size(), 0U);
+  EXPECT_EQ(earlierSaves(disk, kPath).size(), 2U);
+}
+
+TEST_F(Recovery, KeepsWhatAnOrderlyEndLeavesUnsaved) {
+  start();
+  type(101, 0, {'A', 40, 44, 0});
+  leaveContest();
+  EXPECT_EQ(copies().size(), 0U);
+  ASSERT_EQ(earlierSaves(disk, kPath).size(), 1U);
+  start();
+  EXPECT_EQ(asked(), "");
+
+  // What could not be saved is offered.
+  type(101, 0, {'A', 40, 44, 0});
+  disk.readOnlyPath = kPath;
+  saveCurrent(window);
+  EXPECT_NE(asked().find("did NOT save"), std::string::npos);
+  leaveContest();
+  disk.readOnlyPath.clear();
+  start();
+  EXPECT_NE(asked().find("1 score typed until"), std::string::npos);
+
+  // Nothing is left of a contest that is as it was, and a contest without a file is kept, too.
+  addTeam("Avon");
+  currentContest().teams.erase("Avon");
+  contestChanged();
+  EXPECT_EQ(copies().size(), 0U);
+  start("");
+  leaveContest();
+  addTeam("Brook");
+  disk.losePower(0);
+  start("");
+  EXPECT_EQ(copies().size(), 0U);
+  ASSERT_EQ(earlierSaves(disk, "").size(), 1U);
+  EXPECT_NE(readEarlierSave(disk, earlierSaves(disk, "")[0])->find("Brook"), std::string::npos);
+}
+
+TEST_F(Recovery, CostsOneLineAScoreAndSaysOnceWhenItCannotBeKept) {
+  start();
+  type(101, 0, {'A', 40, 44, 0});
+  type(102, 0, {'A', 40, 44, 0});
+  disk.calls = 0;
+  type(102, 1, {'Z', 0, 0, 50});
+  EXPECT_EQ(disk.calls, 2);  // a write and a flush
+
+  // A line cut off by a full disk is not written on to; later everything is there again.
+  const std::size_t room = disk.room;
+  disk.room = 0;
+  for (const auto& [path, file] : disk.files) disk.room += file.content.size();
+  disk.room += 5;
+  type(103, 0, {'B', 1, 2, 0});
+  sayIfWorkIsNotKept(window);
+  ASSERT_EQ(window.desktop.messages.size(), 1U);
+  EXPECT_EQ(window.desktop.messages[0].caption, "Warning");
+  sayIfWorkIsNotKept(window);
+  EXPECT_EQ(window.desktop.messages.size(), 1U);
+  disk.room = room;
+  disk.calls = 0;
+  type(103, 1, {'E', 1, 0, 2});
+  EXPECT_EQ(disk.calls, 0) << "a disk that failed just now is left in peace";
+  disk.clock += 11 * kTicksPerSecond;
+  type(101, 1, {'C', 1, 0, 2});
+  disk.losePower(0);
+  start();
+  EXPECT_NE(asked().find("6 scores typed"), std::string::npos);
+  expectEverythingShown();
+}
+
+// All of a damaged copy but the lines that are hit.
+TEST(RecoveryCopyBytes, GiveEveryWholeLineWhereverTheyAreDamagedOrCut) {
+  const std::string base = smallFile();
+  const TypedScore typed[] = {{101, 0, {'A', 40, 44, 0}}, {103, 1, {'B', -7, 0, 9}}};
+  std::string bytes = base + originLine({"a\tb.scv", true, 5, 6, 7}, base);
+  const std::size_t added = bytes.size();
+  for (const TypedScore& score : typed) bytes += typedScoreLine(score);
+  const std::size_t second = added + typedScoreLine(typed[0]).size();
+  const RecoveryCopy whole = readRecoveryCopy(bytes);
+  EXPECT_TRUE(whole.baseIsWhole);
+  EXPECT_TRUE(whole.grewFrom->isSameFile({"", true, 5, 6, 7}));
+  EXPECT_EQ(whole.grewFrom->path, "a\tb.scv");
+  const Contest file = *recoveredContest(readRecoveryCopy(base));
+
+  for (std::size_t at = 0; at < bytes.size(); ++at) {
+    SCOPED_TRACE(at);
+    for (const char wrong : {'\0', '5', '\n'}) {
+      std::string damaged = bytes;
+      if (damaged[at] == wrong) continue;
+      damaged[at] = wrong;
+      const RecoveryCopy copy = readRecoveryCopy(damaged);
+      const bool hit[] = {at >= added && at < second, at >= second};
+      ASSERT_GE(copy.typed.size(), 2U - hit[0] - hit[1]);
+      ASSERT_EQ(copy.baseIsWhole, at >= base.size() && copy.grewFrom);
+      // Added to the file they are there, whatever became of the rest; else the rest is told apart.
+      const auto contest = recoveredOver(file, copy);
+      if (!contest) continue;
+      for (int i = 0; i < 2; ++i) {
+        ASSERT_TRUE(hit[i] ||
+                    scoreRecord(*contest, typed[i].number, typed[i].classIndex) == typed[i].record);
+      }
+      ASSERT_EQ(contest->contestantNames.size(), 3U);
+    }
+    // Cut there, every line before is in the contest that is left.
+    const std::string cut = bytes.substr(0, at);
+    const auto contest = recoveredContest(readRecoveryCopy(cut));
+    const std::string left = contest ? writeContest(*contest) : "";
+    for (std::size_t line = 0, end = 0; (end = cut.find("\r\n", line)) < base.size();
+         line = end + 2) {
+      const std::string text = cut.substr(line, end - line);
+      const bool isPlace = text.starts_with("101\tAnn");  // its row is counted by the teams
+      if (text.find('\t') == std::string::npos || at >= second) continue;
+      if (at >= added && text.starts_with("101\t0")) continue;
+      ASSERT_NE(left.find(isPlace ? "101\tAnn Lee" : text), std::string::npos) << text;
+    }
+  }
+}
+
+}  // namespace
+
+}  // namespace scorvane
