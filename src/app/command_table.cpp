@@ -10,6 +10,7 @@
 #include "app/round_commands.h"
 #include "app/setup_commands.h"
 #include "app/shown_report.h"
+#include "app/tools_commands.h"
 #include "app/window_commands.h"
 #include "output/save_report.h"
 #include "reports/class_reports.h"
@@ -117,6 +118,8 @@ constexpr std::array kCommands = {
             plain<zeroReasonsReport>},
     Command{32851, "Verification Reports", "Zero Questions Report", nullptr,
             plain<zeroQuestionsReport>},
+
+    Command{33023, "Tools", "Earlier Saves ...", runEarlierSaves},
 
     Command{32857, "Help", "Scorvane Help (F1)", helpCommand},
     Command{104, "Help", "About ...", aboutCommand},

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "session/open_contest.h"
 #include "ui/window.h"
@@ -21,6 +22,13 @@ void saveContest(Window& owner, bool askForName);
 
 /// Saves to the current file; asks for a name when the contest is untitled.
 void saveCurrent(Window& owner);
+
+/// Puts a contest's bytes into a file other than the current one, safely; what it replaces becomes
+/// an earlier save of that file. False when that failed.
+[[nodiscard]] bool saveElsewhere(const std::string& path, std::string_view bytes);
+
+/// Asks for a contest's file.
+[[nodiscard]] FileQuestion contestFileQuestion(FileQuestion::Purpose purpose);
 
 /// Reads a file into the current contest: the one named by currentFileName() with `useGivenPath`,
 /// otherwise one that the operator chooses. Unsaved work that was kept of it is offered then; the
