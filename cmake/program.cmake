@@ -17,7 +17,7 @@ target_include_directories(scorvane PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_BINA
 target_link_libraries(ui PUBLIC gdi32)
 scorvane_late_dll(ui comctl32 DefSubclassProc SetWindowSubclass)
 scorvane_late_dll(ui comdlg32 ChooseFontA GetOpenFileNameA GetSaveFileNameA PrintDlgA)
-scorvane_late_dll(ui shell32 DragFinish DragQueryFileA SHGetFolderPathA SHGetFolderPathW ShellExecuteExW)
+scorvane_late_dll(ui shell32 DragFinish DragQueryFileA SHGetFolderPathA ShellExecuteExW)
 scorvane_late_dll(ui shlwapi AssocQueryStringW)
 target_link_libraries(scorvane PRIVATE app)
 target_link_options(scorvane PRIVATE -s)

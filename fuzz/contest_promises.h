@@ -8,7 +8,7 @@
 
 namespace scorvane {
 
-/// Watches a session for the few actions that deliberately loosen a promise, and checks the rest.
+/// Watches a session for the few actions that loosen a promise, and checks the rest.
 class ContestPromises {
  public:
   /// To be told of every command before it runs, and of every action in the dialog it opened.

@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "app/command_table.h"
-#include "app/contest_file_commands.h"
+#include "app/file_menu.h"
 #include "fuzz/checks.h"
 #include "fuzz/contest_promises.h"
 #include "session/contest_file.h"

@@ -8,6 +8,7 @@
 
 #include "model/new_contest.h"
 #include "model/numbering.h"
+#include "model/roster.h"
 #include "tools/invented_names.h"
 
 namespace scorvane {
@@ -125,8 +126,7 @@ class Maker {
       const ContestantNumber number = settings.startNum + made_++;
       const bool isEmpty = dice_.percent(slot < plan_.perTeam ? plan_.emptyPercent : 75);
       team.members.push_back(number);
-      contest_.contestantNames[number] = isEmpty ? std::string() : person();
-      contest_.contestantGroup[number] = groupOfNumber(settings, number);
+      setContestant(contest_, number, isEmpty ? std::string() : person());
       contest_.reasonsPlace[number] = {};
     }
     contest_.teams.insert_or_assign(teamName(), std::move(team));

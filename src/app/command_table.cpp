@@ -3,14 +3,14 @@
 #include <algorithm>
 #include <array>
 
-#include "app/contest_file_commands.h"
 #include "app/entry_commands.h"
+#include "app/file_menu.h"
 #include "app/reasons_commands.h"
 #include "app/results_commands.h"
 #include "app/round_commands.h"
 #include "app/setup_commands.h"
 #include "app/shown_report.h"
-#include "app/tools_commands.h"
+#include "app/tools_menu.h"
 #include "app/window_commands.h"
 #include "output/save_report.h"
 #include "reports/class_reports.h"

@@ -7,11 +7,12 @@
 
 #include "app/clipboard_win32.h"
 #include "app/command_table.h"
-#include "app/contest_file_commands.h"
+#include "app/file_menu.h"
 #include "app/manual_win32.h"
 #include "model/contest.h"
 #include "output/printer_win32.h"
 #include "session/open_contest.h"
+#include "session/recovery.h"
 #include "ui/dialog_win32.h"
 
 namespace scorvane {
@@ -57,7 +58,12 @@ std::optional<std::intptr_t> DesktopWindow::handle(unsigned message, std::uintpt
     case WM_PAINT:
       painted_ = true;
       break;
+    case WM_ENDSESSION:
+      // With a dialog open this is no orderly end: its work is offered when the contest is opened.
+      if (wParam != 0 && IsWindowEnabled(window_) != FALSE) endKeepingWork();
+      return 0;
     case WM_DESTROY:
+      endKeepingWork();
       PostQuitMessage(0);
       return 0;
     default:

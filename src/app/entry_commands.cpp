@@ -1,24 +1,30 @@
 #include "app/entry_commands.h"
 
 #include "app/shown_report.h"
+#include "entry/entry_ids.h"
+#include "entry/group_entry_dialog.h"
 #include "entry/lookup_dialog.h"
-#include "entry/placings_dialog.h"
-#include "entry/questions_dialog.h"
-#include "entry/reasons_dialog.h"
-#include "model/contest.h"
 #include "session/open_contest.h"
 #include "text/report_marks.h"
 
 namespace scorvane {
 
+namespace {
+
+void enterByGroup(MainWindow& window, const GroupEntry& entry) {
+  GroupEntryDialog dialog(currentContest(), entry);
+  runDialogOverWelcome(window, entry.resource, dialog);
+}
+
+}  // namespace
+
 void lookUpScores(MainWindow& window) {
-  LookupDialog dialog;
-  runDialogOverWelcome(window, kLookupDialog, dialog);
+  LookupDialog dialog(currentContest());
+  runDialogOverWelcome(window, IDD_LOOKUP, dialog);
 }
 
 void inputPlacings(MainWindow& window) {
-  GroupEntryDialog dialog = placingsDialog();
-  runDialogOverWelcome(window, kPlacingsDialog, dialog);
+  enterByGroup(window, kPlacingsEntry);
 }
 
 void inputReasons(MainWindow& window) {
@@ -30,13 +36,11 @@ void inputReasons(MainWindow& window) {
         "Information");
     return;
   }
-  ReasonsDialog dialog;
-  runDialogOverWelcome(window, kReasonsDialog, dialog);
+  enterByGroup(window, kReasonsEntry);
 }
 
 void inputQuestions(MainWindow& window) {
-  GroupEntryDialog dialog = questionsDialog();
-  runDialogOverWelcome(window, kQuestionsDialog, dialog);
+  enterByGroup(window, kQuestionsEntry);
 }
 
 }  // namespace scorvane

@@ -4,8 +4,10 @@
 #include <array>
 #include <memory>
 
-#include "app/contest_file_commands.h"
 #include "app/desktop_window_win32.h"
+#include "app/file_menu.h"
+#include "session/recovery.h"
+#include "storage/file.h"
 
 namespace scorvane {
 
@@ -96,6 +98,7 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE /*previous*/, char* commandLine
   prepareContest();
   if (!showMainWindow(instance, request)) return 0;
   HACCEL accelerators = LoadAcceleratorsA(instance, MAKEINTRESOURCEA(kAccelerators));
+  startKeepingWork(systemFiles());
   openContestOfCommandLine(*mainWindow(), commandLine);
   return runMessageLoop(mainWindow()->native(), accelerators);
 }

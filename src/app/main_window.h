@@ -22,7 +22,7 @@ struct FontFields {
 
 class MainWindow : public Window {
  public:
-  /// Runs the dialog of a resource id modally over this window; gives the result it ended with.
+  /// Runs the dialog of a resource id modally over this window; returns the result it ended with.
   virtual int runDialog(int resourceId, DialogBehaviour& behaviour) = 0;
   /// Sets the text of the title bar.
   virtual void setTitle(std::string_view title) = 0;

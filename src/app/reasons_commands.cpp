@@ -4,10 +4,10 @@
 
 #include "app/shown_report.h"
 #include "reasons/reasons_class_dialog.h"
+#include "reasons/reasons_ids.h"
 #include "reasons/reasons_order_edit_dialog.h"
 #include "reasons/reasons_order_generation.h"
-#include "reasons/reasons_order_report.h"
-#include "reasons/reasons_sheets.h"
+#include "reasons/reasons_reports.h"
 #include "session/contest_file.h"
 #include "session/open_contest.h"
 
@@ -23,7 +23,7 @@ std::optional<std::string> sheetAskedFor(const Contest& contest, const ReportReq
 
 void askForClassAndShowSheet(MainWindow& window, ReasonsSheet sheet) {
   ReasonsClassDialog dialog(currentContest());
-  window.runDialog(ReasonsClassDialog::kResourceId, dialog);
+  window.runDialog(IDD_REASONS_CLASS, dialog);
   if (const auto chosen = dialog.chosenClass()) {
     showReport(window, reasonsSheet(currentContest(), sheet, *chosen));
   }
@@ -47,7 +47,7 @@ void runGenerateReasonsOrder(MainWindow& window) {
 
 void runEditReasonsOrder(MainWindow& window) {
   ReasonsOrderEditDialog dialog;
-  runDialogOverWelcome(window, ReasonsOrderEditDialog::kResourceId, dialog);
+  runSetupOverWelcome(window, IDD_REASONS_ORDER_EDIT, dialog);
   showReport(window, plainReasonsOrder(currentContest(), {}));
 }
 

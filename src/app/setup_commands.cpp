@@ -1,14 +1,11 @@
 #include "app/setup_commands.h"
 
-#include "app/contest_file_commands.h"
+#include "app/file_menu.h"
 #include "app/shown_report.h"
-#include "setup/edit_contestants_controls.h"
 #include "setup/edit_contestants_dialog.h"
-#include "setup/setup_classes_controls.h"
 #include "setup/setup_classes_dialog.h"
-#include "setup/setup_contest_controls.h"
 #include "setup/setup_contest_dialog.h"
-#include "setup/setup_teams_controls.h"
+#include "setup/setup_ids.h"
 #include "setup/setup_teams_dialog.h"
 
 namespace scorvane {
@@ -18,26 +15,26 @@ namespace {
 template <typename Behaviour>
 void runSetup(MainWindow& window, int resourceId) {
   Behaviour behaviour;
-  runDialogOverWelcome(window, resourceId, behaviour);
+  runSetupOverWelcome(window, resourceId, behaviour);
   showContestTitle(window);
 }
 
 }  // namespace
 
 void runSetupContest(MainWindow& window) {
-  runSetup<SetupContestDialog>(window, setup_contest::kDialog);
+  runSetup<SetupContestDialog>(window, IDD_SETUP_CONTEST);
 }
 
 void runSetupClasses(MainWindow& window) {
-  runSetup<SetupClassesDialog>(window, setup_classes::kDialog);
+  runSetup<SetupClassesDialog>(window, IDD_SETUP_CLASSES);
 }
 
 void runSetupTeams(MainWindow& window) {
-  runSetup<SetupTeamsDialog>(window, setup_teams::kDialog);
+  runSetup<SetupTeamsDialog>(window, IDD_SETUP_TEAMS);
 }
 
 void runEditContestants(MainWindow& window) {
-  runSetup<EditContestantsDialog>(window, edit_contestants::kDialog);
+  runSetup<EditContestantsDialog>(window, IDD_EDIT_CONTESTANTS);
 }
 
 }  // namespace scorvane

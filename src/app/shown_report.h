@@ -12,7 +12,10 @@ namespace scorvane {
 /// Makes `report` the report text and shows it. Without a report nothing changes.
 void showReport(MainWindow& window, std::optional<std::string> report);
 
-/// Runs a setup or score-entry dialog over the welcome text; gives the dialog's result.
+/// Runs a score-entry dialog over the welcome text; gives the dialog's result.
 int runDialogOverWelcome(MainWindow& window, int resourceId, DialogBehaviour& behaviour);
+/// The same with a dialog that changes the contest in other ways: whatever it stores is in the
+/// recovery copy before its next event.
+int runSetupOverWelcome(MainWindow& window, int resourceId, DialogBehaviour& behaviour);
 
 }  // namespace scorvane

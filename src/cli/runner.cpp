@@ -4,10 +4,9 @@
 #include <utility>
 #include <variant>
 
-#include "cli/system.h"
 #include "storage/contest_reader.h"
 #include "storage/safe_save.h"
-#include "text/line_ends.h"
+#include "text/characters.h"
 
 namespace scorvane {
 
@@ -32,14 +31,9 @@ const char* reasonOf(ContestFault fault) {
 }
 
 std::variant<Contest, std::string> openContest(const std::string& path, FileSystem& files) {
-  const std::unique_ptr<InputFile> file = files.openToRead(path);
-  std::variant<Contest, ContestFault> contest = ContestFault::unreadable;
-  if (file != nullptr) {
-    expectMemory(2 * static_cast<std::size_t>(file->size()));
-    contest = readContest(*file);
-  }
-  if (auto* read = std::get_if<Contest>(&contest)) return std::move(*read);
-  return "cannot read '" + path + "': " + reasonOf(std::get<ContestFault>(contest));
+  auto loading = loadContestFile(files, path);
+  if (auto* loaded = std::get_if<LoadedContest>(&loading)) return std::move(loaded->contest);
+  return "cannot read '" + path + "': " + reasonOf(std::get<ContestFault>(loading));
 }
 
 std::string noSuchClass(std::int32_t number, const Contest& contest) {

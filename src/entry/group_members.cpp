@@ -1,46 +1,44 @@
 #include "entry/group_members.h"
 
-#include <limits>
-
 namespace scorvane {
 
-namespace {
-
-using Names = FlatMap<ContestantNumber, std::string>;
-
-bool isMember(const Contest& contest, const Names::Entry& contestant, char group) {
-  if (contestant.second.empty()) return false;
-  const char* letter = contest.contestantGroup.find(contestant.first);
-  return letter != nullptr && *letter == group;
-}
-
-std::optional<ContestantNumber> memberFrom(const Contest& contest, char group,
-                                           Names::const_iterator place) {
-  for (; place != contest.contestantNames.end(); ++place) {
-    if (isMember(contest, *place, group)) return place->first;
+std::vector<ContestantNumber> groupMembers(const Contest& contest, char group) {
+  std::vector<ContestantNumber> members;
+  for (const auto& [number, name] : contest.contestantNames) {
+    const char* letter = contest.contestantGroup.find(number);
+    if (!name.empty() && letter != nullptr && *letter == group) members.push_back(number);
   }
-  return std::nullopt;
+  return members;
 }
 
-}  // namespace
-
-std::optional<ContestantNumber> firstMember(const Contest& contest, char group) {
-  return memberFrom(contest, group, contest.contestantNames.begin());
+std::vector<ContestantNumber> groupSpeakers(const Contest& contest, std::int32_t reasonsGroup) {
+  const ReasonsOrder::Cells& cells = contest.reasonsOrder.cells();
+  std::vector<ContestantNumber> speakers;
+  auto cell = cells.lowerBound({reasonsGroup, 0});
+  for (; cell != cells.end() && cell->first.first == reasonsGroup; ++cell) {
+    speakers.push_back(cell->second);
+  }
+  return speakers;
 }
 
-std::optional<ContestantNumber> nextMember(const Contest& contest, char group,
-                                           ContestantNumber number) {
-  if (number == std::numeric_limits<ContestantNumber>::max()) return std::nullopt;
-  return memberFrom(contest, group, contest.contestantNames.lowerBound(number + 1));
+std::vector<ContestantNumber> speakersUpToHole(const ReasonsOrder& order,
+                                               std::int32_t reasonsGroup) {
+  // Odd but required, docs/required-behaviour.md: hole-in-a-reasons-group
+  std::int32_t row = order.cell(0, reasonsGroup) == kNobody ? 1 : 0;
+  std::vector<ContestantNumber> speakers;
+  for (; order.cell(row, reasonsGroup) != kNobody; ++row) {
+    speakers.push_back(order.cell(row, reasonsGroup));
+  }
+  return speakers;
 }
 
-EnteredCount countEntered(const Contest& contest, char group, std::int32_t classIndex,
-                          ScoreField score) {
+EnteredCount countEntered(const Contest& contest, const std::vector<ContestantNumber>& contestants,
+                          std::int32_t classIndex, ScoreField score) {
   EnteredCount count;
-  for (const Names::Entry& contestant : contest.contestantNames) {
-    if (!isMember(contest, contestant, group)) continue;
-    // A letter that scored nothing, such as "Z", deliberately counts as not entered.
-    count.add(scoreRecord(contest, contestant.first, classIndex).*score);
+  for (const ContestantNumber number : contestants) {
+    if (contestantName(contest, number).empty()) continue;
+    // Odd but required, docs/required-behaviour.md: zero-counts-as-not-entered
+    ++(scoreRecord(contest, number, classIndex).*score != 0 ? count.entered : count.missing);
   }
   return count;
 }

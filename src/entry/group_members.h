@@ -1,20 +1,24 @@
-// Who stands in a rotation group, and how much of the group's scores has been entered.
+// Whose cards are entered with a group, in which order, and how many have been entered already.
 #pragma once
 
 #include <cstdint>
-#include <optional>
+#include <vector>
 
 #include "model/contest.h"
 
 namespace scorvane {
 
-/// A member of a group has its letter and a name; numbers without a name are passed over.
-/// The group's member with the lowest number; nothing when it has none.
-[[nodiscard]] std::optional<ContestantNumber> firstMember(const Contest& contest, char group);
+/// The contestants of a rotation group who have a name, in ascending number.
+[[nodiscard]] std::vector<ContestantNumber> groupMembers(const Contest& contest, char group);
 
-/// The group's member with the lowest number above `number`; nothing when there is none.
-[[nodiscard]] std::optional<ContestantNumber> nextMember(const Contest& contest, char group,
-                                                         ContestantNumber number);
+/// Everybody in a reasons group (from 0), in speaking order.
+[[nodiscard]] std::vector<ContestantNumber> groupSpeakers(const Contest& contest,
+                                                          std::int32_t reasonsGroup);
+
+/// The speakers whose cards are entered: down the column of the reasons order to its first hole.
+/// A hole in the first row is passed over.
+[[nodiscard]] std::vector<ContestantNumber> speakersUpToHole(const ReasonsOrder& order,
+                                                             std::int32_t reasonsGroup);
 
 /// One of the scores of a record.
 using ScoreField = std::int32_t ScoreRecord::*;
@@ -23,11 +27,11 @@ using ScoreField = std::int32_t ScoreRecord::*;
 struct EnteredCount {
   int entered = 0;  ///< score other than 0
   int missing = 0;  ///< score 0
-  void add(std::int32_t score) { ++(score != 0 ? entered : missing); }
 };
 
-/// Counts a group's members by their score for a class (index from 0).
-[[nodiscard]] EnteredCount countEntered(const Contest& contest, char group, std::int32_t classIndex,
-                                        ScoreField score);
+/// Counts those of some contestants who have a name by their score for a class (index from 0).
+[[nodiscard]] EnteredCount countEntered(const Contest& contest,
+                                        const std::vector<ContestantNumber>& contestants,
+                                        std::int32_t classIndex, ScoreField score);
 
 }  // namespace scorvane

@@ -1,50 +1,44 @@
 #include "entry/last_score.h"
 
+#include "entry/entry_ids.h"
 #include "text/format.h"
 
 namespace scorvane {
 
 namespace {
 
-constexpr ControlId kScoreText = 1030;
-constexpr ControlId kNumberText = 1031;
-constexpr ControlId kInputText = 1032;
-constexpr ControlId kOfficialText = 1033;
-constexpr ControlId kCutsText = 1034;
-constexpr ControlId kReasonsText = 1035;
-constexpr ControlId kQuestionsText = 1036;
+void showPlacing(Dialog& dialog, const ScoreRecord& record, PlacingLetter official,
+                 const Cuts& cuts) {
+  dialog.setText(IDC_LAST_LETTER, formatText("%c", record.letter));
+  dialog.setNumber(IDC_LAST_SCORE, record.placingScore);
+  dialog.setText(IDC_LAST_OFFICIAL, formatText("%c", official));
+  dialog.setText(IDC_LAST_CUTS, formatText("(%d,%d,%d)", cuts.cut1, cuts.cut2, cuts.cut3));
+}
 
 void showScoreOrDashes(Dialog& dialog, ControlId id, bool carried, std::int32_t score) {
-  dialog.setText(id, carried ? formatText("%d", score) : "---");
+  dialog.setText(id, carried ? std::to_string(score) : "---");
 }
 
 }  // namespace
 
-void showLastContestant(Dialog& dialog, ContestantNumber number) {
-  dialog.setText(kNumberText, formatText("%d", number));
-}
-
-void showLastPlacing(Dialog& dialog, const Contest& contest, ContestantNumber number,
-                     std::int32_t classIndex) {
+void showLastScore(Dialog& dialog, const Contest& contest, ContestantNumber number,
+                   std::int32_t classIndex, ScoreKind kind) {
+  const JudgingClasses& classes = contest.classes;
   const ScoreRecord& record = scoreRecord(contest, number, classIndex);
-  const Cuts cuts = contest.classes.cuts(classIndex);
-  dialog.setText(kInputText, formatText("%c", record.letter));
-  dialog.setText(kScoreText, formatText("%d", record.placingScore));
-  showLastContestant(dialog, number);
-  dialog.setText(kOfficialText, formatText("%c", contest.classes.official(classIndex)));
-  dialog.setText(kCutsText, formatText("(%d,%d,%d)", cuts.cut1, cuts.cut2, cuts.cut3));
-}
-
-void showLastReasons(Dialog& dialog, const Contest& contest, ContestantNumber number,
-                     std::int32_t classIndex) {
-  showScoreOrDashes(dialog, kReasonsText, contest.classes.hasReasons(classIndex),
-                    scoreRecord(contest, number, classIndex).reasonsScore);
-}
-
-void showLastQuestions(Dialog& dialog, const Contest& contest, ContestantNumber number,
-                       std::int32_t classIndex) {
-  showScoreOrDashes(dialog, kQuestionsText, contest.classes.hasQuestions(classIndex),
-                    scoreRecord(contest, number, classIndex).questionsScore);
+  dialog.setNumber(IDC_LAST_CONTESTANT, number);
+  switch (kind) {
+    case ScoreKind::placings:
+      showPlacing(dialog, record, classes.official(classIndex), classes.cuts(classIndex));
+      break;
+    case ScoreKind::reasons:
+      showScoreOrDashes(dialog, IDC_LAST_REASONS, classes.hasReasons(classIndex),
+                        record.reasonsScore);
+      break;
+    case ScoreKind::questions:
+      showScoreOrDashes(dialog, IDC_LAST_QUESTIONS, classes.hasQuestions(classIndex),
+                        record.questionsScore);
+      break;
+  }
 }
 
 }  // namespace scorvane

@@ -13,6 +13,13 @@ Element elementOr(const std::vector<Element>& column, std::int32_t index, Elemen
   return column[static_cast<std::size_t>(index)];
 }
 
+template <typename Element>
+void removeAt(std::vector<Element>& column, std::int32_t index) {
+  if (index >= 0 && static_cast<std::size_t>(index) < column.size()) {
+    column.erase(column.begin() + index);
+  }
+}
+
 const std::string kEmpty;
 
 }  // namespace
@@ -56,6 +63,17 @@ void JudgingClasses::add(std::string name, bool reasons, bool questions, Placing
   cut2.push_back(cuts.cut2);
   cut3.push_back(cuts.cut3);
   categoryIndex.push_back(category);
+}
+
+void JudgingClasses::remove(std::int32_t index) {
+  removeAt(className, index);
+  removeAt(reasonsFlag, index);
+  removeAt(questionsFlag, index);
+  removeAt(officialLetter, index);
+  removeAt(cut1, index);
+  removeAt(cut2, index);
+  removeAt(cut3, index);
+  removeAt(categoryIndex, index);
 }
 
 void JudgingClasses::clear() {

@@ -39,7 +39,7 @@ struct ContestSettings {
 ///
 /// The columns normally have one length. The undo of a refused class in Setup Classes can leave
 /// some of them shorter than `className` for a while, so everything but that dialog reads through
-/// the functions below, which give the blank value for an element that is missing.
+/// the functions below, which return a blank value for a missing element.
 struct JudgingClasses {
   std::vector<std::string> className;
   std::vector<bool> reasonsFlag;
@@ -62,6 +62,8 @@ struct JudgingClasses {
   /// Appends one class to every column.
   void add(std::string name, bool reasons, bool questions, PlacingLetter official, const Cuts& cuts,
            std::int32_t category);
+  /// Removes a class from every column that has it.
+  void remove(std::int32_t index);
   void clear();
   friend bool operator==(const JudgingClasses&, const JudgingClasses&) = default;
 };
@@ -85,11 +87,11 @@ struct Team {
   friend bool operator==(const Team&, const Team&) = default;
 };
 
-/// A team has no more slots than this, whatever size is set up. Far fewer fit into a team's line of
-/// the contest file; a slip of the finger or a damaged file must not fill the memory with them.
+/// Most slots of a team, whatever size is set up. Far fewer fit into a team's line of the contest
+/// file; a typing slip or a damaged file must not fill the memory.
 inline constexpr std::int32_t kMostTeamSlots = 1000;
 
-/// Member slots that every team is given: totalNumPerTeam, from 0 to kMostTeamSlots.
+/// Member slots of every team: totalNumPerTeam, from 0 to kMostTeamSlots.
 [[nodiscard]] std::size_t teamSlots(const ContestSettings& settings);
 
 struct Contest {
@@ -119,7 +121,7 @@ struct Contest {
 [[nodiscard]] const ScoreRecord& scoreRecord(const Contest& contest, ContestantNumber number,
                                              std::int32_t classIndex);
 
-/// Name of a category; the first category's when the index has none, "" without categories.
+/// Name of a category; the first one's when there is no such index, "" without categories.
 [[nodiscard]] const std::string& categoryName(const Contest& contest, std::int32_t index);
 
 /// Whether any score was entered: some record holds a letter, or a reasons or questions score

@@ -36,7 +36,7 @@ std::int32_t Rotation::roundOf(char group, std::int32_t classIndex) const {
   return modDifference(classIndex, index, classes_);
 }
 
-Rotation roundGroups(const Contest& contest) {
+Rotation rotationOf(const Contest& contest) {
   return {contest.classes.count(), contest.settings.numGroups};
 }
 

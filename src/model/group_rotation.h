@@ -12,19 +12,18 @@ namespace scorvane {
 /// group g judges class (r + g) mod n, all counted from 0. With more groups than classes only the
 /// first n groups judge: a class holds one group at a time, so the others have no cell.
 ///
-/// The cells are computed when they are asked for, so the table of a contest file with absurdly
-/// many classes costs nothing.
+/// Cells are computed when asked for, so a contest file with absurdly many classes costs nothing.
 class Rotation {
  public:
   Rotation(std::int32_t numClasses, std::int32_t numGroups);
 
   /// Number of classes, and of rounds.
   [[nodiscard]] std::int32_t rounds() const { return classes_; }
-  /// Number of groups that stand at a class in every round; those after them never do.
+  /// Number of groups that judge, each in every round; those after them never do.
   [[nodiscard]] std::int32_t judgingGroups() const { return groups_; }
 
-  /// Letter of the group at a class in a round; ' ' when none stands there or either is not
-  /// in the table.
+  /// Letter of the group that judges a class in a round; ' ' when none does or the table has no
+  /// such class or round.
   [[nodiscard]] char groupAt(std::int32_t classIndex, std::int32_t round) const;
   /// The class that a group judges in a round; nothing when it judges none or there is no such
   /// round.
@@ -39,7 +38,7 @@ class Rotation {
   std::int32_t groups_;
 };
 
-/// The rotation of a contest as its classes and numGroups stand now.
-[[nodiscard]] Rotation roundGroups(const Contest& contest);
+/// The rotation for the contest's classes and numGroups as they are now.
+[[nodiscard]] Rotation rotationOf(const Contest& contest);
 
 }  // namespace scorvane

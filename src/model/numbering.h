@@ -9,7 +9,7 @@
 namespace scorvane {
 
 /// Group letter of a contestant number: 'A' + ((number - startNum) mod numGroups), the remainder
-/// with the sign of the dividend, so a number below startNum can give a character below 'A'.
+/// with the sign of the dividend, so a number below startNum can have a character below 'A'.
 /// 'A' when numGroups is 0.
 [[nodiscard]] char groupOfNumber(const ContestSettings& settings, ContestantNumber number);
 
@@ -38,12 +38,12 @@ inline constexpr std::int32_t kMaxGroupLetters = 256 - 'A';
 
 /// Sets nextContestantNum and nextGroupLetter: startNum and "A" without contestants, otherwise one
 /// more than the largest number present (numbers not above 0 do not count) and its group letter.
-/// Gives how many whole rounds of groups lie between startNum and the next number; 0 when numGroups
-/// is 0.
+/// Returns how many whole rounds of groups are between startNum and the next number; 0 when
+/// numGroups is 0.
 std::int32_t updateNextContestant(Contest& contest);
 
-/// Makes the group letters of numGroups groups and gives every contestant the letter that goes
-/// with the number, over any other letter.
+/// Makes the letters of numGroups groups and replaces every contestant's group letter by the one
+/// that goes with the number.
 void regroupContestants(Contest& contest);
 
 }  // namespace scorvane

@@ -29,20 +29,21 @@ struct Cuts {
 /// Whether the letter names an order ('A' to 'X').
 [[nodiscard]] bool isOrderLetter(PlacingLetter letter);
 
-/// The four animal numbers (1 to 4) of a letter, first place first; four zeros for a letter
+/// The four animal numbers (1 to 4) of a letter, best first; four zeros for a letter
 /// outside 'A' to 'X'.
 [[nodiscard]] std::array<std::int32_t, 4> orderOfLetter(PlacingLetter letter);
 
 /// The placing score by the cut rule: 50 less, for every pair of animals that the contestant has
 /// the other way round than the officials, the cuts between the two official positions.
 /// 0 when either letter is outside 'A' to 'X'. At most 50 with cuts of 0 and more; not clamped
-/// below, so legal cuts with a large middle cut can give a score below 0.
+/// below 0.
 [[nodiscard]] std::int32_t placingScore(PlacingLetter contestantLetter,
                                         PlacingLetter officialLetter, const Cuts& cuts);
 
 /// Whether a class's cuts are legal: their total at most 15; with a total of 15 the middle cut at
-/// most 5, with 14 at most 8. (Then the worst score is at least 0 at those two totals; the rules
-/// deliberately stop there.) The values are taken unsigned, as a digits-only field gives them.
+/// most 5, with 14 at most 8. The values are unsigned, as a field of digits holds them.
+///
+/// Odd but required, docs/required-behaviour.md: cuts-can-cost-more-than-fifty
 [[nodiscard]] bool validateCuts(std::uint32_t cut1, std::uint32_t cut2, std::uint32_t cut3);
 
 }  // namespace scorvane

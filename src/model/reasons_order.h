@@ -16,8 +16,8 @@ inline constexpr std::int32_t kNobody = -1;
 /// a slip of the finger or a damaged file can ask for billions.
 inline constexpr std::int32_t kMostReasonsGroupsShown = 10000;
 
-/// Where a contestant stands in the reasons order: reasons group and speaking position (row),
-/// both from 0; both kNobody when unassigned.
+/// A contestant's place in the reasons order: reasons group and speaking position (row), both from
+/// 0; both kNobody when unassigned.
 struct ReasonsPlace {
   std::int32_t group = kNobody;
   std::int32_t position = kNobody;
@@ -25,7 +25,7 @@ struct ReasonsPlace {
   friend bool operator==(const ReasonsPlace&, const ReasonsPlace&) = default;
 };
 
-/// Only occupied cells are stored, so a table promised to be huge costs nothing and a cell that a
+/// Only occupied cells are stored: a huge table in a damaged file costs nothing, and a cell that a
 /// row does not have reads as empty.
 class ReasonsOrder {
  public:

@@ -1,10 +1,25 @@
 #include "model/reasons_places.h"
 
-#include <cstdint>
 #include <utility>
-#include <vector>
+
+#include "text/format.h"
 
 namespace scorvane {
+
+std::int64_t reasonsRows(const Contest& contest) {
+  return static_cast<std::int64_t>(contest.teams.size()) * contest.settings.totalNumPerTeam;
+}
+
+void resetReasonsOrder(Contest& contest, std::int64_t rows) {
+  contest.reasonsOrder.reset(rows, contest.settings.numReasonsGroups);
+  contest.reasonsPlace.clear();
+  for (const auto& [number, name] : contest.contestantNames) contest.reasonsPlace[number] = {};
+}
+
+void setReasonsPlace(Contest& contest, ContestantNumber number, ReasonsPlace place) {
+  contest.reasonsOrder.setCell(place.position, place.group, number);
+  contest.reasonsPlace[number] = place;
+}
 
 void compactReasonsOrder(Contest& contest) {
   const ReasonsOrder::Cells& cells = contest.reasonsOrder.cells();
@@ -24,16 +39,6 @@ void compactReasonsOrder(Contest& contest) {
   contest.reasonsOrder.setCells(std::move(compacted));
 }
 
-void clearReasonsOrder(Contest& contest) {
-  const auto rows =
-      static_cast<std::int64_t>(contest.teams.size()) * contest.settings.totalNumPerTeam;
-  contest.reasonsOrder.reset(rows, contest.settings.numReasonsGroups);
-  contest.reasonsPlace.clear();
-  for (const auto& [number, name] : contest.contestantNames) {
-    contest.reasonsPlace[number] = ReasonsPlace{};
-  }
-}
-
 void leaveReasonsOrder(Contest& contest, ContestantNumber number) {
   ReasonsPlace& place = contest.reasonsPlace[number];
   if (place.group > 0 && place.position > 0) {
@@ -41,6 +46,29 @@ void leaveReasonsOrder(Contest& contest, ContestantNumber number) {
   }
   place = ReasonsPlace{};
   compactReasonsOrder(contest);
+}
+
+bool clearReasonsCells(Contest& contest, ContestantNumber number) {
+  const ReasonsOrder::Cells& cells = contest.reasonsOrder.cells();
+  std::vector<ReasonsOrder::Cells::Entry> kept(cells.begin(), cells.end());
+  if (std::erase_if(kept, [number](const auto& entry) { return entry.second == number; }) == 0) {
+    return false;
+  }
+  contest.reasonsOrder.setCells(std::move(kept));
+  return true;
+}
+
+std::vector<ContestantNumber> unassignedSpeakers(const Contest& contest) {
+  std::vector<ContestantNumber> unassigned;
+  for (const auto& [number, name] : contest.contestantNames) {
+    const bool isAssigned = reasonsPlaceOf(contest, number).isAssigned();
+    if (!name.empty() && !isAssigned) unassigned.push_back(number);
+  }
+  return unassigned;
+}
+
+std::string speakerLine(const Contest& contest, ContestantNumber number) {
+  return formatText("     %d - %s", number, contestantName(contest, number).c_str());
 }
 
 }  // namespace scorvane

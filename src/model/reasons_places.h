@@ -1,25 +1,42 @@
-// Changing who has which place in the reasons order: the table and the contestants' places
+// Who has which place in the reasons order: changing the table and the contestants' places
 // together.
 #pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
 
 #include "model/contest.h"
 
 namespace scorvane {
 
+/// Rows of the reasons order: one for every member slot of the teams.
+[[nodiscard]] std::int64_t reasonsRows(const Contest& contest);
+
+/// Makes the reasons order an empty one of `rows` rows, and every contestant unassigned.
+void resetReasonsOrder(Contest& contest, std::int64_t rows);
+
+/// Puts a contestant into a cell of the table, which must exist; the place follows.
+void setReasonsPlace(Contest& contest, ContestantNumber number, ReasonsPlace place);
+
 /// Moves every contestant of the reasons order up until no empty cell lies above: in each of the
-/// numReasonsGroups groups the contestants stand in rows 0, 1, 2, ... in their old order, and
-/// their places follow. A contestant in the table whose place is unassigned stays unassigned.
-/// Linear in the contestants placed.
+/// numReasonsGroups groups they then have rows 0, 1, 2, ... in their old order, and their places
+/// follow. A contestant in the table whose place is unassigned stays unassigned. Linear in the
+/// contestants placed.
 void compactReasonsOrder(Contest& contest);
 
-/// Makes the reasons order an empty one, a row for every member slot of the teams, and every
-/// contestant unassigned.
-void clearReasonsOrder(Contest& contest);
-
-/// Makes a contestant unassigned and closes the gap in the reasons order.
+/// Makes a contestant unassigned and compacts the reasons order.
 ///
-/// Deliberate: only a cell outside the first row and the first group is emptied; a contestant
-/// there keeps the cell although unassigned.
+/// Odd but required, docs/required-behaviour.md: deleted-contestant-keeps-cell
 void leaveReasonsOrder(Contest& contest, ContestantNumber number);
+
+/// Empties every cell that holds a contestant, whatever the place says; whether there was one.
+bool clearReasonsCells(Contest& contest, ContestantNumber number);
+
+/// The speakers without a place: named contestants, in ascending order.
+[[nodiscard]] std::vector<ContestantNumber> unassignedSpeakers(const Contest& contest);
+
+/// A speaker as lists and reports show one: "     101 - Ann Lee".
+[[nodiscard]] std::string speakerLine(const Contest& contest, ContestantNumber number);
 
 }  // namespace scorvane

@@ -1,6 +1,5 @@
 #include "model/roster.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -19,17 +18,28 @@ ContestantNumber after(ContestantNumber number, std::uint32_t step) {
 
 }  // namespace
 
-std::string memberLine(const Contest& contest, ContestantNumber number, std::int32_t slot) {
-  std::string line = formatText("%d - %s   %c", number, contestantName(contest, number).c_str(),
-                                groupOfContestant(contest, number));
-  if (slot >= contest.settings.numPerTeam) line += " (alternate)";
-  return line;
+void setContestant(Contest& contest, ContestantNumber number, const std::string& name,
+                   std::optional<char> group) {
+  contest.contestantNames[number] = name;
+  contest.contestantGroup[number] = group.value_or(groupOfNumber(contest.settings, number));
 }
 
-void addBlankScores(Contest& contest, ContestantNumber number) {
+void addContestant(Contest& contest, ContestantNumber number, const std::string& name,
+                   std::optional<char> group) {
+  setContestant(contest, number, name, group);
   ClassScores records;
   for (std::int32_t k = 0; k < contest.classes.count(); ++k) records[k] = ScoreRecord{};
   contest.scores[number] = std::move(records);
+}
+
+void vacateNumber(Contest& contest, ContestantNumber number) {
+  contest.contestantNames[number] = "";
+  leaveReasonsOrder(contest, number);
+}
+
+void removeContestant(Contest& contest, ContestantNumber number) {
+  leaveReasonsOrder(contest, number);
+  discardContestants(contest, {number});
 }
 
 void discardContestants(Contest& contest, const std::vector<ContestantNumber>& numbers) {
@@ -37,6 +47,13 @@ void discardContestants(Contest& contest, const std::vector<ContestantNumber>& n
     contest.contestantNames.erase(number);
     contest.contestantGroup.erase(number);
   }
+}
+
+std::string memberLine(const Contest& contest, ContestantNumber number, std::int32_t slot) {
+  std::string line = formatText("%d - %s   %c", number, contestantName(contest, number).c_str(),
+                                groupOfContestant(contest, number));
+  if (slot >= contest.settings.numPerTeam) line += " (alternate)";
+  return line;
 }
 
 std::vector<ContestantNumber> fillTeamSlots(Contest& contest,
@@ -57,9 +74,7 @@ std::vector<ContestantNumber> fillTeamSlots(Contest& contest,
 void addTeam(Contest& contest, const std::string& name, Team team) {
   for (const ContestantNumber number : team.members) contest.reasonsPlace[number] = {};
   contest.teams[name] = std::move(team);
-  const auto rows =
-      static_cast<std::int64_t>(contest.teams.size()) * contest.settings.totalNumPerTeam;
-  contest.reasonsOrder.growTo(rows, contest.settings.numReasonsGroups);
+  contest.reasonsOrder.growTo(reasonsRows(contest), contest.settings.numReasonsGroups);
 }
 
 void replaceTeam(Contest& contest, const std::string& oldName, const std::string& newName,
@@ -83,6 +98,12 @@ void removeTeam(Contest& contest, const std::string& name) {
   }
   if (leftTheOrder) compactReasonsOrder(contest);
   contest.teams.erase(found);
+}
+
+void removeAllTeams(Contest& contest) {
+  contest.teams.clear();
+  contest.contestantNames.clear();
+  contest.settings.nextContestantNum = contest.settings.startNum;
 }
 
 }  // namespace scorvane

@@ -16,7 +16,7 @@ using print_operation::SelectFont;
 using print_operation::StartPage;
 using print_operation::Text;
 
-/// So many lines of the report stand at the head of every page.
+/// Lines of the report that every page repeats at its head.
 constexpr int kHeaderLinesOfReport = 4;
 /// The header takes seven rows, also when the report is too short to fill them.
 constexpr std::int64_t kFirstBodyRow = 8;
@@ -37,7 +37,7 @@ std::string replaced(std::string_view text, char from, char to) {
   return result;
 }
 
-/// Lays one job out, page after page.
+/// Lays out one job, page after page.
 class Layout {
  public:
   Layout(std::string_view report, const PrintHeader& header, std::int64_t lastBodyRow)
@@ -56,7 +56,7 @@ class Layout {
         startPage();
       }
     }
-    // Deliberate: the last footer stands one row higher than the footers of full pages.
+    // Odd but required, docs/required-behaviour.md: print-last-footer
     row_ = lastBodyRow_;
     endPage();
     return std::move(operations_);

@@ -7,13 +7,13 @@
 #include <string>
 #include <utility>
 
+#include "output/output_ids.h"
+
 namespace scorvane {
 
 namespace {
 
-constexpr int kProgressText = 1042;
-
-/// What the abort procedure must reach, to which Windows passes nothing of ours. One job at a time.
+/// Global because Windows passes no data of ours to the abort procedure. One job at a time.
 struct Job {
   bool running = false;  ///< cleared by the abort dialog
   HWND dialog = nullptr;
@@ -76,7 +76,7 @@ class SelectedFont {
     if (font_ != nullptr) DeleteObject(font_);
   }
 
-  /// Keeps the font there is when the new one cannot be had.
+  /// Keeps the present font when the new one cannot be made.
   void select(PrintFont font) {
     if (font == PrintFont::small) {
       selectHeight(-55);
@@ -141,7 +141,7 @@ class AbortableJob {
 
   void showProgress(const std::string& text) const {
     if (job().dialog == nullptr) return;
-    SetDlgItemTextA(job().dialog, kProgressText, text.c_str());
+    SetDlgItemTextA(job().dialog, IDC_PRINT_PROGRESS, text.c_str());
     RedrawWindow(job().dialog, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
   }
 
@@ -161,7 +161,7 @@ PageMetrics measure(HDC printer, const SelectedFont& font) {
   return {lineHeight, linesThatFit(GetDeviceCaps(printer, VERTRES), lineHeight)};
 }
 
-/// Performs operations on the printer; each gives false when the printer refuses it.
+/// Performs operations on the printer; each returns false when the printer refuses it.
 class Performer {
  public:
   Performer(HDC printer, SelectedFont& font, int lineHeight, const AbortableJob& abortable,
@@ -250,7 +250,7 @@ void printReport(HWND owner, HINSTANCE instance, std::string_view report, PrintH
   const std::string text(report);
   HDC chosen = choosePrinter(owner);
   if (chosen == nullptr) return;
-  // Deliberate, though no bitmap is ever printed.
+  // Odd but required, docs/required-behaviour.md: print-needs-bitmaps
   if ((GetDeviceCaps(chosen, RASTERCAPS) & RC_STRETCHDIB) == 0) {
     DeleteDC(chosen);
     MessageBoxA(owner, "Printer does not support StretchDIBits.", "Device Error", MB_OK);

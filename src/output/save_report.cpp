@@ -2,7 +2,7 @@
 
 #include "session/open_contest.h"
 #include "storage/safe_save.h"
-#include "text/line_ends.h"
+#include "text/characters.h"
 
 namespace scorvane {
 

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "model/class_lists.h"
+#include "reasons/reasons_ids.h"
 
 namespace scorvane {
 
@@ -11,7 +12,7 @@ void ReasonsClassDialog::onOpen(Dialog& dialog) {
   for (const std::int32_t index : reasonsClasses(contest_.classes)) {
     lines.push_back({classLine(contest_.classes, index), index});
   }
-  dialog.setLines(kClasses, lines);
+  dialog.setLines(IDC_REASONS_CLASSES, lines);
 }
 
 void ReasonsClassDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
@@ -25,7 +26,7 @@ void ReasonsClassDialog::onClose(Dialog& dialog) {
 }
 
 void ReasonsClassDialog::choose(Dialog& dialog) {
-  const auto chosen = dialog.selectedNumber(kClasses);
+  const auto chosen = dialog.selectedNumber(IDC_REASONS_CLASSES);
   if (!chosen) {
     dialog.show("You must select a reasons class before proceeding.", "Error");
     return;

@@ -11,9 +11,6 @@ namespace scorvane {
 
 class ReasonsClassDialog : public DialogBehaviour {
  public:
-  static constexpr int kResourceId = 146;
-  static constexpr ControlId kClasses = 1052;
-
   /// Offers the reasons classes of `contest`, which must outlive the dialog.
   explicit ReasonsClassDialog(const Contest& contest) : contest_(contest) {}
 

@@ -5,8 +5,7 @@
 #include <vector>
 
 #include "model/reasons_places.h"
-#include "reasons/reasons_bands.h"
-#include "reasons/speakers.h"
+#include "reasons/reasons_ids.h"
 #include "session/contest_file.h"
 #include "session/open_contest.h"
 #include "text/format.h"
@@ -43,11 +42,6 @@ std::vector<ListLine> orderLines(const Contest& contest, std::int32_t group) {
   return lines;
 }
 
-void putInto(Contest& contest, std::int32_t row, std::int32_t group, ContestantNumber number) {
-  contest.reasonsOrder.setCell(row, group, number);
-  contest.reasonsPlace[number] = {group, row};
-}
-
 bool isListed(const Dialog& dialog, ControlId list, ContestantNumber number) {
   for (int i = 0; i < dialog.lineCount(list); ++i) {
     if (dialog.lineKey(list, i) == LineKey{number}) return true;
@@ -55,36 +49,25 @@ bool isListed(const Dialog& dialog, ControlId list, ContestantNumber number) {
   return false;
 }
 
-// A contestant deleted and named anew can have kept a cell without the place that belongs to it;
-// nobody speaks twice. Gives whether there was such a cell.
-bool clearCellsOf(Contest& contest, ContestantNumber number) {
-  std::vector<ReasonsOrder::Cells::Entry> cells(contest.reasonsOrder.cells().begin(),
-                                                contest.reasonsOrder.cells().end());
-  if (std::erase_if(cells, [number](const auto& c) { return c.second == number; }) == 0)
-    return false;
-  contest.reasonsOrder.setCells(std::move(cells));
-  return true;
-}
-
 }  // namespace
 
 void ReasonsOrderEditDialog::onOpen(Dialog& dialog) {
   Contest& contest = currentContest();
   compactReasonsOrder(contest);
-  dialog.setLines(kGroups, groupLines(contest));
-  dialog.setLines(kUnassigned, unassignedLines(contest));
+  dialog.setLines(IDC_REASONS_GROUPS, groupLines(contest));
+  dialog.setLines(IDC_UNASSIGNED_SPEAKERS, unassignedLines(contest));
 }
 
 void ReasonsOrderEditDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
   if (event == ControlEvent::selectionChanged) {
-    if (id == kGroups) showGroup(dialog);
-    if (id == kUnassigned) assign(dialog);
+    if (id == IDC_REASONS_GROUPS) showGroup(dialog);
+    if (id == IDC_UNASSIGNED_SPEAKERS) assign(dialog);
   }
   if (event == ControlEvent::clicked) {
-    if (id == kMoveUp) moveUp(dialog);
-    if (id == kMoveDown) moveDown(dialog);
-    if (id == kRemove) remove(dialog);
-    if (id == kDone) finish(dialog);
+    if (id == IDC_SPEAKER_UP) moveUp(dialog);
+    if (id == IDC_SPEAKER_DOWN) moveDown(dialog);
+    if (id == IDC_REMOVE_SPEAKER) remove(dialog);
+    if (id == IDC_REASONS_ORDER_DONE) finish(dialog);
   }
 }
 
@@ -95,14 +78,14 @@ void ReasonsOrderEditDialog::onClose(Dialog& dialog) {
 void ReasonsOrderEditDialog::showGroup(Dialog& dialog) {
   Contest& contest = currentContest();
   compactReasonsOrder(contest);
-  const std::optional<int> group = dialog.selection(kGroups);
-  if (group) dialog.setLines(kOrder, orderLines(contest, *group));
+  const std::optional<int> group = dialog.selection(IDC_REASONS_GROUPS);
+  if (group) dialog.setLines(IDC_SPEAKERS, orderLines(contest, *group));
 }
 
 std::optional<ReasonsOrderEditDialog::Speaker> ReasonsOrderEditDialog::selectedSpeaker(
     Dialog& dialog) {
-  const std::optional<int> group = dialog.selection(kGroups);
-  const std::optional<int> row = dialog.selection(kOrder);
+  const std::optional<int> group = dialog.selection(IDC_REASONS_GROUPS);
+  const std::optional<int> row = dialog.selection(IDC_SPEAKERS);
   if (group && row) return Speaker{*group, *row};
   dialog.show("A Reasons Group and Contestant must be selected.", "Warning");
   return std::nullopt;
@@ -114,11 +97,11 @@ void ReasonsOrderEditDialog::exchange(Dialog& dialog, Speaker speaker, int row) 
   const auto [group, from] = speaker;
   const ContestantNumber moved = contest.reasonsOrder.cell(from, group);
   const ContestantNumber other = contest.reasonsOrder.cell(row, group);
-  putInto(contest, row, group, moved);
-  putInto(contest, from, group, other);
-  dialog.removeLine(kOrder, from);
-  dialog.insertLine(kOrder, row, lineOf(contest, moved));
-  dialog.select(kOrder, row);
+  setReasonsPlace(contest, moved, {group, row});
+  setReasonsPlace(contest, other, {group, from});
+  dialog.removeLine(IDC_SPEAKERS, from);
+  dialog.insertLine(IDC_SPEAKERS, row, lineOf(contest, moved));
+  dialog.select(IDC_SPEAKERS, row);
 }
 
 void ReasonsOrderEditDialog::moveUp(Dialog& dialog) {
@@ -134,7 +117,7 @@ void ReasonsOrderEditDialog::moveUp(Dialog& dialog) {
 void ReasonsOrderEditDialog::moveDown(Dialog& dialog) {
   const std::optional<Speaker> speaker = selectedSpeaker(dialog);
   if (!speaker) return;
-  if (speaker->row + 1 == dialog.lineCount(kOrder)) {
+  if (speaker->row + 1 == dialog.lineCount(IDC_SPEAKERS)) {
     dialog.show("The bottom Contestant cannot be moved down.", "Error");
     return;
   }
@@ -148,48 +131,50 @@ void ReasonsOrderEditDialog::remove(Dialog& dialog) {
   const ContestantNumber number = contest.reasonsOrder.cell(speaker->row, speaker->group);
   contest.reasonsOrder.setCell(speaker->row, speaker->group, kNobody);
   contest.reasonsPlace[number] = {};
-  dialog.removeLine(kOrder, speaker->row);
-  // Whoever kept a cell without the place that belongs to it can be listed already.
-  if (!isListed(dialog, kUnassigned, number)) {
-    dialog.addLine(kUnassigned, lineOf(contest, number));
+  dialog.removeLine(IDC_SPEAKERS, speaker->row);
+  // Who had kept a cell without the place that belongs to it is listed already.
+  if (!isListed(dialog, IDC_UNASSIGNED_SPEAKERS, number)) {
+    dialog.addLine(IDC_UNASSIGNED_SPEAKERS, lineOf(contest, number));
   }
   compactReasonsOrder(contest);
 }
 
 void ReasonsOrderEditDialog::assign(Dialog& dialog) {
-  const std::optional<int> line = dialog.selection(kUnassigned);
-  const std::optional<int> group = dialog.selection(kGroups);
+  const std::optional<int> line = dialog.selection(IDC_UNASSIGNED_SPEAKERS);
+  const std::optional<int> group = dialog.selection(IDC_REASONS_GROUPS);
   if (!line) return;
   if (!group) {
     dialog.show("A Reasons Group must be selected to move an unassigned contestant.", "Warning");
-    dialog.select(kUnassigned, std::nullopt);
+    dialog.select(IDC_UNASSIGNED_SPEAKERS, std::nullopt);
     return;
   }
   Contest& contest = currentContest();
-  const int row = dialog.lineCount(kOrder);
+  const int row = dialog.lineCount(IDC_SPEAKERS);
   if (row >= contest.reasonsOrder.rowCount()) {
     dialog.show("That reasons group is full, select another group to add this contestant to.",
                 "Warning");
-    dialog.select(kUnassigned, std::nullopt);
-    dialog.select(kGroups, std::nullopt);
+    dialog.select(IDC_UNASSIGNED_SPEAKERS, std::nullopt);
+    dialog.select(IDC_REASONS_GROUPS, std::nullopt);
     return;
   }
-  const ContestantNumber number = *dialog.selectedNumber(kUnassigned);
-  const bool stoodElsewhere = clearCellsOf(contest, number);
-  putInto(contest, row, *group, number);
+  const ContestantNumber number = *dialog.selectedNumber(IDC_UNASSIGNED_SPEAKERS);
+  // A contestant deleted and named anew can have kept a cell without the place that belongs to it;
+  // nobody speaks twice.
+  const bool hadCell = clearReasonsCells(contest, number);
+  setReasonsPlace(contest, number, {*group, row});
   compactReasonsOrder(contest);
-  dialog.removeLine(kUnassigned, *line);
-  if (stoodElsewhere) {
-    dialog.setLines(kOrder, orderLines(contest, *group));
+  dialog.removeLine(IDC_UNASSIGNED_SPEAKERS, *line);
+  if (hadCell) {
+    dialog.setLines(IDC_SPEAKERS, orderLines(contest, *group));
   } else {
-    dialog.addLine(kOrder, lineOf(contest, number));
+    dialog.addLine(IDC_SPEAKERS, lineOf(contest, number));
   }
 }
 
 void ReasonsOrderEditDialog::finish(Dialog& dialog) {
   compactReasonsOrder(currentContest());
   saveCurrent(dialog);
-  dialog.end(kDone);
+  dialog.end(IDC_REASONS_ORDER_DONE);
 }
 
 }  // namespace scorvane

@@ -1,7 +1,7 @@
 // "Reasons Order Edit": the officials change by hand who speaks when in which reasons group.
 #pragma once
 
-#include <cstdint>
+#include <optional>
 
 #include "model/contest.h"
 #include "ui/dialog.h"
@@ -12,21 +12,12 @@ namespace scorvane {
 /// The order is compacted after every change, so line i of a group's list is always row i.
 class ReasonsOrderEditDialog : public DialogBehaviour {
  public:
-  static constexpr int kResourceId = 165;
-  static constexpr ControlId kGroups = 1081;
-  static constexpr ControlId kMoveUp = 1082;
-  static constexpr ControlId kOrder = 1083;
-  static constexpr ControlId kUnassigned = 1084;
-  static constexpr ControlId kMoveDown = 1085;
-  static constexpr ControlId kDone = 1086;
-  static constexpr ControlId kRemove = 1088;
-
   void onOpen(Dialog& dialog) override;
   void onEvent(Dialog& dialog, ControlId id, ControlEvent event) override;
   void onClose(Dialog& dialog) override;
 
  private:
-  /// A speaker the operator has marked: reasons group and row.
+  /// The speaker selected: reasons group and row.
   struct Speaker {
     int group = 0;
     int row = 0;

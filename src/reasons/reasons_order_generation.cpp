@@ -18,8 +18,8 @@ struct GroupRows {
   std::int32_t firstFree = 0;  ///< rows are never given back, so this only grows
 };
 
-/// Finds a free row by chance; the first free one when chance does not hit one in time. Nothing
-/// when all rows are taken.
+/// Takes a free row at random; the first free one after too many tries. Nothing when all rows are
+/// taken.
 std::optional<std::int32_t> takeFreeRow(GroupRows& group, std::int32_t rows,
                                         ReasonsRandom& random) {
   constexpr int kMostTries = 100;
@@ -56,9 +56,7 @@ std::optional<std::vector<ReasonsOrder::Cells::Entry>> drawOrder(const Contest& 
 }
 
 void replaceReasonsOrder(Contest& contest, std::vector<ReasonsOrder::Cells::Entry> cells) {
-  contest.reasonsOrder.reset(contest.reasonsOrder.rowCount(), contest.settings.numReasonsGroups);
-  contest.reasonsPlace.clear();
-  for (const auto& [number, name] : contest.contestantNames) contest.reasonsPlace[number] = {};
+  resetReasonsOrder(contest, contest.reasonsOrder.rowCount());
   for (const auto& [cell, number] : cells) {
     contest.reasonsPlace[number] = {cell.first, cell.second};
   }
@@ -84,10 +82,6 @@ std::optional<std::string> generateReasonsOrder(Contest& contest, std::uint32_t 
   if (groups < classes) {
     return "There must be at least as many reasons takers as there are reasons classes.\n"
            "\t\tA reasons order can not be assigned.";
-  }
-  if (contest.reasonsOrder.empty()) {
-    return "There are no teams to take places in the reasons order.  "
-           "Reasons order cannot be generated.";
   }
   auto cells = drawOrder(contest, reasonsGroupStep(groups, classes), seed);
   if (!cells) {

@@ -1,4 +1,4 @@
-// Dealing the contestants out to the reasons groups, and their speaking order by chance.
+// Assigning the contestants to the reasons groups, and their speaking order at random.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,7 @@
 
 namespace scorvane {
 
-/// The classic linear congruential generator; one seed always gives one reasons order.
+/// The classic linear congruential generator: the same seed always makes the same reasons order.
 class ReasonsRandom {
  public:
   explicit ReasonsRandom(std::uint32_t seed) : state_(seed) {}
@@ -20,14 +20,14 @@ class ReasonsRandom {
   std::uint32_t state_;
 };
 
-/// How far the group advances after every contestant at an odd place of the count, from the
-/// number of reasons groups and of reasons classes: the number of classes when the groups are a
-/// multiple of them (twice or more), otherwise 1.
+/// How far the group advances after the first, third, fifth ... contestant (after the others by 1):
+/// the number of reasons classes when the reasons groups are a multiple of it (twice or more),
+/// otherwise 1.
 [[nodiscard]] std::int32_t reasonsGroupStep(std::int32_t groups, std::int32_t classes);
 
 /// Replaces the reasons order and all places by new ones: contestants with a name, in number
-/// order, go to the groups in a fixed pattern and to rows by chance; the order is compacted.
-/// Gives the message for the operator when no order can be made; nothing is changed then.
+/// order, go to the groups in a fixed pattern and to random rows; the order is compacted. Returns
+/// the message for the operator when no order can be made; nothing has changed then.
 [[nodiscard]] std::optional<std::string> generateReasonsOrder(Contest& contest, std::uint32_t seed);
 
 }  // namespace scorvane

@@ -14,7 +14,7 @@ namespace {
 
 // With more groups than classes, one line that says so: the other groups stand nowhere.
 void appendIdleGroups(std::string& out, const Contest& contest, const char* consequence) {
-  const Rotation rotation = roundGroups(contest);
+  const Rotation rotation = rotationOf(contest);
   const std::int32_t groups = letteredGroups(contest.settings.numGroups);
   if (rotation.rounds() == 0 || groups == rotation.judgingGroups()) return;
   appendFormat(out, "More groups than classes: groups from %c on judge none%s.\n",
@@ -102,7 +102,7 @@ class NumberGrid {
 
 std::string roundAssignmentsReport(const Contest& contest) {
   const JudgingClasses& classes = contest.classes;
-  const Rotation rotation = roundGroups(contest);
+  const Rotation rotation = rotationOf(contest);
   const std::int32_t rounds = rotation.rounds();
   std::string out = "Round Assignments Report\n\n";
   appendRoundHeading(out, rounds);
@@ -140,7 +140,7 @@ std::string groupAssignmentsReport(const Contest& contest) {
 }
 
 std::string roundVerificationReport(const Contest& contest, std::int32_t round) {
-  const Rotation rotation = roundGroups(contest);
+  const Rotation rotation = rotationOf(contest);
   const std::int32_t groups = letteredGroups(contest.settings.numGroups);
   std::string out =
       formatText("Round %lld Verification Report\n\n", static_cast<long long>(round) + 1);

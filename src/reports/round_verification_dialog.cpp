@@ -10,11 +10,11 @@
 
 namespace scorvane {
 
-RoundVerificationDialog::RoundVerificationDialog() : rotation_(roundGroups(currentContest())) {}
+RoundVerificationDialog::RoundVerificationDialog() : rotation_(rotationOf(currentContest())) {}
 
 void RoundVerificationDialog::onOpen(Dialog& dialog) {
   const Contest& contest = currentContest();
-  rotation_ = roundGroups(contest);
+  rotation_ = rotationOf(contest);
   std::vector<std::string> rounds;
   std::vector<std::string> groups;
   for (std::int32_t k = 0; k < contest.classes.count(); ++k) {

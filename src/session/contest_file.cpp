@@ -29,7 +29,7 @@ constexpr const char* kNotSaved =
     "Select File->Save As and save your file to another location.\r\n"
     "Again, your file did NOT save!  Please use File->Save As to ensure your work is saved.\r\n";
 
-/// What a file held when this program last read or wrote it.
+/// What the contest's file held when this program last read or wrote it.
 struct KnownContent {
   std::string path;
   std::size_t hash = 0;
@@ -44,7 +44,7 @@ std::size_t hashOf(std::string_view bytes) {
   return std::hash<std::string_view>()(bytes);
 }
 
-/// Whether saving would take away what somebody else has put into the current file meanwhile, such
+/// Whether saving would overwrite what somebody else has saved to the current file meanwhile, such
 /// as a second copy of the program with the same contest.
 bool isForeign(std::string_view found, std::string_view ownBytes) {
   return knownContent().path == currentFileName() && hashOf(found) != knownContent().hash &&
@@ -66,9 +66,9 @@ bool saveAndKeepOld(const std::string& path, const std::optional<std::string>& o
   return saveSafely(files, path, bytes);
 }
 
-// No other copy of the program can save between the look at the file and its replacement.
 Saving save(std::string_view bytes, ForeignChanges foreignChanges) {
-  const auto turn = sessionFiles().lockForSaving(currentFileName());
+  // No other copy of the program may save between the look at the file and its replacement.
+  const auto lock = sessionFiles().lockForSaving(currentFileName());
   const std::optional<std::string> old = sessionFiles().readWhole(currentFileName());
   if (foreignChanges == ForeignChanges::keep && old && isForeign(*old, bytes)) {
     return Saving::wouldLoseForeignChanges;
@@ -89,41 +89,35 @@ bool agreesToReplaceForeignChanges(Window& owner) {
       currentFileName().c_str()));
 }
 
-void startNewContest() {
-  resetContest();
-  reportText() = kWelcomeText;
-}
-
-void refuseMissingFile(Window& owner) {
-  startNewContest();
-  owner.show(formatText("%s (%s) %s", "Invalid file name", currentFileName().c_str(),
-                        ", or file does not exist."),
-             "Information");
-  currentFileName().clear();
-}
-
-void refuse(Window& owner, ContestFault fault) {
-  if (fault == ContestFault::scoreCountMismatch) {
-    owner.show("Number of scores in the file is not correct.  None read.", "Information");
-    startNewContest();
-    currentFileName().clear();
-  } else {
-    startNewContest();
-    currentFileName().clear();
-    owner.show("Illegal or corrupt data file.", "Error!");
+void saveToCurrentFile(Window& owner, ForeignChanges foreignChanges) {
+  const std::string bytes = writeContest(currentContest());
+  Saving saving = save(bytes, foreignChanges);
+  if (saving == Saving::wouldLoseForeignChanges) {
+    if (!agreesToReplaceForeignChanges(owner)) return contestWasNotSaved(NotSaved::cancelled);
+    saving = save(bytes, ForeignChanges::replace);
   }
+  if (saving == Saving::failed) {
+    contestWasNotSaved(NotSaved::failed);
+    owner.show(kNotSaved, "File Save Error");
+    return;
+  }
+  // The contest in memory gets the placeholder that was written for it.
+  if (currentContest().categories.empty()) currentContest().categories = {kNoCategory};
 }
 
-/// Lets the operator choose the file to open; a cancelled choice leaves a new contest.
-bool chooseFileToOpen(Window& owner) {
-  currentFileName().clear();
-  auto path = owner.chooseFile(contestFileQuestion(FileQuestion::Purpose::open));
-  if (!path) {
-    startNewContest();
-    return false;
+void showFault(Window& owner, ContestFault fault, const std::string& path) {
+  switch (fault) {
+    case ContestFault::unreadable:
+      owner.show(formatText("Invalid file name (%s) , or file does not exist.", path.c_str()),
+                 "Information");
+      break;
+    case ContestFault::notAContest:
+      owner.show("Illegal or corrupt data file.", "Error!");
+      break;
+    case ContestFault::scoreCountMismatch:
+      owner.show("Number of scores in the file is not correct.  None read.", "Information");
+      break;
   }
-  currentFileName() = std::move(*path);
-  return true;
 }
 
 }  // namespace
@@ -137,66 +131,61 @@ FileQuestion contestFileQuestion(FileQuestion::Purpose purpose) {
   return question;
 }
 
-void resetContest() {
+void startNewContest() {
+  leaveContest();
   currentContest() = newContest();
-  reportText().clear();
+  currentFileName().clear();
+  reportText() = kWelcomeText;
 }
 
-void saveContest(Window& owner, bool askForName) {
-  if (askForName) {
-    currentFileName().clear();
-    auto path = owner.chooseFile(contestFileQuestion(FileQuestion::Purpose::save));
-    if (!path) return;
-    currentFileName() = std::move(*path);
+bool openContest(Window& owner, const std::string& path) {
+  std::variant<LoadedContest, ContestFault> loading = ContestFault::unreadable;
+  if (path.size() <= kMaxPathLength) loading = loadContestFile(sessionFiles(), path);
+  if (const auto* fault = std::get_if<ContestFault>(&loading)) {
+    startNewContest();
+    showFault(owner, *fault, path);
+    return false;
   }
-  Contest& contest = currentContest();
-  const std::string bytes = writeContest(contest);
-  // Whoever has just chosen a name has chosen to replace what it stands for.
-  Saving saving = save(bytes, askForName ? ForeignChanges::replace : ForeignChanges::keep);
-  if (saving == Saving::wouldLoseForeignChanges) {
-    if (!agreesToReplaceForeignChanges(owner)) return;
-    saving = save(bytes, ForeignChanges::replace);
-  }
-  if (saving == Saving::failed) {
-    contestWasNotSaved();
-    owner.show(kNotSaved, "File Save Error");
-    return;
-  }
-  // The contest in memory gets the placeholder that the file was given.
-  if (contest.categories.empty()) contest.categories = {kNoCategory};
+  leaveContest();
+  auto& loaded = std::get<LoadedContest>(loading);
+  currentContest() = std::move(loaded.contest);
+  currentFileName() = path;
+  knownContent() = {path, hashOf(loaded.bytes)};
+  contestHasFile(path, loaded.bytes);
+  if (isKeepingWork()) followRenamedContest(sessionFiles(), path, savedState().hash);
+  reportText() = offerRecovery(owner).value_or(kWelcomeText);
+  return true;
+}
+
+bool openChosenContest(Window& owner) {
+  const auto path = owner.chooseFile(contestFileQuestion(FileQuestion::Purpose::open));
+  if (path) return openContest(owner, *path);
+  // Odd but required, docs/required-behaviour.md: cancelled-open-starts-anew
+  startNewContest();
+  return false;
 }
 
 void saveCurrent(Window& owner) {
-  saveContest(owner, currentFileName().empty());
+  if (currentFileName().empty()) {
+    saveContestAs(owner);
+  } else {
+    saveToCurrentFile(owner, ForeignChanges::keep);
+  }
+}
+
+void saveContestAs(Window& owner) {
+  // Odd but required, docs/required-behaviour.md: save-as-forgets-the-name
+  currentFileName().clear();
+  auto path = owner.chooseFile(contestFileQuestion(FileQuestion::Purpose::save));
+  if (!path) return contestWasNotSaved(NotSaved::cancelled);
+  currentFileName() = std::move(*path);
+  // Choosing the name was the consent to replace what is there.
+  saveToCurrentFile(owner, ForeignChanges::replace);
 }
 
 bool saveElsewhere(const std::string& path, std::string_view bytes) {
-  const auto turn = sessionFiles().lockForSaving(path);
+  const auto lock = sessionFiles().lockForSaving(path);
   return saveAndKeepOld(path, sessionFiles().readWhole(path), bytes);
-}
-
-bool loadContest(Window& owner, bool useGivenPath) {
-  leaveContest();
-  if (!useGivenPath && !chooseFileToOpen(owner)) return false;
-  reportText() = kWelcomeText;
-  const bool isUsableName = currentFileName().size() <= kMaxPathLength;
-  const auto bytes = isUsableName ? sessionFiles().readWhole(currentFileName()) : std::nullopt;
-  if (!bytes) {
-    refuseMissingFile(owner);
-    return false;
-  }
-  resetContest();
-  auto reading = readContest(*bytes);
-  if (const auto* fault = std::get_if<ContestFault>(&reading)) {
-    refuse(owner, *fault);
-    return false;
-  }
-  currentContest() = std::get<Contest>(std::move(reading));
-  knownContent() = {currentFileName(), hashOf(*bytes)};
-  contestHasFile(currentFileName(), *bytes);
-  if (isKeepingWork()) followRenamedContest(sessionFiles(), currentFileName(), savedState().hash);
-  reportText() = offerRecovery(owner).value_or(kWelcomeText);
-  return true;
 }
 
 }  // namespace scorvane

@@ -1,4 +1,5 @@
-// Resetting, saving and loading the current contest, as commands and dialogs use them.
+// Opening and saving the open contest's file, with all that is asked and said on the way. What the
+// main window then shows is up to its commands (app/file_menu.h).
 #pragma once
 
 #include <string>
@@ -9,32 +10,31 @@
 
 namespace scorvane {
 
-/// Makes the current contest a new, empty one and empties the report text. The current file name
-/// stays.
-void resetContest();
+/// Makes the open contest a new one without a file, with the welcome text for a report.
+void startNewContest();
 
-/// Writes the contest to the current file, or, with `askForName`, to a file the operator chooses;
-/// the name is forgotten before asking, so a cancelled choice leaves the contest untitled. When
-/// somebody else has changed the current file since it was read or written here, the operator is
-/// asked before it is replaced. A save that fails leaves the old file whole and shows a message
-/// ("File Save Error").
-void saveContest(Window& owner, bool askForName);
+/// Opens a contest file. Unsaved work that was kept of it is offered then, and the report tells
+/// what came back; else it is the welcome text. When it cannot be read, says why, leaves a new
+/// contest and returns false. A path of more than kMaxPathLength bytes counts as that of a missing
+/// file.
+bool openContest(Window& owner, const std::string& path);
 
-/// Saves to the current file; asks for a name when the contest is untitled.
+/// Opens a file that the operator chooses. Cancelling leaves a new contest and returns false.
+bool openChosenContest(Window& owner);
+
+/// Saves to the current file; asks for a name when the contest has none. When somebody else has
+/// changed the file since it was read or written here, asks before it is replaced. A save that
+/// fails leaves the old file whole and shows a message.
 void saveCurrent(Window& owner);
+
+/// Saves to a file that the operator chooses. Cancelling leaves the contest without a file.
+void saveContestAs(Window& owner);
 
 /// Puts a contest's bytes into a file other than the current one, safely; what it replaces becomes
 /// an earlier save of that file. False when that failed.
 [[nodiscard]] bool saveElsewhere(const std::string& path, std::string_view bytes);
 
-/// Asks for a contest's file.
+/// The question for a contest's file.
 [[nodiscard]] FileQuestion contestFileQuestion(FileQuestion::Purpose purpose);
-
-/// Reads a file into the current contest: the one named by currentFileName() with `useGivenPath`,
-/// otherwise one that the operator chooses. Unsaved work that was kept of it is offered then; the
-/// report text tells what came back, or is the welcome. False on any failure, and when cancelled; a
-/// message has then been shown (not for a cancelled choice), and the contest is a new one without a
-/// file name.
-bool loadContest(Window& owner, bool useGivenPath);
 
 }  // namespace scorvane

@@ -99,8 +99,8 @@ void makeNote(FileSystem& files, const std::string& folder, const FolderNote& no
 }
 
 bool exists(FileSystem& files, const std::string& path) {
-  const auto facts = files.facts(path);
-  return facts && facts->exists;
+  const auto status = files.status(path);
+  return status && status->exists;
 }
 
 constexpr const char* kContentPrefix = "content-";

@@ -1,5 +1,5 @@
 // The open contest: the contest itself, its file and the report on screen. There is exactly one of
-// each. Only commands and dialogs reach for them and hand what they need to everything below.
+// each. Only commands and dialogs use them; everything below gets what it needs as arguments.
 #pragma once
 
 #include <string>
@@ -14,8 +14,8 @@ namespace scorvane {
 /// bytes; empty while the contest is untitled.
 [[nodiscard]] std::string& currentFileName();
 
-/// What is shown, printed, copied and saved: plain 8-bit text, lines ended by LF; tabs may occur.
-/// Holds the welcome text at start.
+/// The report that is shown, printed, copied and saved: 8-bit text, lines ended by LF; may contain
+/// tabs. The welcome text at start.
 [[nodiscard]] std::string& reportText();
 
 }  // namespace scorvane

@@ -65,8 +65,8 @@ bool claimPath(FileSystem& files) {
     FileSystem::Claim claim = files.claim(path);
     if (claim.outcome == FileOutcome::denied) continue;
     if (claim.outcome != FileOutcome::done) return false;
-    const auto facts = files.facts(path);
-    if (!facts || facts->exists) continue;
+    const auto status = files.status(path);
+    if (!status || status->exists) continue;
     kept().path = path;
     kept().claim = std::move(claim.hold);
     return true;
@@ -121,6 +121,11 @@ void startKeepingWork(FileSystem& files) {
   keepUntitledRests(files);
 }
 
+void endKeepingWork() {
+  leaveContest();
+  stopKeepingWork();
+}
+
 void stopKeepingWork() {
   keeper() = {};
 }
@@ -133,14 +138,12 @@ bool isKeepingWork() {
   return keeper().files != nullptr;
 }
 
-void scoreStored(ContestantNumber number, std::int32_t classIndex) {
+void scoreStored(const TypedScore& score) {
   if (!isKeepingWork()) return;
-  const Contest& contest = currentContest();
-  const std::string line =
-      typedScoreLine({number, classIndex, scoreRecord(contest, number, classIndex)});
+  const std::string line = typedScoreLine(score);
   kept().typed += line;
   kept().copiedHash.reset();
-  if (!append(line)) rewriteCopy(writeContest(contest));
+  if (!append(line)) rewriteCopy(writeContest(currentContest()));
 }
 
 void contestChanged() {
@@ -183,9 +186,9 @@ void contestHasFile(const std::string& path, std::string_view bytes) {
   kept().savedHash = written == bytes ? kept().grewFrom.hash : contentHash(written);
 }
 
-void contestWasNotSaved() {
+void contestWasNotSaved(NotSaved why) {
   if (!isKeepingWork()) return;
-  kept().saveFailed = true;
+  if (why == NotSaved::failed) kept().saveFailed = true;
   if (kept().path.empty()) contestChanged();
 }
 

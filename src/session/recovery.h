@@ -20,16 +20,18 @@ namespace scorvane {
 /// without a file goes to the earlier saves. Without this call nothing is kept, as in the programs
 /// that have no window.
 void startKeepingWork(FileSystem& files);
-/// Forgets everything but what the disk holds, as the end of the program does.
+/// The orderly end of the program.
+void endKeepingWork();
+/// Any other end of it: all is forgotten but what the disk holds.
 void stopKeepingWork();
 /// The files that the session works with: the machine's, unless others are in use.
 [[nodiscard]] FileSystem& sessionFiles();
 [[nodiscard]] bool isKeepingWork();
 
-/// To be called when a score of the current contest was stored, before it is shown as the last one:
+/// To be called when a score was stored in the current contest, before it is shown as the last one:
 /// the medium has it then. What this costs does not grow with the contest, but for the first score
 /// after a save.
-void scoreStored(ContestantNumber number, std::int32_t classIndex);
+void scoreStored(const TypedScore& score);
 /// To be called when anything else may have been stored. The whole contest is kept when it has
 /// changed; a copy that is the same as the contest's file goes.
 void contestChanged();
@@ -40,10 +42,12 @@ void sayIfWorkIsNotKept(Window& owner);
 
 /// The contest was read from, or saved to, a file.
 void contestHasFile(const std::string& path, std::string_view bytes);
-/// Saving failed: what is kept of the contest stays when it is left.
-void contestWasNotSaved();
-/// The contest is left, for a new or another one or by an orderly end. Work that the operator chose
-/// not to save goes to the earlier saves.
+/// The contest was not saved, as the operator thought better of it, or as that failed: then what is
+/// kept of it stays when it is left.
+enum class NotSaved { cancelled, failed };
+void contestWasNotSaved(NotSaved why);
+/// The contest is about to be replaced. Work that the operator chose not to save goes to the
+/// earlier saves.
 void leaveContest();
 
 /// Goes on with a copy that was found: it goes when the contest is saved.

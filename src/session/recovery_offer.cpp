@@ -163,7 +163,7 @@ std::optional<std::string> offer(Window& owner, const FoundCopy& found) {
       }
       currentContest() = *recovered;
       adoptCopy(found.path, found.claim);
-      saveContest(owner, false);
+      saveCurrent(owner);
       return recoveredReport(*recovered, work);
     }
   }
@@ -179,8 +179,8 @@ std::optional<std::string> offerRecovery(Window& owner) {
   const std::string key = contestKey(files, savedState().path);
   const auto movedHere = [&files](const RecoveryCopy& copy) {
     if (!copy.grewFrom || !copy.grewFrom->isSameFile(savedState())) return false;
-    const auto facts = files.facts(copy.grewFrom->path);
-    return !facts || !facts->exists;
+    const auto status = files.status(copy.grewFrom->path);
+    return !status || !status->exists;
   };
   for (const ListedFile& file : listedCopies(files)) {
     const FoundCopy found(files, recoveryFolder(files) + "/" + file.name, file.changed);

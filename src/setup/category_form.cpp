@@ -4,14 +4,10 @@
 #include <string>
 #include <vector>
 
-#include "model/contest.h"
-#include "session/open_contest.h"
-#include "setup/setup_contest_controls.h"
+#include "setup/setup_ids.h"
 #include "ui/field_text.h"
 
 namespace scorvane {
-
-using namespace setup_contest;
 
 namespace {
 
@@ -21,57 +17,53 @@ void refuse(Dialog& dialog, const char* message) {
 
 // Back to adding: nothing selected and an empty edit box, ready for the next category.
 void startAdding(Dialog& dialog) {
-  dialog.select(kCategoryList, std::nullopt);
-  dialog.setText(kCategoryText, "");
-  dialog.focus(kCategoryText);
-  dialog.setDefaultButton(kAddCategory);
+  dialog.select(IDC_CATEGORY_LIST, std::nullopt);
+  dialog.setText(IDC_CATEGORY_NAME, "");
+  dialog.focus(IDC_CATEGORY_NAME);
+  dialog.setDefaultButton(IDC_ADD_CATEGORY);
 }
 
-void addCategory(Dialog& dialog) {
-  if (dialog.selection(kCategoryList)) {
+void addCategory(Dialog& dialog, std::vector<std::string>& categories) {
+  if (dialog.selection(IDC_CATEGORY_LIST)) {
     refuse(dialog, "When a category is selected Update and Delete are the only valid buttons.");
     return;
   }
-  const std::string category = fieldText(dialog, kCategoryText);
+  const std::string category = fieldText(dialog, IDC_CATEGORY_NAME);
   if (category.empty()) {
     refuse(dialog, "Category cannot be empty.");
     return;
   }
-  auto& categories = currentContest().categories;
-  // A lone "none" only stands for having no category yet.
+  // A lone "none" means that there is no category yet.
   if (categories.size() == 1 && categories[0] == kNoCategory) {
     categories.clear();
-    dialog.removeLine(kCategoryList, 0);
+    dialog.removeLine(IDC_CATEGORY_LIST, 0);
   }
   categories.push_back(category);
-  dialog.addLine(kCategoryList, {category, category});
+  dialog.addLine(IDC_CATEGORY_LIST, {category, category});
   startAdding(dialog);
 }
 
-void updateCategory(Dialog& dialog) {
-  const auto selected = dialog.selection(kCategoryList);
+void updateCategory(Dialog& dialog, std::vector<std::string>& categories) {
+  const auto selected = dialog.selection(IDC_CATEGORY_LIST);
   if (!selected) {
     refuse(dialog, "No category selected.");
     return;
   }
-  auto& categories = currentContest().categories;
   const auto index = static_cast<std::size_t>(*selected);
-  const std::string category = fieldText(dialog, kCategoryText);
+  const std::string category = fieldText(dialog, IDC_CATEGORY_NAME);
   if (category.empty()) {
     refuse(dialog, "Category cannot be empty.");
-    dialog.setText(kCategoryText, index < categories.size() ? categories[index] : "");
+    dialog.setText(IDC_CATEGORY_NAME, index < categories.size() ? categories[index] : "");
     return;
   }
-  dialog.insertLine(kCategoryList, *selected, {category, category});
-  dialog.removeLine(kCategoryList, *selected + 1);
-  // Deliberate: the first category's stored name never changes here, though its line shows the new
-  // text until the dialog is opened again.
+  dialog.insertLine(IDC_CATEGORY_LIST, *selected, {category, category});
+  dialog.removeLine(IDC_CATEGORY_LIST, *selected + 1);
+  // Odd but required, docs/required-behaviour.md: first-category-keeps-its-name
   if (index > 0 && index < categories.size()) categories[index] = category;
   startAdding(dialog);
 }
 
-void deleteCategory(Dialog& dialog) {
-  Contest& contest = currentContest();
+void deleteCategory(Dialog& dialog, Contest& contest) {
   if (contest.classes.count() > 0) {
     // Classes refer to categories by position.
     refuse(dialog,
@@ -79,7 +71,7 @@ void deleteCategory(Dialog& dialog) {
            "be added and/or updated.");
     return;
   }
-  const auto selected = dialog.selection(kCategoryList);
+  const auto selected = dialog.selection(IDC_CATEGORY_LIST);
   if (!selected) {
     refuse(dialog, "No category selected.");
     return;
@@ -87,44 +79,44 @@ void deleteCategory(Dialog& dialog) {
   if (static_cast<std::size_t>(*selected) < contest.categories.size()) {
     contest.categories.erase(contest.categories.begin() + *selected);
   }
-  dialog.removeLine(kCategoryList, *selected);
+  dialog.removeLine(IDC_CATEGORY_LIST, *selected);
   startAdding(dialog);
 }
 
 void selectCategory(Dialog& dialog) {
-  const auto category = dialog.selectedText(kCategoryList);
+  const auto category = dialog.selectedText(IDC_CATEGORY_LIST);
   if (!category) return;
-  dialog.setText(kCategoryText, *category);
-  dialog.focus(kCategoryText);
-  dialog.setDefaultButton(kUpdateCategory);
+  dialog.setText(IDC_CATEGORY_NAME, *category);
+  dialog.focus(IDC_CATEGORY_NAME);
+  dialog.setDefaultButton(IDC_UPDATE_CATEGORY);
 }
 
 // While nothing is selected, Enter in the edit box adds; anywhere else it closes the dialog.
 void onTextFocus(Dialog& dialog, ControlEvent event) {
-  if (dialog.selection(kCategoryList)) return;
-  if (event == ControlEvent::gotFocus) dialog.setDefaultButton(kAddCategory);
-  if (event == ControlEvent::lostFocus) dialog.setDefaultButton(kDone);
+  if (dialog.selection(IDC_CATEGORY_LIST)) return;
+  if (event == ControlEvent::gotFocus) dialog.setDefaultButton(IDC_ADD_CATEGORY);
+  if (event == ControlEvent::lostFocus) dialog.setDefaultButton(IDC_CONTEST_DONE);
 }
 
 }  // namespace
 
-void showCategories(Dialog& dialog) {
-  dialog.setText(kCategoryText, "");
+void showCategories(Dialog& dialog, const std::vector<std::string>& categories) {
+  dialog.setText(IDC_CATEGORY_NAME, "");
   std::vector<ListLine> lines;
-  for (const std::string& category : currentContest().categories) {
+  for (const std::string& category : categories) {
     lines.push_back({category, category});
   }
-  dialog.setLines(kCategoryList, lines);
-  dialog.select(kCategoryList, std::nullopt);
+  dialog.setLines(IDC_CATEGORY_LIST, lines);
+  dialog.select(IDC_CATEGORY_LIST, std::nullopt);
 }
 
-void onCategoryEvent(Dialog& dialog, ControlId id, ControlEvent event) {
-  if (id == kCategoryText) onTextFocus(dialog, event);
-  if (id == kCategoryList && event == ControlEvent::selectionChanged) selectCategory(dialog);
+void onCategoryEvent(Dialog& dialog, Contest& contest, ControlId id, ControlEvent event) {
+  if (id == IDC_CATEGORY_NAME) onTextFocus(dialog, event);
+  if (id == IDC_CATEGORY_LIST && event == ControlEvent::selectionChanged) selectCategory(dialog);
   if (event != ControlEvent::clicked) return;
-  if (id == kAddCategory) addCategory(dialog);
-  if (id == kUpdateCategory) updateCategory(dialog);
-  if (id == kDeleteCategory) deleteCategory(dialog);
+  if (id == IDC_ADD_CATEGORY) addCategory(dialog, contest.categories);
+  if (id == IDC_UPDATE_CATEGORY) updateCategory(dialog, contest.categories);
+  if (id == IDC_DELETE_CATEGORY) deleteCategory(dialog, contest);
 }
 
 }  // namespace scorvane

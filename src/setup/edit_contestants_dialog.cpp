@@ -5,18 +5,15 @@
 
 #include "model/contest.h"
 #include "model/numbering.h"
-#include "model/reasons_places.h"
 #include "model/roster.h"
 #include "session/contest_file.h"
 #include "session/open_contest.h"
-#include "setup/edit_contestants_controls.h"
+#include "setup/setup_ids.h"
 #include "text/format.h"
 #include "text/number.h"
 #include "ui/field_text.h"
 
 namespace scorvane {
-
-using namespace edit_contestants;
 
 namespace {
 
@@ -27,56 +24,51 @@ ListLine contestantLine(const Contest& contest, ContestantNumber number) {
 }
 
 void emptyFields(Dialog& dialog) {
-  dialog.setText(kNumber, "");
-  dialog.setText(kContestantName, "");
-  dialog.setText(kGroup, "");
+  dialog.setText(IDC_EDITED_NUMBER, "");
+  dialog.setText(IDC_EDITED_NAME, "");
+  dialog.setText(IDC_EDITED_GROUP, "");
 }
 
 void selectContestant(Dialog& dialog) {
-  const auto number = dialog.selectedNumber(kList);
+  const auto number = dialog.selectedNumber(IDC_EDITED_CONTESTANTS);
   if (!number) return;
   const Contest& contest = currentContest();
-  dialog.setNumber(kNumber, *number);
-  dialog.setText(kContestantName, contestantName(contest, *number));
-  dialog.setText(kGroup, std::string(1, groupOfContestant(contest, *number)));
-  dialog.focus(kContestantName);
+  dialog.setNumber(IDC_EDITED_NUMBER, *number);
+  dialog.setText(IDC_EDITED_NAME, contestantName(contest, *number));
+  dialog.setText(IDC_EDITED_GROUP, std::string(1, groupOfContestant(contest, *number)));
+  dialog.focus(IDC_EDITED_NAME);
 }
 
 void updateContestant(Dialog& dialog) {
-  const auto selected = dialog.selection(kList);
+  const auto selected = dialog.selection(IDC_EDITED_CONTESTANTS);
   if (!selected) {
     dialog.show("No Contestant Selected to Update.", "Warning");
     return;
   }
-  const std::string name = fieldText(dialog, kContestantName);
+  const std::string name = fieldText(dialog, IDC_EDITED_NAME);
   if (name.empty()) {
     dialog.show("The name cannot be empty.", "Error");
     emptyFields(dialog);
-    dialog.select(kList, std::nullopt);
+    dialog.select(IDC_EDITED_CONTESTANTS, std::nullopt);
     return;
   }
-  const ContestantNumber number = leadingNumber(dialog.text(kNumber));
+  const ContestantNumber number = leadingNumber(dialog.text(IDC_EDITED_NUMBER));
   currentContest().contestantNames[number] = name;
-  dialog.removeLine(kList, *selected);
-  dialog.addLine(kList, contestantLine(currentContest(), number));
-  dialog.select(kList, std::nullopt);
+  dialog.removeLine(IDC_EDITED_CONTESTANTS, *selected);
+  dialog.addLine(IDC_EDITED_CONTESTANTS, contestantLine(currentContest(), number));
+  dialog.select(IDC_EDITED_CONTESTANTS, std::nullopt);
   emptyFields(dialog);
 }
 
 void deleteContestant(Dialog& dialog) {
-  const auto selected = dialog.selection(kList);
+  const auto selected = dialog.selection(IDC_EDITED_CONTESTANTS);
   if (!selected) {
     dialog.show("No Contestant Selected to Delete.", "Warning");
     return;
   }
-  // The team keeps the number among its members, and the scores stay.
-  Contest& contest = currentContest();
-  const ContestantNumber number = leadingNumber(dialog.text(kNumber));
-  leaveReasonsOrder(contest, number);
-  contest.contestantNames.erase(number);
-  contest.contestantGroup.erase(number);
-  dialog.removeLine(kList, *selected);
-  dialog.select(kList, std::nullopt);
+  removeContestant(currentContest(), leadingNumber(dialog.text(IDC_EDITED_NUMBER)));
+  dialog.removeLine(IDC_EDITED_CONTESTANTS, *selected);
+  dialog.select(IDC_EDITED_CONTESTANTS, std::nullopt);
   emptyFields(dialog);
 }
 
@@ -93,15 +85,16 @@ void EditContestantsDialog::onOpen(Dialog& dialog) {
   for (const auto& [number, name] : contest.contestantNames) {
     if (!name.empty()) lines.push_back(contestantLine(contest, number));
   }
-  dialog.setLines(kList, lines);
+  dialog.setLines(IDC_EDITED_CONTESTANTS, lines);
 }
 
 void EditContestantsDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
-  if (id == kList && event == ControlEvent::selectionChanged) selectContestant(dialog);
+  if (id == IDC_EDITED_CONTESTANTS && event == ControlEvent::selectionChanged)
+    selectContestant(dialog);
   if (event != ControlEvent::clicked) return;
-  if (id == kUpdate) updateContestant(dialog);
-  if (id == kDelete) deleteContestant(dialog);
-  if (id == kDone) finish(dialog);
+  if (id == IDC_UPDATE_CONTESTANT) updateContestant(dialog);
+  if (id == IDC_DELETE_CONTESTANT) deleteContestant(dialog);
+  if (id == IDC_CONTESTANTS_DONE) finish(dialog);
 }
 
 void EditContestantsDialog::onClose(Dialog& dialog) {

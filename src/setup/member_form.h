@@ -9,21 +9,22 @@
 
 namespace scorvane {
 
-/// Readies the member fields for the next new contestant (for none while a team is selected):
+/// Prepares the member fields for the next new contestant (for none while a team is selected):
 /// no member selected, the next number and group letter shown, Add Member the default button.
 /// The focus stays.
-void showNextMember(Dialog& dialog);
+void showNextMember(Dialog& dialog, Contest& contest);
 
 /// The same, and the focus goes to the name.
-void resetMemberForm(Dialog& dialog);
+void resetMemberForm(Dialog& dialog, Contest& contest);
 
 /// Shows members, one line per slot, none selected.
-void showMembers(Dialog& dialog, const std::vector<ContestantNumber>& members);
+void showMembers(Dialog& dialog, const Contest& contest,
+                 const std::vector<ContestantNumber>& members);
 
 /// The numbers of the members shown, by slot.
 [[nodiscard]] std::vector<ContestantNumber> membersShown(const Dialog& dialog);
 
-/// Answers an event of the member list and its buttons; events of other controls are ignored.
-void onMemberEvent(Dialog& dialog, ControlId id, ControlEvent event);
+/// Handles an event of the member list and its buttons; events of other controls are ignored.
+void onMemberEvent(Dialog& dialog, Contest& contest, ControlId id, ControlEvent event);
 
 }  // namespace scorvane

@@ -3,7 +3,6 @@
 
 #include <optional>
 
-#include "setup/class_storing.h"
 #include "ui/dialog.h"
 
 namespace scorvane {

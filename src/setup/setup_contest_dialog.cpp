@@ -2,21 +2,26 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 
 #include "model/numbering.h"
 #include "model/reasons_places.h"
 #include "session/contest_file.h"
 #include "session/open_contest.h"
 #include "setup/category_form.h"
-#include "setup/setup_contest_controls.h"
+#include "setup/setup_ids.h"
 #include "text/report_marks.h"
 #include "ui/field_text.h"
 
 namespace scorvane {
 
-using namespace setup_contest;
-
 namespace {
+
+// Why a field cannot be stored, and where the focus goes then.
+struct Refusal {
+  Message message;
+  ControlId focus;
+};
 
 struct TextField {
   ControlId id;
@@ -26,13 +31,13 @@ struct TextField {
 };
 
 constexpr std::array kTextFields = {
-    TextField{kContestName, &ContestSettings::contestName, "The contest name cannot be empty.",
-              kContestName},
-    TextField{kDivisionName, &ContestSettings::divisionName, "The division name cannot be empty.",
-              kDivisionName},
-    // Deliberate: an empty date sends the focus to the contest name, not to the date.
-    TextField{kContestDate, &ContestSettings::contestDate, "The contest date cannot be empty.",
-              kContestName},
+    TextField{IDC_CONTEST_NAME, &ContestSettings::contestName, "The contest name cannot be empty.",
+              IDC_CONTEST_NAME},
+    TextField{IDC_DIVISION_NAME, &ContestSettings::divisionName,
+              "The division name cannot be empty.", IDC_DIVISION_NAME},
+    // Odd but required, docs/required-behaviour.md: empty-date-focuses-the-name
+    TextField{IDC_CONTEST_DATE, &ContestSettings::contestDate, "The contest date cannot be empty.",
+              IDC_CONTEST_NAME},
 };
 
 struct NumberField {
@@ -41,82 +46,105 @@ struct NumberField {
 };
 
 constexpr std::array kNumberFields = {
-    NumberField{kStartNumber, &ContestSettings::startNum},
-    NumberField{kNumberToReport, &ContestSettings::numToReport},
-    NumberField{kGroups, &ContestSettings::numGroups},
-    NumberField{kReasonsTakers, &ContestSettings::numReasonsGroups},
-    NumberField{kNumberToScore, &ContestSettings::numToScore},
-    NumberField{kPerTeam, &ContestSettings::numPerTeam},
-    NumberField{kTotalPerTeam, &ContestSettings::totalNumPerTeam},
+    NumberField{IDC_START_NUMBER, &ContestSettings::startNum},
+    NumberField{IDC_NUMBER_TO_REPORT, &ContestSettings::numToReport},
+    NumberField{IDC_NUMBER_OF_GROUPS, &ContestSettings::numGroups},
+    NumberField{IDC_REASONS_TAKERS, &ContestSettings::numReasonsGroups},
+    NumberField{IDC_NUMBER_TO_SCORE, &ContestSettings::numToScore},
+    NumberField{IDC_NUMBER_PER_TEAM, &ContestSettings::numPerTeam},
+    NumberField{IDC_TOTAL_PER_TEAM, &ContestSettings::totalNumPerTeam},
 };
 
 constexpr std::int32_t kMostGroups = 26;
 
-bool refuse(Dialog& dialog, const char* message, const char* caption, ControlId focus) {
-  dialog.show(message, caption);
-  dialog.focus(focus);
-  return false;
-}
-
-bool storeTexts(Dialog& dialog) {
+std::optional<Refusal> storeTexts(const Dialog& dialog, ContestSettings& settings) {
   for (const TextField& field : kTextFields) {
     const std::string text = fieldText(dialog, field.id);
-    if (text.empty()) return refuse(dialog, field.emptyMessage, "Error", field.focusWhenEmpty);
-    currentContest().settings.*field.value = text;
+    if (text.empty()) return Refusal{{field.emptyMessage, "Error"}, field.focusWhenEmpty};
+    settings.*field.value = text;
   }
-  return true;
+  return std::nullopt;
 }
 
-void storeNumbering(const Dialog& dialog) {
-  ContestSettings& settings = currentContest().settings;
-  settings.startNum = fieldNumber(dialog, kStartNumber);
+void storeNumbering(const Dialog& dialog, ContestSettings& settings) {
+  settings.startNum = fieldNumber(dialog, IDC_START_NUMBER);
   settings.nextContestantNum = settings.startNum;
-  settings.numToReport = fieldNumber(dialog, kNumberToReport);
-  settings.reportPercent = dialog.isChecked(kReportPercent);
+  settings.numToReport = fieldNumber(dialog, IDC_NUMBER_TO_REPORT);
+  settings.reportPercent = dialog.isChecked(IDC_REPORT_PERCENT);
 }
 
-bool storeGroups(Dialog& dialog) {
-  const std::int32_t groups = fieldNumber(dialog, kGroups);
+std::optional<Refusal> storeGroups(const Dialog& dialog, ContestSettings& settings) {
+  const std::int32_t groups = fieldNumber(dialog, IDC_NUMBER_OF_GROUPS);
   if (groups < 1 || groups > kMostGroups) {
-    return refuse(dialog, "The number of groups must be between 1 and 26.", "Error", kGroups);
+    return Refusal{{"The number of groups must be between 1 and 26.", "Error"},
+                   IDC_NUMBER_OF_GROUPS};
   }
-  currentContest().settings.numGroups = groups;
-  return true;
+  settings.numGroups = groups;
+  return std::nullopt;
 }
 
-bool storeTeamSizes(Dialog& dialog) {
-  const std::int32_t toScore = fieldNumber(dialog, kNumberToScore);
-  const std::int32_t perTeam = fieldNumber(dialog, kPerTeam);
-  const std::int32_t total = fieldNumber(dialog, kTotalPerTeam);
+// Odd but required, docs/required-behaviour.md: reasons-order-emptied-at-once
+std::optional<Refusal> storeReasonsTakers(const Dialog& dialog, Contest& contest,
+                                          std::int32_t atOpening) {
+  const std::int32_t takers = fieldNumber(dialog, IDC_REASONS_TAKERS);
+  contest.settings.numReasonsGroups = takers < 1 ? atOpening : takers;
+  if (takers < 1) {
+    return Refusal{{"There must be at least one (1) reasons taker.\nIf you do not have any reasons "
+                    "classes, this value will be ignored.",
+                    "Error"},
+                   IDC_REASONS_TAKERS};
+  }
+  if (takers != atOpening) resetReasonsOrder(contest, reasonsRows(contest));
+  return std::nullopt;
+}
+
+// Odd but required, docs/required-behaviour.md: team-sizes-refused-as-information
+std::optional<Refusal> storeTeamSizes(const Dialog& dialog, ContestSettings& settings) {
+  const std::int32_t toScore = fieldNumber(dialog, IDC_NUMBER_TO_SCORE);
+  const std::int32_t perTeam = fieldNumber(dialog, IDC_NUMBER_PER_TEAM);
+  const std::int32_t total = fieldNumber(dialog, IDC_TOTAL_PER_TEAM);
   if (toScore < 1) {
-    return refuse(dialog, "The number to score must be one (1) or greater.", "Information",
-                  kNumberToScore);
+    return Refusal{{"The number to score must be one (1) or greater.", "Information"},
+                   IDC_NUMBER_TO_SCORE};
   }
   if (perTeam < 1) {
-    return refuse(dialog, "The number of contestants per team must be one (1) or greater.",
-                  "Information", kPerTeam);
+    return Refusal{
+        {"The number of contestants per team must be one (1) or greater.", "Information"},
+        IDC_NUMBER_PER_TEAM};
   }
   if (total < 1) {
-    return refuse(dialog, "The total number per team must be one (1) or greater.", "Information",
-                  kTotalPerTeam);
+    return Refusal{{"The total number per team must be one (1) or greater.", "Information"},
+                   IDC_TOTAL_PER_TEAM};
   }
   if (perTeam < toScore) {
-    return refuse(dialog,
-                  "The number of contestants per team must be greater (or equal to) than the "
-                  "number of contestants to score.",
-                  "Error", kPerTeam);
+    return Refusal{{"The number of contestants per team must be greater (or equal to) than the "
+                    "number of contestants to score.",
+                    "Error"},
+                   IDC_NUMBER_PER_TEAM};
   }
   if (total < perTeam) {
-    return refuse(dialog,
-                  "The total number of contestants per team must be greater than (or equal to) "
-                  "the number of contestants per team.",
-                  "Error", kTotalPerTeam);
+    return Refusal{{"The total number of contestants per team must be greater than (or equal to) "
+                    "the number of contestants per team.",
+                    "Error"},
+                   IDC_TOTAL_PER_TEAM};
   }
-  ContestSettings& settings = currentContest().settings;
   settings.numToScore = toScore;
   settings.numPerTeam = perTeam;
   settings.totalNumPerTeam = total;
-  return true;
+  return std::nullopt;
+}
+
+// Stores field by field. What came before the refused one stays stored; only Cancel takes it back.
+std::optional<Refusal> storeFields(const Dialog& dialog, Contest& contest,
+                                   const ContestSettings& atOpening) {
+  ContestSettings& settings = contest.settings;
+  if (auto refusal = storeTexts(dialog, settings)) return refusal;
+  storeNumbering(dialog, settings);
+  if (auto refusal = storeGroups(dialog, settings)) return refusal;
+  if (auto refusal = storeReasonsTakers(dialog, contest, atOpening.numReasonsGroups)) {
+    return refusal;
+  }
+  return storeTeamSizes(dialog, settings);
 }
 
 }  // namespace
@@ -131,35 +159,36 @@ void SetupContestDialog::onOpen(Dialog& dialog) {
   for (const NumberField& field : kNumberFields) {
     showNumber(dialog, field.id, contest.settings.*field.value);
   }
-  dialog.setChecked(kReportPercent, contest.settings.reportPercent);
-  showCategories(dialog);
+  dialog.setChecked(IDC_REPORT_PERCENT, contest.settings.reportPercent);
+  showCategories(dialog, contest.categories);
   if (!contest.teams.empty()) {
-    // The teams' numbers and slots are given out already.
-    dialog.setEnabled(kStartNumber, false);
-    dialog.setEnabled(kTotalPerTeam, false);
+    // The teams have their numbers and slots already.
+    dialog.setEnabled(IDC_START_NUMBER, false);
+    dialog.setEnabled(IDC_TOTAL_PER_TEAM, false);
   }
-  dialog.focus(kContestName);
-  dialog.selectText(kContestName);
+  dialog.focus(IDC_CONTEST_NAME);
+  dialog.selectText(IDC_CONTEST_NAME);
 }
 
 void SetupContestDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
-  onCategoryEvent(dialog, id, event);
+  onCategoryEvent(dialog, currentContest(), id, event);
   if (event != ControlEvent::clicked) return;
-  if (id == kDone) commit(dialog);
-  if (id == kCancel) cancel(dialog);
+  if (id == IDC_CONTEST_DONE) commit(dialog);
+  if (id == IDC_CONTEST_CANCEL) cancel(dialog);
 }
 
-// Deliberate: the close box is no cancel.
+// Odd but required, docs/required-behaviour.md: close-box-is-done
 void SetupContestDialog::onClose(Dialog& dialog) {
   commit(dialog);
 }
 
-// What earlier steps stored stays stored when a later one refuses; only Cancel takes it back.
-void SetupContestDialog::commit(Dialog& dialog) {
-  if (!storeTexts(dialog)) return;
-  storeNumbering(dialog);
-  if (!storeGroups(dialog) || !storeReasonsTakers(dialog) || !storeTeamSizes(dialog)) return;
+void SetupContestDialog::commit(Dialog& dialog) const {
   Contest& contest = currentContest();
+  if (const auto refusal = storeFields(dialog, contest, settingsAtOpening_)) {
+    dialog.ask(refusal->message);
+    dialog.focus(refusal->focus);
+    return;
+  }
   regroupContestants(contest);
   if (contest.categories.empty()) contest.categories.emplace_back(kNoCategory);
   reportText() = kWelcomeText;
@@ -167,30 +196,13 @@ void SetupContestDialog::commit(Dialog& dialog) {
   dialog.end(kOkId);
 }
 
-// The reasons order is cleared at once, with a row for every slot of the team size as it was so
-// far, and Cancel does not bring it back. Deliberate.
-bool SetupContestDialog::storeReasonsTakers(Dialog& dialog) const {
-  Contest& contest = currentContest();
-  const std::int32_t takers = fieldNumber(dialog, kReasonsTakers);
-  if (takers < 1) {
-    contest.settings.numReasonsGroups = settingsAtOpening_.numReasonsGroups;
-    return refuse(dialog,
-                  "There must be at least one (1) reasons taker.\nIf you do not have any reasons "
-                  "classes, this value will be ignored.",
-                  "Error", kReasonsTakers);
-  }
-  contest.settings.numReasonsGroups = takers;
-  if (takers != settingsAtOpening_.numReasonsGroups) clearReasonsOrder(contest);
-  return true;
-}
-
 void SetupContestDialog::cancel(Dialog& dialog) const {
+  Contest& contest = currentContest();
   reportText() = kWelcomeText;
-  ContestSettings& settings = currentContest().settings;
-  const ContestantNumber nextNumber = settings.nextContestantNum;
-  settings = settingsAtOpening_;
-  settings.nextContestantNum = nextNumber;
-  currentContest().categories = categoriesAtOpening_;
+  const ContestantNumber nextNumber = contest.settings.nextContestantNum;
+  contest.settings = settingsAtOpening_;
+  contest.settings.nextContestantNum = nextNumber;
+  contest.categories = categoriesAtOpening_;
   dialog.end(kCancelId);
 }
 

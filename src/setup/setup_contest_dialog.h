@@ -18,8 +18,7 @@ class SetupContestDialog : public DialogBehaviour {
   void onClose(Dialog& dialog) override;
 
  private:
-  void commit(Dialog& dialog);
-  [[nodiscard]] bool storeReasonsTakers(Dialog& dialog) const;
+  void commit(Dialog& dialog) const;
   void cancel(Dialog& dialog) const;
 
   ContestSettings settingsAtOpening_;

@@ -7,41 +7,39 @@
 #include "session/contest_file.h"
 #include "session/open_contest.h"
 #include "setup/member_form.h"
-#include "setup/setup_teams_controls.h"
+#include "setup/setup_ids.h"
 #include "ui/field_text.h"
 
 namespace scorvane {
 
-using namespace setup_teams;
-
 namespace {
 
-void resetTeamForm(Dialog& dialog) {
-  dialog.setText(kTeamName, "");
-  dialog.setText(kCoach, "");
-  showNextMember(dialog);
-  dialog.focus(kTeamName);
+void resetTeamForm(Dialog& dialog, Contest& contest) {
+  dialog.setText(IDC_TEAM_NAME, "");
+  dialog.setText(IDC_COACH, "");
+  showNextMember(dialog, contest);
+  dialog.focus(IDC_TEAM_NAME);
 }
 
 // Team first, then member: the focus ends in the contestant's name.
-void resetForms(Dialog& dialog) {
-  resetTeamForm(dialog);
-  resetMemberForm(dialog);
+void resetForms(Dialog& dialog, Contest& contest) {
+  resetTeamForm(dialog, contest);
+  resetMemberForm(dialog, contest);
 }
 
-// Nothing of the old team must stay in the member list: what is listed there without a team being
-// selected counts as not yet written, and would be taken out of the contest.
-void showNoTeam(Dialog& dialog) {
-  dialog.select(kTeamList, std::nullopt);
-  dialog.clearLines(kMemberList);
-  resetForms(dialog);
+// The member list must be emptied: members listed without a team selected count as not yet written
+// and would be taken out of the contest.
+void showNoTeam(Dialog& dialog, Contest& contest) {
+  dialog.select(IDC_TEAM_LIST, std::nullopt);
+  dialog.clearLines(IDC_MEMBER_LIST);
+  resetForms(dialog, contest);
 }
 
 // The name typed for a team; nothing, after saying so, when there is none.
-std::optional<std::string> readTeamName(Dialog& dialog) {
-  std::string name = fieldText(dialog, kTeamName);
+std::optional<std::string> readTeamName(Dialog& dialog, Contest& contest) {
+  std::string name = fieldText(dialog, IDC_TEAM_NAME);
   if (!name.empty()) return name;
-  resetTeamForm(dialog);
+  resetTeamForm(dialog, contest);
   dialog.show("You didn't enter a team name!", "Warning");
   return std::nullopt;
 }
@@ -49,17 +47,18 @@ std::optional<std::string> readTeamName(Dialog& dialog) {
 }  // namespace
 
 void SetupTeamsDialog::onOpen(Dialog& dialog) {
+  Contest& contest = currentContest();
   teamWritten_ = false;
   std::vector<ListLine> lines;
-  for (const auto& [name, team] : currentContest().teams) lines.push_back({name, name});
-  dialog.setLines(kTeamList, lines);
-  showNoTeam(dialog);
-  dialog.focus(kTeamName);
+  for (const auto& [name, team] : contest.teams) lines.push_back({name, name});
+  dialog.setLines(IDC_TEAM_LIST, lines);
+  showNoTeam(dialog, contest);
+  dialog.focus(IDC_TEAM_NAME);
 }
 
 void SetupTeamsDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
-  onMemberEvent(dialog, id, event);
-  if (id == kTeamList && event == ControlEvent::selectionChanged) showTeam(dialog);
+  onMemberEvent(dialog, currentContest(), id, event);
+  if (id == IDC_TEAM_LIST && event == ControlEvent::selectionChanged) showTeam(dialog);
   if (event == ControlEvent::clicked) onClicked(dialog, id);
 }
 
@@ -68,108 +67,108 @@ void SetupTeamsDialog::onClose(Dialog& dialog) {
 }
 
 void SetupTeamsDialog::onClicked(Dialog& dialog, ControlId id) {
-  if (id == kNewTeam) startNewTeam(dialog);
-  if (id == kAddTeam) addNewTeam(dialog);
-  if (id == kUpdateTeam) updateTeam(dialog);
-  if (id == kRemoveTeam) removeSelectedTeam(dialog);
-  if (id == kClearAllTeams) clearAllTeams(dialog);
-  if (id == kDone) finish(dialog);
+  if (id == IDC_NEW_TEAM) startNewTeam(dialog);
+  if (id == IDC_ADD_TEAM) addNewTeam(dialog);
+  if (id == IDC_UPDATE_TEAM) updateTeam(dialog);
+  if (id == IDC_REMOVE_TEAM) removeSelectedTeam(dialog);
+  if (id == IDC_CLEAR_ALL_TEAMS) clearAllTeams(dialog);
+  if (id == IDC_TEAMS_DONE) finish(dialog);
 }
 
 void SetupTeamsDialog::startNewTeam(Dialog& dialog) {
-  if (!dialog.selection(kTeamList)) discardContestants(currentContest(), membersShown(dialog));
-  showNoTeam(dialog);
-  dialog.focus(kTeamName);
+  Contest& contest = currentContest();
+  if (!dialog.selection(IDC_TEAM_LIST)) discardContestants(contest, membersShown(dialog));
+  showNoTeam(dialog, contest);
+  dialog.focus(IDC_TEAM_NAME);
   teamWritten_ = false;
 }
 
 void SetupTeamsDialog::showTeam(Dialog& dialog) {
   Contest& contest = currentContest();
   if (!teamWritten_) discardContestants(contest, membersShown(dialog));
-  dialog.clearLines(kMemberList);
-  resetForms(dialog);
+  dialog.clearLines(IDC_MEMBER_LIST);
+  resetForms(dialog, contest);
   teamWritten_ = true;
-  const auto name = dialog.selectedText(kTeamList);
+  const auto name = dialog.selectedText(IDC_TEAM_LIST);
   const auto team = name ? contest.teams.find(*name) : contest.teams.end();
   if (team == contest.teams.end()) return;
-  dialog.setText(kTeamName, team->first);
-  dialog.setText(kCoach, team->second.coach);
-  showMembers(dialog, team->second.members);
+  dialog.setText(IDC_TEAM_NAME, team->first);
+  dialog.setText(IDC_COACH, team->second.coach);
+  showMembers(dialog, contest, team->second.members);
 }
 
 void SetupTeamsDialog::addNewTeam(Dialog& dialog) {
   Contest& contest = currentContest();
-  if (dialog.selection(kTeamList)) {
+  if (dialog.selection(IDC_TEAM_LIST)) {
     dialog.show("Once a team is selected you can only update it.", "Error");
     return;
   }
-  const auto name = readTeamName(dialog);
+  const auto name = readTeamName(dialog, contest);
   if (!name) return;
   if (contest.teams.count(*name) != 0) {
     dialog.show("That team name has already been used!", "Warning");
     return;
   }
   Team team;
-  team.coach = fieldText(dialog, kCoach);
+  team.coach = fieldText(dialog, IDC_COACH);
   team.members = fillTeamSlots(contest, membersShown(dialog));
   addTeam(contest, *name, std::move(team));
-  dialog.addLine(kTeamList, {*name, *name});
-  showNoTeam(dialog);
+  dialog.addLine(IDC_TEAM_LIST, {*name, *name});
+  showNoTeam(dialog, contest);
   teamWritten_ = false;
 }
 
 void SetupTeamsDialog::updateTeam(Dialog& dialog) {
   Contest& contest = currentContest();
-  const auto oldName = dialog.selectedText(kTeamList);
+  const auto oldName = dialog.selectedText(IDC_TEAM_LIST);
   if (!oldName) {
-    // Deliberate: this caption ends with a full stop, as two of the member's do.
+    // Odd but required, docs/required-behaviour.md: captions-with-a-full-stop
     dialog.show("A team cannot be updated unless it is selected from the list box.", "Error.");
     return;
   }
-  const auto name = readTeamName(dialog);
+  const auto name = readTeamName(dialog, contest);
   if (!name) return;
   Team team = contest.teams[*oldName];
-  const std::string coach = fieldText(dialog, kCoach);
+  const std::string coach = fieldText(dialog, IDC_COACH);
   if (!coach.empty()) team.coach = coach;  // an empty field keeps the coach
   team.members = fillTeamSlots(contest, membersShown(dialog));
-  // Deliberate: a name that another team has is not refused here; that team is replaced.
+  // Odd but required, docs/required-behaviour.md: update-team-takes-any-name
   const bool isListed = contest.teams.count(*name) != 0;
   replaceTeam(contest, *oldName, *name, std::move(team));
   if (*name != *oldName) {
-    dialog.removeLine(kTeamList, *dialog.selection(kTeamList));
-    if (!isListed) dialog.addLine(kTeamList, {*name, *name});
+    dialog.removeLine(IDC_TEAM_LIST, *dialog.selection(IDC_TEAM_LIST));
+    if (!isListed) dialog.addLine(IDC_TEAM_LIST, {*name, *name});
   }
-  showNoTeam(dialog);
+  showNoTeam(dialog, contest);
   teamWritten_ = false;
 }
 
 void SetupTeamsDialog::removeSelectedTeam(Dialog& dialog) {
-  const auto name = dialog.selectedText(kTeamList);
+  Contest& contest = currentContest();
+  const auto name = dialog.selectedText(IDC_TEAM_LIST);
   if (!name) {
     dialog.show("No Team selected to remove.", "Warning");
     return;
   }
-  removeTeam(currentContest(), *name);
-  dialog.removeLine(kTeamList, *dialog.selection(kTeamList));
-  showNoTeam(dialog);
+  removeTeam(contest, *name);
+  dialog.removeLine(IDC_TEAM_LIST, *dialog.selection(IDC_TEAM_LIST));
+  showNoTeam(dialog, contest);
   teamWritten_ = false;
 }
 
 void SetupTeamsDialog::clearAllTeams(Dialog& dialog) {
   if (!dialog.confirm("This will delete all teams!  Continue?")) return;
-  // Group letters, scores and the reasons order stay as they are. Deliberate.
   Contest& contest = currentContest();
-  contest.teams.clear();
-  contest.contestantNames.clear();
-  contest.settings.nextContestantNum = contest.settings.startNum;
-  dialog.clearLines(kTeamList);
-  showNoTeam(dialog);
+  removeAllTeams(contest);
+  dialog.clearLines(IDC_TEAM_LIST);
+  showNoTeam(dialog, contest);
   teamWritten_ = false;
 }
 
 void SetupTeamsDialog::finish(Dialog& dialog) const {
-  if (!teamWritten_) discardContestants(currentContest(), membersShown(dialog));
-  recomputeAllPlacingScores(currentContest());
+  Contest& contest = currentContest();
+  if (!teamWritten_) discardContestants(contest, membersShown(dialog));
+  recomputeAllPlacingScores(contest);
   saveCurrent(dialog);
   dialog.end(kOkId);
 }

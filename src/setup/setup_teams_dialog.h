@@ -11,7 +11,7 @@
 namespace scorvane {
 
 /// Changes the current contest at once. Members are in it from Add Member on, but leave it again
-/// when their team is not written before another one is shown or the dialog is closed. Done and
+/// when another team is shown or the dialog is closed before their team is written. Done and
 /// the close box recompute all placing scores, save and end with kOkId.
 class SetupTeamsDialog : public DialogBehaviour {
  public:

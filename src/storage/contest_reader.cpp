@@ -8,10 +8,10 @@
 
 #include "model/new_contest.h"
 #include "model/numbering.h"
+#include "model/reasons_places.h"
 #include "storage/contest_format.h"
 #include "storage/line_scanner.h"
 #include "storage/score_reader.h"
-#include "storage/settings_reader.h"
 #include "text/number.h"
 
 namespace scorvane {
@@ -25,23 +25,79 @@ bool skipTo(LineScanner& lines, std::string_view marker) {
   return false;
 }
 
-/// The count that stands on a line of its own.
+/// A count, which has a line of its own.
 std::optional<std::int32_t> readCount(LineScanner& lines) {
   const auto line = lines.next();
   if (!line) return std::nullopt;
   return leadingNumber(*line);
 }
 
-/// How many records a section promises, nothing when it promises fewer than none.
+/// The count of a section's records; nothing when it is below 0. Counts in the file are never
+/// trusted: the lines decide.
 std::optional<std::int32_t> readRecordCount(LineScanner& lines) {
   const auto count = readCount(lines);
   return count && *count >= 0 ? count : std::nullopt;
 }
 
-/// Room worth making for `count` promised lines: no more than the file can hold.
+/// How many elements to reserve for `count` promised lines: no more than the file can hold.
 std::size_t plausibleCount(const LineScanner& lines, std::int32_t count) {
   constexpr std::size_t kShortestUsualLine = 8;
   return std::min(static_cast<std::size_t>(count), lines.size() / kShortestUsualLine);
+}
+
+/// What settings get whose line has no value.
+ContestSettings settingsWithoutValues() {
+  ContestSettings settings = newContest().settings;
+  // Odd but required, docs/required-behaviour.md: missing-numbers-swapped
+  std::swap(settings.numToScore, settings.numToReport);
+  return settings;
+}
+
+void setValue(ContestSettings& settings, const SettingLine& line, std::string_view text) {
+  if (text.empty()) {
+    ContestSettings missing = settingsWithoutValues();
+    missing.totalNumPerTeam = settings.numPerTeam;
+    std::visit([&](auto value) { settings.*value = missing.*value; }, line.value);
+  } else if (const auto* words = std::get_if<std::string ContestSettings::*>(&line.value)) {
+    settings.** words = text;
+  } else if (const auto* flag = std::get_if<bool ContestSettings::*>(&line.value)) {
+    settings.** flag = leadingNumber(text) == 1;
+  } else {
+    settings.*std::get<std::int32_t ContestSettings::*>(line.value) = leadingNumber(text);
+  }
+}
+
+std::vector<std::string> readCategories(FieldScanner& fields) {
+  std::vector<std::string> names;
+  while (const auto name = fields.next()) names.emplace_back(*name);
+  if (names.empty() || (names.size() == 1 && names[0].empty())) names = {kNoCategory};
+  return names;
+}
+
+/// Reads settings up to and including the line that begins the classes. False when that line does
+/// not come soon.
+bool readSettings(LineScanner& lines, Contest& contest) {
+  constexpr int kMaxSettingsLines = 15;
+  contest.categories = {kNoCategory};
+  for (int counter = 1; const auto line = lines.next(); ++counter) {
+    FieldScanner fields(*line);
+    const std::string_view key = fields.nextOrEmpty();
+    if (key == kClassesMarker) return true;
+    if (counter > kMaxSettingsLines) return false;
+    if (key == kCategoriesKey) {
+      contest.categories = readCategories(fields);
+      continue;
+    }
+    // Odd but required, docs/required-behaviour.md: lines-after-the-categories
+    contest.categories = {kNoCategory};
+    const auto* setting =
+        std::find_if(kSettingLines.begin(), kSettingLines.end(),
+                     [key](const SettingLine& known) { return known.key == key; });
+    if (setting != kSettingLines.end()) {
+      setValue(contest.settings, *setting, fields.nextOrEmpty());
+    }
+  }
+  return false;
 }
 
 Cuts parseCuts(std::string_view field) {
@@ -92,7 +148,7 @@ ReasonsPlace parsePlace(FieldScanner& fields) {
   return place;
 }
 
-/// Gives the number of lines read, which is that of contestants unless one comes twice.
+/// Returns the number of lines read, which is that of contestants unless one comes twice.
 std::optional<std::int32_t> readContestants(LineScanner& lines, Contest& contest) {
   if (!skipTo(lines, kContestantsMarker)) return std::nullopt;
   const auto count = readRecordCount(lines);
@@ -120,7 +176,7 @@ std::optional<std::int32_t> readContestants(LineScanner& lines, Contest& contest
   return count;
 }
 
-/// Empty names stand in the file as a single blank.
+/// The file has a single blank for an empty name.
 std::string_view teamText(std::string_view field) {
   return field == " " ? "" : field;
 }
@@ -137,8 +193,8 @@ void addTeam(std::string_view line, std::size_t slots, Contest& contest) {
   contest.teams.insert_or_assign(contest.teams.end(), name, std::move(team));
 }
 
-/// A team line that lacks members reads them as 0, so slots are promised rather than given. They
-/// must be few compared with the bytes of the file, which they are in every file written here.
+/// Members that a team line lacks read as 0, so a short line can ask for many slots. A damaged file
+/// must not fill the memory that way; in every file written here slots are few for its bytes.
 bool hasRoomForSlots(std::size_t slots, std::size_t teams, std::size_t fileSize) {
   constexpr std::size_t kSlotsPerByte = 4;
   return slots * teams <= kSlotsPerByte * fileSize;
@@ -165,13 +221,11 @@ void unassignThoseWithoutCell(Contest& contest) {
   }
 }
 
-// The table follows from the places. A place outside the table, or one that a later contestant
-// holds too, is given up, so that the person turns up among the unassigned.
+// Makes the table from the places. A place outside the table, or one that a later contestant holds
+// too, is given up, so that the person turns up among the unassigned.
 void rebuildReasonsOrder(Contest& contest) {
-  const auto slots = std::max(contest.settings.totalNumPerTeam, 0);
   ReasonsOrder& order = contest.reasonsOrder;
-  order.reset(static_cast<std::int64_t>(contest.teams.size()) * slots,
-              contest.settings.numReasonsGroups);
+  order.reset(reasonsRows(contest), contest.settings.numReasonsGroups);
   std::vector<ReasonsOrder::Cells::Entry> cells;
   std::size_t assigned = 0;
   for (const auto& [number, place] : contest.reasonsPlace) {
@@ -184,7 +238,10 @@ void rebuildReasonsOrder(Contest& contest) {
   if (order.cells().size() != assigned) unassignThoseWithoutCell(contest);
 }
 
-std::variant<Contest, ContestFault> readContest(LineScanner& lines) {
+}  // namespace
+
+std::variant<Contest, ContestFault> readContest(std::string_view bytes) {
+  LineScanner lines(bytes);
   Contest contest = newContest();
   if (!readSettings(lines, contest)) return ContestFault::notAContest;
   contest.groupLetters = makeGroupLetters(contest.settings.numGroups);
@@ -202,18 +259,13 @@ std::variant<Contest, ContestFault> readContest(LineScanner& lines) {
   return contest;
 }
 
-}  // namespace
-
-std::variant<Contest, ContestFault> readContest(std::string_view bytes) {
-  LineScanner lines(bytes);
-  return readContest(lines);
-}
-
-std::variant<Contest, ContestFault> readContest(InputFile& file) {
-  LineScanner lines(file);
-  auto contest = readContest(lines);
-  if (lines.failed()) return ContestFault::unreadable;
-  return contest;
+std::variant<LoadedContest, ContestFault> loadContestFile(FileSystem& files,
+                                                          const std::string& path) {
+  auto bytes = files.readWhole(path);
+  if (!bytes) return ContestFault::unreadable;
+  auto reading = readContest(*bytes);
+  if (const auto* fault = std::get_if<ContestFault>(&reading)) return *fault;
+  return LoadedContest{std::get<Contest>(std::move(reading)), std::move(*bytes)};
 }
 
 }  // namespace scorvane

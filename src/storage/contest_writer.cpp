@@ -1,32 +1,26 @@
 #include "storage/contest_writer.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cstdint>
 #include <string_view>
+#include <variant>
 
 #include "storage/contest_format.h"
+#include "text/number.h"
 
 namespace scorvane {
 
 namespace {
 
-/// What fits on a line beside its CR LF.
+/// Longest line without its CR LF.
 constexpr std::size_t kLineRoom = kMaxContestLine - kLineEnd.size();
-
-void appendNumber(std::string& out, std::int64_t number) {
-  std::array<char, 24> digits;
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number);
-  out.append(digits.data(), end.ptr);
-}
 
 void appendField(std::string& out, std::int64_t number) {
   out += '\t';
   appendNumber(out, number);
 }
 
-/// The text as far as it can stand in a field.
+/// The text up to the first character that a field cannot hold.
 std::string_view fieldOf(const std::string& text) {
   using namespace std::string_view_literals;
   return std::string_view(text).substr(0, text.find_first_of("\t\r\0"sv));
@@ -48,12 +42,6 @@ void appendSectionStart(std::string& out, std::string_view marker, std::int64_t 
   out += kLineEnd;
 }
 
-void appendSetting(std::string& out, std::string_view key, std::int32_t value) {
-  out += key;
-  appendField(out, value);
-  out += kLineEnd;
-}
-
 void appendCategories(std::string& out, const std::vector<std::string>& categories) {
   std::string line(kCategoriesKey);
   for (const std::string& category : categories) {
@@ -67,19 +55,24 @@ void appendCategories(std::string& out, const std::vector<std::string>& categori
   out += kLineEnd;
 }
 
+std::int32_t numberOf(const ContestSettings& settings, const SettingLine& line) {
+  if (const auto* flag = std::get_if<bool ContestSettings::*>(&line.value)) {
+    return settings.**flag ? 1 : 0;
+  }
+  return settings.*std::get<std::int32_t ContestSettings::*>(line.value);
+}
+
 void appendSettings(std::string& out, const Contest& contest) {
-  const ContestSettings& settings = contest.settings;
-  appendLine(out, "contestName:\t", fieldOf(settings.contestName), "");
-  appendLine(out, "divisionName:\t", fieldOf(settings.divisionName), "");
-  appendLine(out, "contestDate:\t", fieldOf(settings.contestDate), "");
-  appendSetting(out, "startNum:", settings.startNum);
-  appendSetting(out, "numPerTeam:", settings.numPerTeam);
-  appendSetting(out, "numToScore:", settings.numToScore);
-  appendSetting(out, "reportPercent:", settings.reportPercent ? 1 : 0);
-  appendSetting(out, "numToReport:", settings.numToReport);
-  appendSetting(out, "numGroups:", settings.numGroups);
-  appendSetting(out, "totalNumPerTeam:", settings.totalNumPerTeam);
-  appendSetting(out, "numReasonsGroups:", settings.numReasonsGroups);
+  for (const SettingLine& line : kSettingLines) {
+    const std::string before = std::string(line.key) + "\t";
+    if (const auto* text = std::get_if<std::string ContestSettings::*>(&line.value)) {
+      appendLine(out, before, fieldOf(contest.settings.**text), "");
+    } else {
+      out += before;
+      appendNumber(out, numberOf(contest.settings, line));
+      out += kLineEnd;
+    }
+  }
   appendCategories(out, contest.categories);
 }
 
@@ -121,7 +114,7 @@ void appendContestants(std::string& out, const Contest& contest) {
   }
 }
 
-/// The member fields, each whole, since part of a number is another number.
+/// The member fields, none of them cut: part of a number is another number.
 std::string memberFields(const Team& team, std::int32_t slots) {
   std::string fields;
   for (std::int32_t slot = 0; slot < slots && fields.size() <= kLineRoom; ++slot) {
@@ -168,35 +161,17 @@ void appendTeams(std::string& out, const Contest& contest) {
   }
 }
 
-/// Puts a score line together in one piece; they make up nearly all of a large file.
-class ScoreLine {
- public:
-  std::string_view make(ContestantNumber number, std::int32_t classIndex,
-                        const ScoreRecord& record) {
-    end_ = text_.data();
-    put(number);
-    putField(classIndex);
-    *end_++ = '\t';
-    *end_++ = record.letter;
-    putField(record.placingScore);
-    putField(record.reasonsScore);
-    putField(record.questionsScore);
-    end_ = std::copy(kLineEnd.begin(), kLineEnd.end(), end_);
-    return {text_.data(), static_cast<std::size_t>(end_ - text_.data())};
-  }
-
- private:
-  void put(std::int32_t number) {
-    end_ = std::to_chars(end_, text_.data() + text_.size(), number).ptr;
-  }
-  void putField(std::int32_t number) {
-    *end_++ = '\t';
-    put(number);
-  }
-
-  std::array<char, 80> text_{};  // five numbers of at most 11 characters, a letter, TABs, CR LF
-  char* end_ = nullptr;
-};
+void appendScoreLine(std::string& out, ContestantNumber number, std::int32_t classIndex,
+                     const ScoreRecord& record) {
+  appendNumber(out, number);
+  appendField(out, classIndex);
+  out += '\t';
+  out += record.letter;
+  appendField(out, record.placingScore);
+  appendField(out, record.reasonsScore);
+  appendField(out, record.questionsScore);
+  out += kLineEnd;
+}
 
 void appendScores(std::string& out, const Contest& contest) {
   const std::int32_t classCount = contest.classes.count();
@@ -204,14 +179,13 @@ void appendScores(std::string& out, const Contest& contest) {
       out, kScoresMarker,
       std::int64_t{classCount} * static_cast<std::int64_t>(contest.contestantNames.size()));
   static const ClassScores noScores;
-  ScoreLine line;
   for (const auto& entry : contest.contestantNames) {
     const ClassScores* known = contest.scores.find(entry.first);
     const ClassScores& records = known == nullptr ? noScores : *known;
     auto record = records.lowerBound(0);
     for (std::int32_t k = 0; k < classCount; ++k) {
       const bool entered = record != records.end() && record->first == k;
-      out += line.make(entry.first, k, entered ? record->second : ScoreRecord{});
+      appendScoreLine(out, entry.first, k, entered ? record->second : ScoreRecord{});
       if (entered) ++record;
     }
   }

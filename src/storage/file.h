@@ -1,5 +1,5 @@
-// The few things the program does with files. Behind a port, so that tests can make every step of
-// a save fail; the sides of this port take no decision.
+// The few things the program does with files: a port with a side for each system and one for tests
+// that makes every step of a save fail. The sides take no decision.
 #pragma once
 
 #include <cstdint>
@@ -19,7 +19,7 @@ enum class FileOutcome {
   failed,  ///< anything else: disk full, drive gone, broken medium
 };
 
-/// What is known of a path before writing to it.
+/// What is known about a path before writing to it.
 struct FileStatus {
   bool exists = false;
   bool isRegular = false;      ///< a plain file: no folder, device or pipe
@@ -27,7 +27,7 @@ struct FileStatus {
   bool hasOtherNames = false;  ///< hard links: the same file under other names
 };
 
-/// A file open for reading, from its start on. Destroying it closes it.
+/// A file open for reading, from its start. Destroying it closes it.
 class InputFile {
  public:
   InputFile() = default;
@@ -35,14 +35,14 @@ class InputFile {
   InputFile& operator=(const InputFile&) = delete;
   virtual ~InputFile() = default;
 
-  /// How many bytes it holds, as far as the system tells beforehand: 0 for a pipe, say.
+  /// Its length in bytes as the system says; 0 where that is not known, as for a pipe.
   [[nodiscard]] virtual std::uint64_t size() const = 0;
-  /// Reads the next bytes, as many as there is room for at most (`room` above 0), and gives their
-  /// number: 0 at the end of the file only. Nothing when they cannot be read.
+  /// Reads up to `room` bytes (above 0) and returns how many; 0 only at the end of the file;
+  /// nothing on an error.
   [[nodiscard]] virtual std::optional<std::size_t> read(char* to, std::size_t room) = 0;
 };
 
-/// A file open for writing. Destroying it closes it, whatever that brings.
+/// A file open for writing. Destroying it closes it and ignores errors.
 class OutputFile {
  public:
   OutputFile() = default;
@@ -50,12 +50,11 @@ class OutputFile {
   OutputFile& operator=(const OutputFile&) = delete;
   virtual ~OutputFile() = default;
 
-  /// Writes all bytes from the current position on, the start at first. False when the medium did
-  /// not take all of them.
+  /// Writes at the current position, at first the start. False unless all bytes were written.
   [[nodiscard]] virtual bool write(std::string_view bytes) = 0;
-  /// Cuts the file or makes it longer; false when there is no room for a longer one.
+  /// Cuts the file or makes it longer. False when the disk has no room for that.
   [[nodiscard]] virtual bool resize(std::uint64_t size) = 0;
-  /// Waits until the medium holds what was written.
+  /// Waits until what was written is on the disk.
   [[nodiscard]] virtual bool flush() = 0;
   [[nodiscard]] virtual bool close() = 0;
 };
@@ -71,7 +70,10 @@ struct ListedFile {
   std::int64_t changed = 0;  ///< when it was last written to
 };
 
-/// Paths are 8-bit text as the operator's system understands it, at most kMaxPathLength bytes.
+/// Larger files are not read: no contest comes near, and a device without end must not hang.
+inline constexpr std::uint64_t kMaxFileSize = std::uint64_t{1} << 30;
+
+/// Paths are 8-bit text as the operator's system understands it.
 class FileSystem {
  public:
   FileSystem() = default;
@@ -79,43 +81,44 @@ class FileSystem {
   FileSystem& operator=(const FileSystem&) = delete;
   virtual ~FileSystem() = default;
 
-  /// Null when the file cannot be opened or holds more than kMaxFileSize.
+  /// Null when the file cannot be opened.
   [[nodiscard]] virtual std::unique_ptr<InputFile> openToRead(const std::string& path) = 0;
-  /// All bytes of a file; nothing when it cannot be opened or read to its end, is a folder, or
-  /// holds more than kMaxFileSize.
-  [[nodiscard]] std::optional<std::string> readWhole(const std::string& path);
+  /// All bytes of a file; nothing when it cannot be opened or read to its end, is a folder, or has
+  /// more than `most` bytes.
+  [[nodiscard]] std::optional<std::string> readWhole(const std::string& path,
+                                                     std::uint64_t most = kMaxFileSize);
 
-  /// The full name of the file that a path means, links followed; the file need not exist, its
-  /// folder must. Nothing when there is no such place.
+  /// The full name of the file that a path means, links followed. The file need not exist; nothing
+  /// when its folder does not.
   [[nodiscard]] virtual std::optional<std::string> resolve(const std::string& path) = 0;
-  /// Nothing when it cannot be told.
-  [[nodiscard]] virtual std::optional<FileStatus> facts(const std::string& path) = 0;
+  /// Nothing when the system does not say.
+  [[nodiscard]] virtual std::optional<FileStatus> status(const std::string& path) = 0;
 
   struct Opened {
     FileOutcome outcome = FileOutcome::failed;
     std::unique_ptr<OutputFile> file;  ///< with `done` only
   };
-  /// Makes a file that must not exist yet.
+  /// Creates a file that must not exist yet.
   [[nodiscard]] virtual Opened create(const std::string& path) = 0;
-  /// Opens a file that exists for writing over its content.
+  /// Opens an existing file to overwrite its content.
   [[nodiscard]] virtual Opened openExisting(const std::string& path) = 0;
 
-  /// Gives `from` the name `to` in one step and makes that last. A file that already has that name
-  /// is replaced; its rights and attributes pass to the new one.
+  /// Renames `from` to `to` in one step, on the disk when it returns. A file of that name is
+  /// replaced; the new one takes over its rights and attributes.
   [[nodiscard]] virtual FileOutcome replace(const std::string& from, const std::string& to) = 0;
-  /// Removes a file. A file that stays is no harm to any caller, so nothing is reported.
+  /// Removes a file. Nothing is reported: no caller minds a file that stays.
   virtual void remove(const std::string& path) = 0;
 
   enum class Place { beside, temporaryFolder };
-  /// A name beside `path`, or in the folder for temporary files, that no other process makes;
+  /// A name in the folder of `path`, or in the one for temporary files, that no other process uses;
   /// another one for each attempt.
   [[nodiscard]] virtual std::string temporaryName(const std::string& path, Place place,
                                                   int attempt) = 0;
   virtual void pause(int milliseconds) = 0;
 
-  /// Keeps other copies of the program on this machine from taking a turn for the same path until
-  /// the result is destroyed. Waits for five seconds at most: a turn that cannot be had is no
-  /// reason not to save.
+  /// Keeps other copies of the program on this machine from saving to the same path until the
+  /// result is destroyed. Waits for at most five seconds: a lock that cannot be had is no reason
+  /// not to save.
   [[nodiscard]] virtual std::shared_ptr<void> lockForSaving(const std::string& path) = 0;
 
   /// Opens a file for writing behind its content; makes it when there is none.
@@ -139,9 +142,6 @@ class FileSystem {
   /// the latest, in whatever way that ends.
   [[nodiscard]] virtual Claim claim(const std::string& path) = 0;
 };
-
-/// Larger files are not read: no contest comes near, and a device without end must not hang.
-inline constexpr std::uint64_t kMaxFileSize = std::uint64_t{1} << 30;
 
 /// The files of this machine.
 [[nodiscard]] FileSystem& systemFiles();

@@ -93,7 +93,7 @@ class PosixOutputFile : public OutputFile {
     struct stat status {};
     if (::fstat(descriptor_.number(), &status) != 0) return false;
     const auto length = static_cast<off_t>(size);
-    // Making a file longer by ftruncate() alone would promise room that the disk may not have.
+    // ftruncate() alone would make a file longer without room for it on the disk.
     if (length > status.st_size) return ::posix_fallocate(descriptor_.number(), 0, length) == 0;
     return ::ftruncate(descriptor_.number(), length) == 0;
   }
@@ -110,11 +110,11 @@ FileSystem::Opened opened(int descriptor) {
   return {FileOutcome::done, std::make_unique<PosixOutputFile>(descriptor)};
 }
 
-/// The new file takes over who may do what with the old one.
+/// Gives the new file the owner and rights of the old one.
 void passOnRights(const std::string& from, const std::string& to) {
   struct stat status {};
   if (::stat(to.c_str(), &status) != 0) return;
-  // Without the right to give files away the file stays the operator's own.
+  // Usually only the superuser may change the owner; the file stays the operator's own then.
   if (::chown(from.c_str(), status.st_uid, status.st_gid) != 0) errno = 0;
   if (::chmod(from.c_str(), status.st_mode & 07777) != 0) errno = 0;
 }
@@ -160,8 +160,8 @@ struct ClaimLock {
   bool isHeld = false;
 };
 
-/// A folder that may be locked. It is unlocked before it is closed, as it is left open to the
-/// system whether closing that fails closes.
+/// A folder that may be locked. Unlocked explicitly: POSIX leaves open whether a failed close()
+/// closes.
 struct SaveLock {
   explicit SaveLock(int number) : folder(number) {}
   SaveLock(const SaveLock&) = delete;
@@ -178,40 +178,39 @@ class PosixFileSystem : public FileSystem {
     struct stat status {};
     if (!descriptor.isOpen() || ::fstat(descriptor.number(), &status) != 0) return nullptr;
     const auto size = static_cast<std::uint64_t>(status.st_size);
-    if (size > kMaxFileSize) return nullptr;
     return std::make_unique<PosixInputFile>(std::move(descriptor), size);
   }
 
   std::optional<std::string> resolve(const std::string& path) override {
     constexpr int kMaxLinks = 40;
-    std::string place = path;
+    std::string file = path;
     for (int i = 0; i < kMaxLinks; ++i) {
-      if (auto whole = realPath(place)) return whole;
+      if (auto whole = realPath(file)) return whole;
       if (errno != ENOENT) return std::nullopt;
       // A link to a file that does not exist yet names the file to be made.
-      auto target = linkTarget(place);
+      auto target = linkTarget(file);
       if (!target) break;
-      place = std::move(*target);
+      file = std::move(*target);
     }
-    const auto folder = realPath(folderOf(place));
-    const std::string name = place.substr(place.rfind('/') + 1);
+    const auto folder = realPath(folderOf(file));
+    const std::string name = file.substr(file.rfind('/') + 1);
     if (!folder || name.empty()) return std::nullopt;
     return (*folder == "/" ? "" : *folder) + "/" + name;
   }
 
-  std::optional<FileStatus> facts(const std::string& path) override {
-    struct stat status {};
-    FileStatus facts;
-    if (::stat(path.c_str(), &status) != 0) {
-      return errno == ENOENT ? std::optional(facts) : std::nullopt;
+  std::optional<FileStatus> status(const std::string& path) override {
+    struct stat found {};
+    FileStatus status;
+    if (::stat(path.c_str(), &found) != 0) {
+      return errno == ENOENT ? std::optional(status) : std::nullopt;
     }
-    facts.exists = true;
-    facts.isRegular = S_ISREG(status.st_mode);
-    // The mode is looked at as well, since everything seems writable to the superuser.
+    status.exists = true;
+    status.isRegular = S_ISREG(found.st_mode);
+    // The mode counts as well: access() lets the superuser write everything.
     const mode_t anyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
-    facts.isReadOnly = (status.st_mode & anyWrite) == 0 || ::access(path.c_str(), W_OK) != 0;
-    facts.hasOtherNames = status.st_nlink > 1;
-    return facts;
+    status.isReadOnly = (found.st_mode & anyWrite) == 0 || ::access(path.c_str(), W_OK) != 0;
+    status.hasOtherNames = found.st_nlink > 1;
+    return status;
   }
 
   Opened create(const std::string& path) override {
@@ -242,7 +241,7 @@ class PosixFileSystem : public FileSystem {
     std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
   }
 
-  // The folder is locked and not the file, which every save replaces by another one.
+  // Locks the folder, since every save replaces the file by another one.
   std::shared_ptr<void> lockForSaving(const std::string& path) override {
     auto lock = std::make_shared<SaveLock>(
         ::open(folderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));

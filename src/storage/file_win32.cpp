@@ -1,6 +1,4 @@
 #include <windows.h>
-// The shell needs windows.h before it.
-#include <shlobj.h>
 
 #include <algorithm>
 #include <array>
@@ -56,8 +54,8 @@ std::wstring wide(const std::string& text) {
   return result;
 }
 
-/// Paths go to the system in its own alphabet and by their full name, which is free of the usual
-/// limit of 260 characters.
+/// The path as the system takes it: in UTF-16, and in full where it is long, as that avoids the
+/// usual limit of 260 characters.
 std::wstring systemPath(const std::string& path) {
   constexpr std::size_t kUsualLimit = 240;
   const std::wstring given = wide(path);
@@ -78,8 +76,7 @@ std::string narrow(const std::wstring& text) {
   return result;
 }
 
-/// A full name as a path of ours; the path as given when its folders have names that 8-bit text
-/// cannot spell.
+/// A full name as 8-bit text; the path as given when it has characters that 8-bit text lacks.
 std::string pathOf(const std::wstring& full, const std::string& given) {
   std::string path = narrow(full);
   return wide(path) == full ? path : given;
@@ -91,7 +88,7 @@ std::string folderOf(const std::string& path) {
   return path.size() >= 2 && path[1] == ':' ? path.substr(0, 2) : std::string();
 }
 
-/// With the backslash that ends it.
+/// Ends with a backslash.
 std::string temporaryFolder() {
   std::array<wchar_t, MAX_PATH + 1> folder{};
   const DWORD length = GetTempPathW(static_cast<DWORD>(folder.size()), folder.data());
@@ -153,7 +150,7 @@ class WindowsOutputFile : public OutputFile {
 
 FileSystem::Opened openForWriting(const std::string& path, DWORD disposition,
                                   DWORD start = FILE_BEGIN) {
-  // No one else may write meanwhile; readers see whole content, as they open after the renaming.
+  // Others may read meanwhile, but not write.
   const HANDLE handle = CreateFileW(systemPath(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ,
                                     nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
   if (handle == INVALID_HANDLE_VALUE) return {outcomeOf(GetLastError()), nullptr};
@@ -164,7 +161,7 @@ FileSystem::Opened openForWriting(const std::string& path, DWORD disposition,
 
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
-/// The new file takes over the rights, the attributes and the time of creation of the old one.
+/// Gives the new file the rights, attributes and time of creation of the old one.
 void passOnRights(const std::wstring& from, const std::wstring& to) {
   DWORD size = 0;
   GetFileSecurityW(to.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
@@ -211,9 +208,8 @@ class WindowsFileSystem : public FileSystem {
     LARGE_INTEGER size;
     if (!file.isOpen() || GetFileType(file.get()) != FILE_TYPE_DISK) return nullptr;
     if (GetFileSizeEx(file.get(), &size) == 0) return nullptr;
-    const auto bytes = static_cast<std::uint64_t>(size.QuadPart);
-    if (bytes > kMaxFileSize) return nullptr;
-    return std::make_unique<WindowsInputFile>(std::move(file), bytes);
+    return std::make_unique<WindowsInputFile>(std::move(file),
+                                              static_cast<std::uint64_t>(size.QuadPart));
   }
 
   std::optional<std::string> resolve(const std::string& path) override {
@@ -234,23 +230,23 @@ class WindowsFileSystem : public FileSystem {
     return target.empty() ? std::nullopt : std::optional(pathOf(target, path));
   }
 
-  std::optional<FileStatus> facts(const std::string& path) override {
+  std::optional<FileStatus> status(const std::string& path) override {
     const std::wstring full = systemPath(path);
-    FileStatus facts;
+    FileStatus status;
     const DWORD attributes = GetFileAttributesW(full.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) {
-      return GetLastError() == ERROR_FILE_NOT_FOUND ? std::optional(facts) : std::nullopt;
+      return GetLastError() == ERROR_FILE_NOT_FOUND ? std::optional(status) : std::nullopt;
     }
-    facts.exists = true;
-    facts.isRegular = (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE)) == 0;
-    facts.isReadOnly = (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+    status.exists = true;
+    status.isRegular = (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE)) == 0;
+    status.isReadOnly = (attributes & FILE_ATTRIBUTE_READONLY) != 0;
     const Handle file(CreateFileW(full.c_str(), FILE_READ_ATTRIBUTES, kShareAll, nullptr,
                                   OPEN_EXISTING, 0, nullptr));
     BY_HANDLE_FILE_INFORMATION information;
-    facts.hasOtherNames = file.isOpen() &&
-                          GetFileInformationByHandle(file.get(), &information) != 0 &&
-                          information.nNumberOfLinks > 1;
-    return facts;
+    status.hasOtherNames = file.isOpen() &&
+                           GetFileInformationByHandle(file.get(), &information) != 0 &&
+                           information.nNumberOfLinks > 1;
+    return status;
   }
 
   Opened create(const std::string& path) override { return openForWriting(path, CREATE_NEW); }
@@ -258,8 +254,8 @@ class WindowsFileSystem : public FileSystem {
     return openForWriting(path, OPEN_EXISTING);
   }
 
-  // One rename and not ReplaceFile(), which takes two: a crash between them would leave no file
-  // under the contest's name. What ReplaceFile() passes on to the new file is done beforehand.
+  // Not ReplaceFile(), which renames twice: a crash in between would leave no file of the
+  // contest's name. What ReplaceFile() would pass on is passed on here first.
   FileOutcome replace(const std::string& from, const std::string& to) override {
     const std::wstring source = systemPath(from);
     const std::wstring target = systemPath(to);
@@ -278,7 +274,7 @@ class WindowsFileSystem : public FileSystem {
 
   void pause(int milliseconds) override { Sleep(static_cast<DWORD>(milliseconds)); }
 
-  // One turn for all paths, as one file has many names. Windows ends the turn of a killed program.
+  // One lock for all paths, as one file has many names. Windows frees that of a killed program.
   std::shared_ptr<void> lockForSaving(const std::string& /*path*/) override {
     constexpr DWORD kPatience = 5000;
     std::shared_ptr<void> lock(CreateMutexA(nullptr, FALSE, "Scorvane saves"), [](HANDLE mutex) {
@@ -322,16 +318,11 @@ class WindowsFileSystem : public FileSystem {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
   }
 
-  // The environment is asked first: the shell's library takes long to load.
   std::string localDataFolder() override {
     std::array<wchar_t, MAX_PATH> folder{};
     const DWORD length =
         GetEnvironmentVariableW(L"LOCALAPPDATA", folder.data(), static_cast<DWORD>(folder.size()));
-    if (length > 0 && length < folder.size()) return spelled(folder.data());
-    if (SHGetFolderPathW(nullptr, CSIDL_LOCAL_APPDATA, nullptr, 0, folder.data()) != S_OK) {
-      return {};
-    }
-    return spelled(folder.data());
+    return length < folder.size() ? spelled(folder.data()) : std::string();
   }
 
   std::optional<std::int64_t> lastChange(const std::string& path) override {

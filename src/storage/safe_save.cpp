@@ -15,27 +15,27 @@ struct TemporaryCopy {
   std::string path;
 };
 
-/// Writes a complete, flushed copy beside the target or elsewhere, or leaves nothing there.
+/// Writes the bytes to a new file and flushes it; a file that fails is removed.
 TemporaryCopy writeTemporaryCopy(FileSystem& files, const std::string& target,
                                  FileSystem::Place place, std::string_view bytes) {
   constexpr int kAttempts = 100;
   for (int attempt = 1; attempt <= kAttempts; ++attempt) {
-    TemporaryCopy spare{FileOutcome::failed, files.temporaryName(target, place, attempt)};
-    FileSystem::Opened opened = files.create(spare.path);
+    TemporaryCopy copy{FileOutcome::failed, files.temporaryName(target, place, attempt)};
+    FileSystem::Opened opened = files.create(copy.path);
     if (opened.outcome == FileOutcome::exists) continue;
-    spare.outcome = opened.outcome;
-    if (opened.outcome != FileOutcome::done) return spare;
+    copy.outcome = opened.outcome;
+    if (opened.outcome != FileOutcome::done) return copy;
     if (!writeAll(*opened.file, bytes)) {
       opened.file.reset();
-      files.remove(spare.path);
-      spare.outcome = FileOutcome::failed;
+      files.remove(copy.path);
+      copy.outcome = FileOutcome::failed;
     }
-    return spare;
+    return copy;
   }
   return {};
 }
 
-/// Virus scanners and indexers hold fresh files for some hundred milliseconds.
+/// Virus scanners and indexers keep fresh files open for some hundred milliseconds.
 FileOutcome replacePatiently(FileSystem& files, const std::string& from, const std::string& to) {
   constexpr int kAttempts = 10;
   constexpr int kLongerEachTime = 25;
@@ -56,8 +56,8 @@ bool writeOver(FileSystem& files, const std::string& target, std::string_view by
 
 enum class InPlace { saved, oldKept, damaged };
 
-// The room for longer content is made before the first byte of the old one is written over, so
-// that a full disk is found out while the old content is whole.
+// Room for longer content is made before the first byte is overwritten, so that a full disk shows
+// while the old content is whole.
 InPlace writeInPlace(FileSystem& files, const std::string& target, std::string_view bytes) {
   const std::optional<std::string> old = files.readWhole(target);
   if (!old) return InPlace::oldKept;
@@ -77,27 +77,28 @@ InPlace writeInPlace(FileSystem& files, const std::string& target, std::string_v
 bool saveSafely(FileSystem& files, const std::string& path, std::string_view bytes) {
   const std::optional<std::string> target = files.resolve(path);
   if (!target) return false;
-  const std::optional<FileStatus> facts = files.facts(*target);
-  if (!facts || (facts->exists && (!facts->isRegular || facts->isReadOnly))) return false;
+  const std::optional<FileStatus> status = files.status(*target);
+  if (!status || (status->exists && (!status->isRegular || status->isReadOnly))) return false;
 
-  TemporaryCopy spare = writeTemporaryCopy(files, *target, FileSystem::Place::beside, bytes);
-  bool mayReplace = !facts->hasOtherNames;
-  if (spare.outcome == FileOutcome::denied && facts->exists) {
-    // A program killed while it writes in place must leave a whole copy somewhere.
-    spare = writeTemporaryCopy(files, *target, FileSystem::Place::temporaryFolder, bytes);
+  TemporaryCopy copy = writeTemporaryCopy(files, *target, FileSystem::Place::beside, bytes);
+  bool mayReplace = !status->hasOtherNames;
+  if (copy.outcome == FileOutcome::denied && status->exists) {
+    // The folder takes no new file. A program killed while it writes in place must still leave a
+    // whole copy somewhere.
+    copy = writeTemporaryCopy(files, *target, FileSystem::Place::temporaryFolder, bytes);
     mayReplace = false;
   }
-  if (spare.outcome != FileOutcome::done) return false;
+  if (copy.outcome != FileOutcome::done) return false;
 
   FileOutcome outcome = FileOutcome::denied;
-  if (mayReplace) outcome = replacePatiently(files, spare.path, *target);
+  if (mayReplace) outcome = replacePatiently(files, copy.path, *target);
   if (outcome == FileOutcome::done) return true;
   InPlace result = InPlace::oldKept;
-  if (outcome == FileOutcome::denied && facts->exists) {
+  if (outcome == FileOutcome::denied && status->exists) {
     result = writeInPlace(files, *target, bytes);
   }
-  // A file that could not be put right again leaves the spare copy as the good one.
-  if (result != InPlace::damaged) files.remove(spare.path);
+  // When the old content could not be put back, the copy is the only whole one.
+  if (result != InPlace::damaged) files.remove(copy.path);
   return result == InPlace::saved;
 }
 

@@ -9,8 +9,8 @@
 namespace scorvane {
 
 /// Reads `lineCount` score lines into the contest, whose classes and contestants are known by now.
-/// A record of a class or a contestant that does not exist is passed over; of several records of
-/// one contestant and class the last one stays. Without classes every contestant gets an entry
+/// Records of classes and contestants that do not exist are ignored; of several records of one
+/// contestant and class the last one counts. Without classes every contestant gets an entry
 /// without records. False when the lines end early.
 [[nodiscard]] bool readScores(LineScanner& lines, std::int64_t lineCount, Contest& contest);
 

@@ -1,6 +1,8 @@
 #include "text/number.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cstddef>
 #include <limits>
 
@@ -14,6 +16,12 @@ bool isBlank(char character) {
 
 bool isDigit(char character) {
   return character >= '0' && character <= '9';
+}
+
+std::string_view withoutOuterBlanks(std::string_view text) {
+  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+  return text;
 }
 
 }  // namespace
@@ -33,10 +41,32 @@ std::int32_t leadingNumber(std::string_view text) {
   return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
 }
 
-std::string_view withoutOuterBlanks(std::string_view text) {
-  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
-  return text;
+std::optional<std::uint32_t> unsignedNumber(std::string_view text) {
+  const std::string_view digits = withoutOuterBlanks(text);
+  std::uint32_t value = 0;
+  const char* end = digits.data() + digits.size();
+  const auto [stop, error] = std::from_chars(digits.data(), end, value);
+  if (error != std::errc() || stop != end) return std::nullopt;
+  return value;
+}
+
+std::optional<std::int64_t> typedNumber(std::string_view text) {
+  constexpr std::int64_t kLargest = 999'999'999'999'999'999;
+  text = withoutOuterBlanks(text);
+  const bool negative = !text.empty() && text.front() == '-';
+  if (negative) text.remove_prefix(1);
+  if (text.empty() || !std::all_of(text.begin(), text.end(), isDigit)) return std::nullopt;
+  std::int64_t value = 0;
+  for (const char digit : text) {
+    value = value > kLargest / 10 ? kLargest : value * 10 + (digit - '0');
+  }
+  return negative ? -value : value;
+}
+
+void appendNumber(std::string& out, std::int64_t number) {
+  std::array<char, 24> digits;
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number);
+  out.append(digits.data(), end.ptr);
 }
 
 }  // namespace scorvane

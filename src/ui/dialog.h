@@ -9,7 +9,7 @@
 #include <variant>
 #include <vector>
 
-#include "text/unsigned_number.h"
+#include "text/number.h"
 #include "ui/window.h"
 
 namespace scorvane {
@@ -21,7 +21,7 @@ using ControlId = int;
 inline constexpr ControlId kOkId = 1;
 inline constexpr ControlId kCancelId = 2;
 
-/// What a control can report; no more kinds than every desktop can report truthfully.
+/// What a control can report; only what every desktop can report truthfully.
 enum class ControlEvent {
   clicked,           ///< button pressed, by mouse, mnemonic, Enter or Escape
   textChanged,       ///< an edit field's text changed, by the operator or by setText
@@ -91,7 +91,7 @@ class Dialog : public Window {
   /// The selected lines of a multiple-selection list, ascending.
   [[nodiscard]] virtual std::vector<int> selections(ControlId id) const = 0;
   virtual void setSelected(ControlId id, int index, bool selected) = 0;
-  /// Makes lists stand side by side as the columns of one table: scrolling one of them, by
+  /// Joins lists to the columns of one table: scrolling one of them, by
   /// mouse, wheel or keyboard, scrolls the others to the same first line.
   virtual void linkScrolling(std::vector<ControlId> ids) = 0;
 
@@ -101,7 +101,7 @@ class Dialog : public Window {
   virtual void selectText(ControlId id) = 0;
   /// Makes a button the one that Enter presses.
   virtual void setDefaultButton(ControlId id) = 0;
-  /// Closes the dialog once the event at hand is answered; runDialog gives `result`.
+  /// Closes the dialog once this event is handled; runDialog returns `result`.
   virtual void end(int result) = 0;
 
   void setNumber(ControlId id, std::int64_t value) { setText(id, std::to_string(value)); }

@@ -19,13 +19,13 @@ LPARAM textParameter(const std::string& text) {
   return reinterpret_cast<LPARAM>(text.c_str());
 }
 
-// One modal dialog: carries its messages to the behaviour and the behaviour's wishes to its
-// controls.
+// One modal dialog: passes its messages on to the behaviour, and what the behaviour asks for on to
+// the controls.
 class NativeDialog final : public Dialog {
  public:
   explicit NativeDialog(DialogBehaviour& behaviour) : behaviour_(behaviour) {}
 
-  // Messages. Each gives what the dialog procedure is to return.
+  // Messages. Each returns what the dialog procedure is to return.
   INT_PTR initialize(HWND window);
   INT_PTR command(ControlId id, WORD notification);
   INT_PTR closeBox();
@@ -83,8 +83,8 @@ class NativeDialog final : public Dialog {
 // The timer by which a list scrolls while the mouse is dragged out of it.
 constexpr UINT kListTimer = 0x0118;
 
-// Watches the lists that scroll together. Whatever the operator does to one of them, its first
-// line is what tells whether the others have to follow.
+// Keeps lists together that scroll as one: after anything that can scroll a list, the others take
+// over its first line.
 LRESULT CALLBACK linkedListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam,
                                      UINT_PTR /*id*/, DWORD_PTR data) {
   auto* dialog = reinterpret_cast<NativeDialog*>(data);
@@ -131,8 +131,6 @@ INT_PTR NativeDialog::command(ControlId id, WORD notification) {
   }
   const std::optional<ControlEvent> event = controlEvent(sender, notification);
   if (!event) return FALSE;
-  // Enter reaches a default button even while it is disabled.
-  if (*event == ControlEvent::clicked && IsWindowEnabled(sender) == FALSE) return TRUE;
   behaviour_.onEvent(*this, id, *event);
   return TRUE;
 }
@@ -142,7 +140,7 @@ INT_PTR NativeDialog::closeBox() {
   return TRUE;
 }
 
-// Lines of lists are laid out in columns by blanks; in a proportional font they would not align.
+// Blanks align the columns of list lines, so lists need a fixed-pitch font.
 void NativeDialog::useColumnFont() {
   const auto dialogFont = reinterpret_cast<HFONT>(SendMessageA(window_, WM_GETFONT, 0, 0));
   LOGFONTA font{};
@@ -155,8 +153,7 @@ void NativeDialog::useColumnFont() {
   }
 }
 
-// Draws the border of the default button where Enter will act: on the push button that has the
-// focus, else on the default one.
+// Marks the button that Enter presses: the push button that has the focus, else the default one.
 void NativeDialog::drawDefaultButtons() {
   HWND focus = GetFocus();
   const bool onButton = isPushButton(focus) && IsChild(window_, focus) != FALSE;

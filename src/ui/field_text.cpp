@@ -1,16 +1,10 @@
 #include "ui/field_text.h"
 
-#include <algorithm>
+#include <string_view>
+
+#include "text/characters.h"
 
 namespace scorvane {
-
-std::string withoutControlCharacters(std::string_view text) {
-  std::string cleaned(text);
-  std::replace_if(
-      cleaned.begin(), cleaned.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; },
-      ' ');
-  return cleaned;
-}
 
 std::string fieldText(const Dialog& dialog, ControlId id) {
   return withoutControlCharacters(std::string_view(dialog.text(id)).substr(0, kMaxFieldText));

@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 #include "ui/dialog.h"
 
@@ -12,11 +11,6 @@ namespace scorvane {
 
 /// Longest text taken from an edit field, in bytes.
 inline constexpr std::size_t kMaxFieldText = 499;
-
-/// The text with every control character (TAB, line end, any byte below the blank) replaced by a
-/// blank. A contest file separates its fields by TAB and its records by line ends; a name pasted
-/// with one of them inside must not cut the record in two.
-[[nodiscard]] std::string withoutControlCharacters(std::string_view text);
 
 /// An edit field's text as it is stored: at most kMaxFieldText bytes, no control characters.
 [[nodiscard]] std::string fieldText(const Dialog& dialog, ControlId id);

@@ -1,4 +1,4 @@
-// A window handle of the system, named without its header.
+// A window handle of the system, named without its header, and the display that shows the window.
 #pragma once
 
 #include "ui/native_window_win32.h"
@@ -8,5 +8,8 @@ struct HWND__;
 namespace scorvane {
 
 using NativeWindow = ::HWND__*;
+
+/// Dots per inch of the display that shows the window; 96 is 100 per cent.
+[[nodiscard]] int resolutionOf(NativeWindow window);
 
 }  // namespace scorvane

@@ -34,7 +34,7 @@ struct FileQuestion {
   bool fileMustExist = false;
 };
 
-/// Longest path a file dialog gives back, in bytes.
+/// Longest path a file dialog returns, in bytes.
 inline constexpr std::size_t kMaxPathLength = 499;
 
 class Window {
@@ -44,7 +44,7 @@ class Window {
   Window& operator=(const Window&) = delete;
   virtual ~Window() = default;
 
-  /// Shows a modal message box owned by this window and gives the button pressed. Closing a box
+  /// Shows a modal message box owned by this window and returns the button pressed. Closing a box
   /// that has a Cancel button counts as Cancel.
   virtual Answer ask(const Message& message) = 0;
   /// Lets the operator choose a file; nothing when cancelled. The path is at most kMaxPathLength

@@ -40,8 +40,8 @@ int movedPosition(const ScrollBar& bar, ScrollMove move, int thumb) {
 
 ViewSize pictureSize(const ViewSize& own, const ViewSize& client) {
   if (own.width <= 0 || own.height <= 0) return {};
-  const std::int64_t room = std::max(0, client.width - 2 * kPicturePlace);
-  const std::int64_t rows = std::max(0, client.height - 2 * kPicturePlace);
+  const std::int64_t room = std::max(0, client.width - 2 * kPicturePosition);
+  const std::int64_t rows = std::max(0, client.height - 2 * kPicturePosition);
   const std::int64_t width =
       std::min({std::int64_t{own.width}, room, rows * own.width / own.height});
   return {static_cast<int>(width), static_cast<int>(width * own.height / own.width)};

@@ -1,5 +1,5 @@
-// What the report view shows and where it stands: lines, scroll bars and their moves, in plain
-// numbers. The window only paints what this answers.
+// What the report view shows: lines, scroll bars and their moves, in plain numbers. The window only
+// paints what this returns.
 #pragma once
 
 #include <cstddef>
@@ -21,11 +21,11 @@ struct ViewSize {
   int height = 0;
 };
 
-/// Place of the start-up picture's top-left corner in the client area, in pixels both ways.
-inline constexpr int kPicturePlace = 50;
+/// Position of the start-up picture's top-left corner in the client area, in pixels both ways.
+inline constexpr int kPicturePosition = 50;
 
 /// The size to draw the start-up picture in: its own, or in proportion smaller where the client
-/// area would cut it; it then keeps kPicturePlace to the right and below as well.
+/// area would cut it; it then keeps kPicturePosition to the right and below as well.
 [[nodiscard]] ViewSize pictureSize(const ViewSize& own, const ViewSize& client);
 
 /// One scroll bar: positions from 0 to `maximum`, of which `page` are in view at once.
@@ -43,8 +43,8 @@ enum class ScrollMove { lineBack, lineForward, pageBack, pageForward, start, end
 
 class ReportView {
  public:
-  /// As the window is created: nothing is scrolled, and the width is reserved for the whole text
-  /// standing in one line.
+  /// As the window is created: nothing is scrolled, and the horizontal bar is as wide as if the
+  /// whole text were one line.
   void open(const std::string& text, const ViewMetrics& metrics);
   /// Takes up a changed text, from its top-left corner.
   void refresh(const std::string& text, const ViewMetrics& metrics, const ViewSize& size);
@@ -57,8 +57,8 @@ class ReportView {
   /// Number of line ends in the text.
   [[nodiscard]] int lineCount() const { return static_cast<int>(lineEnds_.size()); }
 
-  /// Each moves a bar and gives the pixels by which the client area shifts (down or right when
-  /// above 0); 0 when the bar stands at its end already.
+  /// Each moves a bar and returns the pixels by which the client area shifts (down or right when
+  /// above 0); 0 when the bar is at its end already.
   int scrollVertically(ScrollMove move, int thumb = 0);
   int scrollHorizontally(ScrollMove move, int thumb = 0);
   /// `delta` in the wheel's units, 120 a notch, above 0 away from the operator.

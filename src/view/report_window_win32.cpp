@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "text/report_marks.h"
-#include "ui/resolution_win32.h"
+#include "ui/native_window_win32.h"
 
 namespace scorvane {
 
@@ -27,8 +27,8 @@ ViewSize clientSize(HWND window) {
   return {client.right, client.bottom};
 }
 
-// The vertical bar follows its thumb while it is dragged and ignores where it is dropped; the
-// horizontal bar does the reverse.
+// The vertical bar follows its thumb while it is dragged, the horizontal one when it is dropped.
+// Odd but required, docs/required-behaviour.md: view-thumbs
 std::optional<ScrollMove> moveOf(int bar, unsigned request) {
   switch (request) {
     case SB_LINEUP:
@@ -57,8 +57,8 @@ std::optional<ScrollMove> moveOf(int bar, unsigned request) {
   return std::nullopt;
 }
 
-// The message carries only 16 bits of the thumb's place; the bar knows all of them.
-int thumbPlace(HWND window, int bar, WORD reported) {
+// The message carries only 16 bits of the thumb's position; the bar knows all of them.
+int thumbPosition(HWND window, int bar, WORD reported) {
   SCROLLINFO info{};
   info.cbSize = sizeof info;
   info.fMask = SIF_TRACKPOS;
@@ -172,11 +172,11 @@ bool ReportWindow::handle(unsigned message, std::uintptr_t wParam, std::intptr_t
 void ReportWindow::scroll(int bar, unsigned request, int thumb) {
   const std::optional<ScrollMove> move = moveOf(bar, request);
   if (!move) return;
-  const int place = thumbPlace(window_, bar, static_cast<WORD>(thumb));
+  const int position = thumbPosition(window_, bar, static_cast<WORD>(thumb));
   if (bar == SB_VERT) {
-    shift(0, view_.scrollVertically(*move, place));
+    shift(0, view_.scrollVertically(*move, position));
   } else {
-    shift(view_.scrollHorizontally(*move, place), 0);
+    shift(view_.scrollHorizontally(*move, position), 0);
   }
 }
 
@@ -208,8 +208,8 @@ bool ReportWindow::scrollByKey(unsigned key) {
   return true;
 }
 
-// Moves what is shown and paints it anew. The painting draws from the left edge whatever the
-// horizontal position, so that a move across has no lasting effect; that is deliberate.
+// Scrolls the window and repaints it. A move across has no lasting effect.
+// Odd but required, docs/required-behaviour.md: view-no-scrolling-across
 void ReportWindow::shift(int across, int down) {
   setBars();
   if (across == 0 && down == 0) return;
@@ -246,7 +246,7 @@ void ReportWindow::drawPicture(void* context, const ViewSize& client) const {
   const HGDIOBJ previous = SelectObject(source, picture_.get());
   SetStretchBltMode(target, HALFTONE);
   SetBrushOrgEx(target, 0, 0, nullptr);
-  StretchBlt(target, kPicturePlace, kPicturePlace, shown.width, shown.height, source, 0, 0,
+  StretchBlt(target, kPicturePosition, kPicturePosition, shown.width, shown.height, source, 0, 0,
              pictureSize_.width, pictureSize_.height, SRCCOPY);
   SelectObject(source, previous);
   DeleteDC(source);

@@ -1,9 +1,11 @@
 // What an operator sees of the commands, as approved.
 #include <gtest/gtest.h>
 
+#include <ctime>
+
 #include "app/command_table.h"
-#include "reasons/reasons_class_dialog.h"
-#include "reasons/reasons_order_edit_dialog.h"
+#include "reasons/reasons_ids.h"
+#include "reasons/reasons_order_generation.h"
 #include "reports/round_verification_dialog.h"
 #include "session/contest_file.h"
 #include "session/open_contest.h"
@@ -20,9 +22,8 @@ constexpr int kHelp = 32857, kFont = 32809, kAbout = 104;
 
 // Chooses what a dialog must be told, and presses Enter.
 void operate(MemoryDialog& dialog) {
-  using Edit = ReasonsOrderEditDialog;
-  for (const ControlId list : {RoundVerificationDialog::kRounds, ReasonsClassDialog::kClasses,
-                               Edit::kGroups, Edit::kUnassigned}) {
+  for (const ControlId list : {RoundVerificationDialog::kRounds, IDC_REASONS_CLASSES,
+                               IDC_REASONS_GROUPS, IDC_UNASSIGNED_SPEAKERS}) {
     if (dialog.controls().contains(list)) dialog.choose(list, 1);
   }
   dialog.pressEnter();
@@ -84,7 +85,7 @@ TEST_F(Commands, SayWhatIsInTheirWay) {
   };
   run(kSheet);
   window.operate = [](MemoryDialog& dialog) {
-    dialog.choose(ReasonsClassDialog::kClasses, 0);
+    dialog.choose(IDC_REASONS_CLASSES, 0);
     dialog.pressCloseBox();
   };
   run(kSheet);
@@ -97,6 +98,20 @@ TEST_F(Commands, SayWhatIsInTheirWay) {
   run(kReasons);
   run(1);  // no command
   expectApproved(window.log, "app/obstacles.txt");
+}
+
+TEST_F(Commands, GenerateAReasonsOrderFromTheTime) {
+  const Contest contest = reasonsContest(1, 1, 100);
+  currentContest() = contest;
+  const std::time_t start = std::time(nullptr);
+  run(kGenerate);
+  bool isFromTheTime = false;
+  for (std::time_t seed = start; seed <= std::time(nullptr); ++seed) {
+    Contest generated = contest;
+    EXPECT_EQ(generateReasonsOrder(generated, static_cast<std::uint32_t>(seed)), std::nullopt);
+    isFromTheTime = isFromTheTime || generated == currentContest();
+  }
+  EXPECT_TRUE(isFromTheTime);
 }
 
 }  // namespace

@@ -12,9 +12,10 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools" / "
 import private_cups  # noqa: E402
 from desktop import (BUILD, IDCANCEL, IDNO, IDOK, IDYES, NATIVE, ROOT, Desktop, wait_for,  # noqa: E402
                      windows_path)
+from screen import Lettering, Screen  # noqa: E402
 
-__all__ = ["BUILD", "IDCANCEL", "IDNO", "IDOK", "IDYES", "NATIVE", "ROOT", "Desktop", "DesktopTest",
-           "private_cups", "wait_for", "windows_path"]
+__all__ = ["BUILD", "IDCANCEL", "IDNO", "IDOK", "IDYES", "NATIVE", "ROOT", "Desktop", "DesktopTest", "Lettering",
+           "Screen", "private_cups", "wait_for", "windows_path"]
 
 
 class DesktopTest(unittest.TestCase):

@@ -1,8 +1,7 @@
 // What the sessions beside this file speak of: the entry dialogs, and a contest amid score entry.
+#include "entry/group_entry_dialog.h"
 #include "entry/lookup_dialog.h"
-#include "entry/placings_dialog.h"
-#include "entry/questions_dialog.h"
-#include "entry/reasons_dialog.h"
+#include "session/open_contest.h"
 #include "tests/support/contest_builder.h"
 #include "tests/ui/session.h"
 
@@ -27,13 +26,18 @@ Contest emptyCards() {
   return builder.contest;
 }
 
+template <typename Behaviour, typename... Description>
+auto opened(const Description&... description) {
+  return [=]() -> std::unique_ptr<DialogBehaviour> {
+    return std::make_unique<Behaviour>(currentContest(), description...);
+  };
+}
+
 const SessionWorld kEntry = {
-    {{"Lookup/Edit Individual Scores", [] { return std::make_unique<LookupDialog>(); }},
-     {"Input Placings Scores By Group",
-      [] { return std::unique_ptr<DialogBehaviour>(new GroupEntryDialog(placingsDialog())); }},
-     {"Input Questions Scores By Group",
-      [] { return std::unique_ptr<DialogBehaviour>(new GroupEntryDialog(questionsDialog())); }},
-     {"Input Reasons Scores By Group", [] { return std::make_unique<ReasonsDialog>(); }}},
+    {{"Lookup/Edit Individual Scores", opened<LookupDialog>()},
+     {"Input Placings Scores By Group", opened<GroupEntryDialog>(kPlacingsEntry)},
+     {"Input Questions Scores By Group", opened<GroupEntryDialog>(kQuestionsEntry)},
+     {"Input Reasons Scores By Group", opened<GroupEntryDialog>(kReasonsEntry)}},
     {{"empty cards", emptyCards}},
     {{"cards of two classes",
       [](Contest& c) {

@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <ctime>
 
-#include "app/tools_commands.h"
+#include "app/tools_menu.h"
 #include "model/new_contest.h"
 #include "model/roster.h"
 #include "session/contest_file.h"
@@ -77,9 +77,8 @@ class Disk {
     files.clock = (kHalfPastTwo + 55 * 60) * kTicksPerSecond;
     files.files[kFile] = {writeContest(states.back()), true, "", files.clock};
     currentContest() = newContest();
-    currentFileName() = kFile;
     MemoryWindow window;
-    ASSERT_TRUE(loadContest(window, true));
+    ASSERT_TRUE(openContest(window, kFile));
   }
   std::vector<EarlierSave> saves(const std::string& path) { return earlierSaves(files, path); }
 

@@ -19,7 +19,7 @@ std::string laidOut(std::size_t classes, int groups, std::size_t round) {
   return column;
 }
 
-TEST(Rotation, RotateGroupsThroughClasses) {
+TEST(Rotation, TakesTheGroupsThroughTheClasses) {
   for (int classes = 0; classes <= 7; ++classes) {
     for (int groups = 0; groups <= classes; ++groups) {
       const Rotation rotation(classes, groups);
@@ -38,7 +38,7 @@ TEST(Rotation, RotateGroupsThroughClasses) {
   }
 }
 
-TEST(Rotation, AnswerWhatIsNotInTheTable) {
+TEST(Rotation, AnswersWhatIsNotInTheTable) {
   const Rotation rotation(3, 5);
   EXPECT_EQ(rotation.judgingGroups(), 3);
   for (const auto& [letter, index] : {std::pair{'D', 0}, {'@', 0}, {' ', 0}, {'A', 3}, {'A', -1}}) {

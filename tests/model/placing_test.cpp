@@ -27,14 +27,24 @@ TEST(PlacingScore, SubtractsTheCutsOfEveryReversedPair) {
   };
   for (const auto& [letter, official, cuts, score] :
        {Case{'A', 'A', {2, 3, 4}, 50}, Case{'B', 'A', {2, 3, 4}, 46}, Case{'G', 'A', {2, 3, 4}, 48},
-        Case{'X', 'A', {2, 3, 4}, 20}, Case{'Q', 'Q', {5, 5, 5}, 50}, Case{'X', 'A', {0, 0, 0}, 50},
+        Case{'X', 'A', {2, 3, 4}, 20}, Case{'X', 'A', {0, 0, 0}, 50},
         // Official 3-1-4-2; 1-2-3-4 reverses 3/1 (2), 3/2 (2+3+4) and 4/2 (4).
         Case{'A', 'N', {2, 3, 4}, 50 - 2 - 9 - 4},
+        // Orders that are not their own inverse. Official 1-3-4-2; 1-2-3-4 reverses 2/3 (3+4) and
+        // 2/4 (4). The other way round 3/2 (3) and 4/2 (3+4) are reversed.
+        Case{'A', 'D', {2, 3, 4}, 50 - 7 - 4}, Case{'D', 'A', {2, 3, 4}, 50 - 3 - 7},
+        // Official 3-2-4-1; 2-3-1-4 reverses 2/3 (2) and 1/4 (4).
+        Case{'I', 'P', {2, 3, 4}, 50 - 2 - 4},
+        // Official 4-1-2-3; 2-3-4-1 reverses 2/4 (2+3), 3/4 (2+3+4), 2/1 (3) and 3/1 (3+4).
+        Case{'J', 'S', {2, 3, 4}, 50 - 5 - 9 - 3 - 7},
         // Not clamped below 0.
         Case{'X', 'A', {0, 13, 0}, -2}, Case{'X', 'A', {0, 12, 1}, -1},
         // Without an order on either side.
         Case{' ', 'A', {1, 2, 3}, 0}, Case{'Y', 'A', {1, 2, 3}, 0}, Case{'A', 'Z', {1, 2, 3}, 0}}) {
     EXPECT_EQ(placingScore(letter, official, cuts), score) << letter << official;
+  }
+  for (char letter = 'A'; letter <= 'X'; ++letter) {
+    EXPECT_EQ(placingScore(letter, letter, {2, 3, 4}), kTopScore) << letter;
   }
 }
 

@@ -10,7 +10,7 @@ namespace scorvane {
 
 namespace {
 
-// The rule itself, told slowly: as often as there are rows, whatever stands below an empty cell
+// The rule itself, word by word: as often as there are rows, whatever is below an empty cell
 // moves up by one. Whoever gave up the place stays unassigned.
 void moveUpSlowly(Contest& contest) {
   ReasonsOrder& order = contest.reasonsOrder;

@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "reasons/reasons_bands.h"
-#include "reasons/reasons_order_report.h"
-#include "reasons/reasons_sheets.h"
+#include "reasons/reasons_reports.h"
 #include "tests/reasons/reasons_contest.h"
 #include "tests/support/approved.h"
 
@@ -75,6 +73,16 @@ TEST(ReasonsOrderReport, ShowsOrderUnassignedAndClassOrderInBands) {
                      reasonsOrderReport(contest, ReasonsOrderForm::room) +
                      reasonsOrderReport(gap, ReasonsOrderForm::plain),
                  "reasons/reasons_orders.txt");
+}
+
+// Rows end with their own band, whatever the groups on either side of it have.
+TEST(ReasonsOrderReport, HasNoBlankRowsBesideFullerBands) {
+  Contest contest = reasonsContest(17, 1, 17);
+  for (std::int32_t g = 0; g < 17; ++g) placeGroup(contest, g, {101 + g});
+  contest.reasonsOrder.setCell(1, 6, 118);   // the first group of the second band
+  contest.reasonsOrder.setCell(1, 11, 119);  // its last group
+  const std::string report = reasonsOrderReport(contest, ReasonsOrderForm::plain);
+  EXPECT_EQ(report.find("\n" + std::string(5 * 9, ' ')), std::string::npos);
 }
 
 }  // namespace

@@ -2,10 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <chrono>
+#include <thread>
+
 #include "model/contest.h"
 #include "model/new_contest.h"
 #include "session/open_contest.h"
 #include "storage/contest_writer.h"
+#include "storage/file.h"
 #include "tests/storage/contest_text.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/ui/memory_dialog.h"
@@ -38,9 +43,10 @@ class ContestCommands : public testing::Test {
 TEST_F(ContestCommands, LoadsTheFileThatIsChosen) {
   edit("another.scv");
   window.desktop.files = {path, std::nullopt};
-  EXPECT_TRUE(loadContest(window, false));
+  EXPECT_TRUE(openChosenContest(window));
   EXPECT_EQ(writeContest(currentContest()), smallFile());
   EXPECT_EQ(currentFileName(), path);
+  EXPECT_EQ(reportText(), kWelcomeText);
   const FileQuestion& question = window.desktop.fileQuestions.at(0);
   EXPECT_EQ(question.purpose, FileQuestion::Purpose::open);
   EXPECT_TRUE(question.fileMustExist);
@@ -49,7 +55,7 @@ TEST_F(ContestCommands, LoadsTheFileThatIsChosen) {
   for (const auto& [name, pattern] : question.filters) filters.append(name).append(pattern);
   EXPECT_EQ(filters, "Scorvane*.scvAll*.*");
 
-  EXPECT_FALSE(loadContest(window, false));  // cancelled
+  EXPECT_FALSE(openChosenContest(window));  // cancelled
   EXPECT_TRUE(window.desktop.messages.empty());
   expectNewContest();
 }
@@ -61,8 +67,8 @@ TEST_F(ContestCommands, FailedLoadSaysWhyAndLeavesANewContest) {
   const std::string roundabout = folder.path() + std::string(500, '/') + "county.scv";
   for (const std::string& missing : {folder.file("missing.scv"), folder.path(), roundabout,
                                      folder.file("corrupt.scv"), folder.file("count.scv")}) {
-    edit(missing);
-    EXPECT_FALSE(loadContest(window, true));
+    edit("another.scv");
+    EXPECT_FALSE(openContest(window, missing));
     expectNewContest();
   }
   std::vector<std::string> said;
@@ -78,8 +84,7 @@ TEST_F(ContestCommands, FailedLoadSaysWhyAndLeavesANewContest) {
 
 // Saving as forgets the name before it asks, so a change of mind leaves the contest untitled.
 TEST_F(ContestCommands, SavesToTheCurrentFileOrAsksForOneOrSaysThatItCouldNot) {
-  resetContest();
-  EXPECT_EQ(reportText(), "");
+  startNewContest();
   edit(path);
   currentContest().categories = {"Beef"};
   const std::string saved = writeContest(currentContest());
@@ -90,7 +95,7 @@ TEST_F(ContestCommands, SavesToTheCurrentFileOrAsksForOneOrSaysThatItCouldNot) {
 
   const std::string copy = folder.file("copy.scv");
   window.desktop.files = {std::nullopt, copy};
-  saveContest(window, true);
+  saveContestAs(window);
   EXPECT_EQ(currentFileName(), "");
   currentContest().categories.clear();
   saveCurrent(window);
@@ -117,11 +122,14 @@ TEST_F(ContestCommands, SavesToTheCurrentFileOrAsksForOneOrSaysThatItCouldNot) {
 }
 
 // Two copies of the program with one contest: what one has saved is not silently taken away by the
-// other.
+// other, and the program never takes its own saves for somebody else's.
 TEST_F(ContestCommands, AsksBeforeItReplacesWhatAnotherProgramSaved) {
-  currentFileName() = path;
-  EXPECT_TRUE(loadContest(window, true));
-  currentContest().settings.contestName = "Ours";
+  EXPECT_TRUE(openContest(window, path));
+  for (const char* name : {"First", "Second", "Ours"}) {
+    currentContest().settings.contestName = name;
+    saveCurrent(window);
+  }
+  EXPECT_TRUE(window.desktop.messages.empty());
   const std::string ours = replaced(smallFile(), "County Fair", "Ours");
   const std::string theirs = replaced(smallFile(), "County Fair", "Theirs");
   makeFile(path, theirs);
@@ -140,12 +148,28 @@ TEST_F(ContestCommands, AsksBeforeItReplacesWhatAnotherProgramSaved) {
   saveCurrent(window);
   makeFile(path, theirs);
   window.desktop.files = {path};
-  saveContest(window, true);
+  saveContestAs(window);
   currentContest().settings.contestName = "Theirs";
   makeFile(path, theirs);
   saveCurrent(window);
   EXPECT_EQ(contentOf(path), theirs);
   EXPECT_EQ(window.desktop.messages.size(), 2U);
+}
+
+TEST_F(ContestCommands, WaitsWhileAnotherCopyOfTheProgramSaves) {
+  EXPECT_TRUE(openContest(window, path));
+  currentContest().settings.contestName = "Ours";
+  auto lock = systemFiles().lockForSaving(path);
+  std::atomic<bool> isSaved = false;
+  std::thread saving([&] {
+    saveCurrent(window);
+    isSaved = true;
+  });
+  std::this_thread::sleep_for(std::chrono::milliseconds(100));
+  EXPECT_FALSE(isSaved);
+  lock.reset();
+  saving.join();
+  EXPECT_EQ(contentOf(path), replaced(smallFile(), "County Fair", "Ours"));
 }
 
 }  // namespace

@@ -73,10 +73,9 @@ struct KeptSaves : testing::Test {
 
   void open(const std::string& path = kPath) {
     stopKeepingWork();
-    resetContest();
+    startNewContest();
     startKeepingWork(disk);
-    currentFileName() = path;
-    ASSERT_TRUE(loadContest(window, true));
+    ASSERT_TRUE(openContest(window, path));
   }
   void save(const std::string& contestName) {
     currentContest().settings.contestName = contestName;
@@ -114,7 +113,7 @@ TEST_F(KeptSaves, AreWhatSavesReplaced) {
   // Save As over another contest, or whatever it is.
   disk.files["other.scv"] = {"some\tnotes\r\n", true};
   window.desktop.files = {"other.scv"};
-  saveContest(window, true);
+  saveContestAs(window);
   EXPECT_EQ(kept("other.scv"), "notes;");
 
   // What was cut off while it was kept is not listed, and its number is not used again.

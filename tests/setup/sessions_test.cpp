@@ -88,6 +88,11 @@ const SessionWorld kSetup = {
         placeGroup(c, 1, {101, 107, 103});
       }},
      {"report in percent", [](Contest& c) { c.settings.reportPercent = true; }},
+     {"two categories",
+      [](Contest& c) {
+        c.categories = {"Beef", "Sheep"};
+      }},
+     {"room for three", [](Contest& c) { c.settings.totalNumPerTeam = 3; }},
      {"no categories", [](Contest& c) { c.categories.clear(); }},
      {"two classes again", [](Contest& c) { c.classes = twoClasses().classes; }},
      {"no classes", [](Contest& c) { c.classes.clear(); }},

@@ -28,10 +28,12 @@ class MemoryFiles : public FileSystem {
   int deniedReplacings = 0;        ///< how often another program is in the way
   bool hasOtherNames = false;
   std::size_t room = 1U << 20;  ///< bytes on the disk
+  bool tellsSizes = true;
 
   int calls = 0;
   bool replacedUnflushed = false;  ///< a file was put in place before the medium held it
   bool writtenOver = false;        ///< bytes of a file that was there before were written over
+  int pausedFor = 0;               ///< milliseconds
 
   std::string readOnlyPath;  ///< what begins so can only be read
   struct PowerCut {};
@@ -62,7 +64,7 @@ class MemoryFiles : public FileSystem {
   std::optional<std::string> resolve(const std::string& path) override {
     return fails() ? std::nullopt : std::optional(path);
   }
-  std::optional<FileStatus> facts(const std::string& path) override {
+  std::optional<FileStatus> status(const std::string& path) override {
     if (fails()) return std::nullopt;
     return files.contains(path) ? FileStatus{true, true, false, hasOtherNames} : FileStatus{};
   }
@@ -91,7 +93,7 @@ class MemoryFiles : public FileSystem {
   std::string temporaryName(const std::string& path, Place place, int attempt) override {
     return (place == Place::beside ? path : "temporary/" + path) + "." + std::to_string(attempt);
   }
-  void pause(int /*milliseconds*/) override {}
+  void pause(int milliseconds) override { pausedFor += milliseconds; }
   std::shared_ptr<void> lockForSaving(const std::string& /*path*/) override { return nullptr; }
   Opened openToAppend(const std::string& path) override {
     if (fails() || isProtected(path)) return {failure, nullptr};
@@ -127,16 +129,17 @@ class MemoryFiles : public FileSystem {
   }
 
  private:
-  // Gives few bytes at a time and never the same number, so that a read ends anywhere in a line.
+  // Returns fewer bytes than there is room for.
   class Input final : public InputFile {
    public:
     Input(MemoryFiles& disk, std::string content) : disk_(disk), content_(std::move(content)) {}
 
-    [[nodiscard]] std::uint64_t size() const override { return content_.size(); }
+    [[nodiscard]] std::uint64_t size() const override {
+      return disk_.tellsSizes ? content_.size() : 0;
+    }
     std::optional<std::size_t> read(char* to, std::size_t most) override {
       if (disk_.fails()) return std::nullopt;
-      step_ = step_ % 7 + 1;
-      const std::size_t count = content_.copy(to, std::min(most, step_), position_);
+      const std::size_t count = content_.copy(to, std::min<std::size_t>(most, 1000), position_);
       position_ += count;
       return count;
     }
@@ -145,7 +148,6 @@ class MemoryFiles : public FileSystem {
     MemoryFiles& disk_;
     std::string content_;
     std::size_t position_ = 0;
-    std::size_t step_ = 0;
   };
 
   class Output final : public OutputFile {

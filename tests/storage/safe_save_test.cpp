@@ -84,10 +84,23 @@ TEST(SafeSave, WaitsForOtherProgramsAndLeavesTheirFilesAlone) {
   disk.deniedReplacings = 10;
   EXPECT_TRUE(saveSafely(disk, "a.scv", kLonger));
   EXPECT_FALSE(disk.writtenOver);
+  EXPECT_EQ(disk.pausedFor, 1375);
   EXPECT_EQ(disk.files["a.scv"].content, kLonger);
   EXPECT_EQ(disk.files["a.scv.1"].content, "another program's");
   for (int i = 2; i <= 100; ++i) disk.files["a.scv." + std::to_string(i)] = {};
   EXPECT_FALSE(saveSafely(disk, "a.scv", kOld));
+}
+
+TEST(FileSystem, ReadsNoMoreThanItMay) {
+  for (const bool tellsSizes : {true, false}) {
+    DiskWithOldFile disk;
+    disk.tellsSizes = tellsSizes;
+    const std::string large(10000, 'x');
+    disk.files["a.scv"].content = large;
+    EXPECT_EQ(disk.readWhole("a.scv"), large);
+    EXPECT_EQ(disk.readWhole("a.scv", large.size()), large);
+    EXPECT_EQ(disk.readWhole("a.scv", large.size() - 1), std::nullopt);
+  }
 }
 
 struct SafeSaveOnDisk : testing::Test {

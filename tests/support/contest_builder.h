@@ -10,6 +10,7 @@
 #include "model/contest.h"
 #include "model/new_contest.h"
 #include "model/numbering.h"
+#include "model/roster.h"
 
 namespace scorvane {
 
@@ -66,14 +67,13 @@ class ContestBuilder {
   /// A contestant without a team, with the next free number.
   ContestBuilder& contestant(const std::string& name) {
     const ContestantNumber number = contest.settings.nextContestantNum;
-    contest.contestantNames[number] = name;
-    contest.contestantGroup[number] = groupOfNumber(contest.settings, number);
+    setContestant(contest, number, name);
     contest.reasonsPlace[number] = {};
     updateNextContestant(contest);
     return *this;
   }
   /// Enters a contestant's cards, one letter a class from the first on (' ' = not entered), with
-  /// the placing score that the cut rule gives.
+  /// the placing score by the cut rule.
   ContestBuilder& placings(ContestantNumber number, std::string_view letters) {
     std::int32_t k = 0;
     for (const char letter : letters) {

@@ -7,8 +7,8 @@
 
 namespace scorvane {
 
-/// A contestant stands in a cell of a reasons group exactly when the place names that cell.
-/// Deleting whoever stands in the first row or the first group deliberately breaks this.
+/// A contestant is in a cell of a reasons group exactly when the place names that cell. Deleting
+/// somebody in the first row or the first group breaks this.
 inline bool orderAgreesWithPlaces(const Contest& contest) {
   const ReasonsOrder& order = contest.reasonsOrder;
   return std::all_of(order.cells().begin(), order.cells().end(),

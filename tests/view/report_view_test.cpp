@@ -114,14 +114,6 @@ TEST(ReportView, GivesTheLinesOfAnAreaAndOfTheTextAsItIsNow) {
   }
 }
 
-TEST(ReportText, EndsOnceItIsBeyondAllUse) {
-  std::string report(128U << 20U, 'x');
-  EXPECT_FALSE(closeIfTooLong(report));
-  report += "x";
-  EXPECT_TRUE(closeIfTooLong(report));
-  EXPECT_TRUE(report.ends_with("x\nThis report is too long; it ends here.\n"));
-}
-
 TEST(ReportView, ShrinksThePictureIntoTheWindow) {
   for (const auto& [width, height, shownWidth, shownHeight] :
        {Four{740, 500, 640, 400}, Four{2000, 2000, 640, 400}, Four{420, 500, 320, 200},

@@ -129,6 +129,10 @@ class Desktop:
         """Presses real keys on the display, by their X names."""
         subprocess.run(["xdotool", "key", "--delay", "20", *names], env=self.environment, check=True)
 
+    def mouse(self, *steps):
+        """Works the real mouse in the steps of xdotool: "mousemove", x, y, "click", button, ..."""
+        subprocess.run(["xdotool", *map(str, steps)], env=self.environment, check=True)
+
     def close(self):
         self.wineserver("-k")
         self.server.terminate()
@@ -252,6 +256,13 @@ class Window:
     def rectangle(self):
         """(left, top, width, height) on the display, in pixels."""
         return tuple(map(int, self.app.tell("rectangle", self.handle)))
+
+    def client_area(self, control=0):
+        """The same of what a control, or the window, has inside its frame and scroll bars."""
+        return tuple(map(int, self.app.tell("client_area", self.handle, control)))
+
+    def resize(self, width, height):
+        self._tell("resize", width, height)
 
     def text(self, control):
         return self._tell("text", control)

@@ -208,6 +208,24 @@ Fields rectangle(const Fields& f) {
           std::to_string(place.right - place.left), std::to_string(place.bottom - place.top)};
 }
 
+// The client area of a control on the display, as above.
+Fields clientArea(const Fields& f) {
+  HWND control = toControl(f);
+  POINT corner{};
+  RECT client{};
+  ClientToScreen(control, &corner);
+  GetClientRect(control, &client);
+  return {std::to_string(corner.x), std::to_string(corner.y), std::to_string(client.right),
+          std::to_string(client.bottom)};
+}
+
+// Gives a window another size, as the operator does by its border.
+Fields resize(const Fields& f) {
+  SetWindowPos(toWindow(f.at(1)), nullptr, 0, 0, static_cast<int>(toNumber(f.at(2))),
+               static_cast<int>(toNumber(f.at(3))), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  return {};
+}
+
 Fields exitCode(const Fields& /*f*/) {
   DWORD code = 0;
   if (WaitForSingleObject(watchedHandle, 0) != WAIT_OBJECT_0) return {"running"};
@@ -230,12 +248,6 @@ Fields post(const Fields& f) {
   PostMessageA(toWindow(f.at(1)), static_cast<UINT>(toNumber(f.at(2))),
                static_cast<WPARAM>(toNumber(f.at(3))), static_cast<LPARAM>(toNumber(f.at(4))));
   return {};
-}
-
-Fields sendMessage(const Fields& f) {
-  return {std::to_string(send(toControl(f), static_cast<UINT>(toNumber(f.at(3))),
-                              static_cast<WPARAM>(toNumber(f.at(4))),
-                              static_cast<LPARAM>(toNumber(f.at(5)))))};
 }
 
 // A number that a control keeps for the one who sets it, by messages that can be posted.
@@ -420,11 +432,12 @@ const std::map<std::string, std::function<Fields(const Fields&)>> kCommands = {
     {"hold", hold},
     {"windows", windows},
     {"rectangle", rectangle},
+    {"client_area", clientArea},
+    {"resize", resize},
     {"exit_code", exitCode},
     {"kill", killProcess},
     {"command", command},
     {"post", post},
-    {"send", sendMessage},
     {"settle", settle},
     {"text", text},
     {"set_text", setText},

@@ -67,11 +67,10 @@ Contest contestOfBytes() {
 
 // Only what the reader works out itself may differ: group letters and places of unknown numbers.
 std::string reread() {
-  const auto bytes = systemFiles().readWhole(currentFileName());
-  if (!bytes) return "unreadable";
-  const auto reading = readContest(*bytes);
-  const Contest* found = std::get_if<Contest>(&reading);
-  if (found == nullptr) return "no contest";
+  const auto loading = loadContestFile(systemFiles(), currentFileName());
+  const auto* loaded = std::get_if<LoadedContest>(&loading);
+  if (loaded == nullptr) return "no contest";
+  const Contest* found = &loaded->contest;
   const Contest& kept = currentContest();
   std::string ended;
   for (const auto& [number, name] : kept.contestantNames) {
@@ -89,12 +88,11 @@ std::string follow(const std::string& command, const std::string& value, Desk& d
   desk.path = value;
   desk.agrees = command == "save_over";
   if (command == "open") {
-    currentFileName() = value;
-    loadContest(desk, true);
+    openContest(desk, value);
   } else if (command == "save" || command == "save_over") {
     saveCurrent(desk);
   } else if (command == "save_as") {
-    saveContest(desk, true);
+    saveContestAs(desk);
   } else if (command == "name") {
     currentContest().settings.contestName = value;
   } else if (command == "size") {

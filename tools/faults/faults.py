@@ -12,13 +12,13 @@ import contextlib
 import os
 import pathlib
 import random
-import re
 import shutil
 import subprocess
 import sys
 import tempfile
+import time
 
-from session import SAVE_CALLS, Session, Skipped, Tracer, check_order, expect, unsafe_files
+from session import Session, Skipped, check_order, expect, traced
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 NOT_SAVED = "File Save Error: Your file did NOT save!"
@@ -120,58 +120,16 @@ class Faults:
             seen.append(f"{way}: {count[False]} saves refused, {count[True]} done")
         return "; ".join(seen)
 
-    def every_call(self):
-        """Each call of a save fails in turn, once or from then on, with three errors, in every way of saving."""
-        tally = collections.Counter()
+    def call_order(self):
+        """What a save asks of the system reaches the medium in the right order, in every way of saving."""
         for way in WAYS:
-            calls = self.traced_save(way, [], tally)[0]
+            folder = self.new_folder()
+            session, path = self.opened(way, folder)
+            name = f"~scorvane-{session.process.pid}-1.tmp"
+            calls = traced(session, [folder, path, folder / name, self.spares / name], self.folder / "trace")
             check_order(way, calls)
-            for place, (name, _) in enumerate(calls):
-                before = collections.Counter(call for call, _ in calls[:place])
-                for error in ("EIO", "ENOSPC", "EACCES"):
-                    once = [f"{name}:error={error}:when={before[name] + 1}"]
-                    lasting = [f"{call}:error={error}:when={before[call] + 1}+" for call in SAVE_CALLS]
-                    for specs in (once, lasting):
-                        injected = self.traced_save(way, specs, tally)[1]
-                        expect(injected, f"{way}: {specs} met no call")
-        return (f"{tally['refused']} saves refused with the old file whole, {tally['spare']} with the new content "
-                f"whole in the spare copy, {tally['unsure']} with the new file in place already, {tally['saved']} "
-                "done all the same; each time the next save, without a fault, is done")
-
-    def traced_save(self, way, specs, tally):
-        """The calls that a save makes, as pairs of name and line, and whether one of them was made to fail."""
-        folder = self.new_folder()
-        session, path = self.opened(way, folder)
-        old, new = path.read_bytes(), (self.folder / "new.scv")
-        new = new.read_bytes() if new.exists() else self.contest(new, 800)
-        name = f"~scorvane-{session.process.pid}-1.tmp"
-        log = self.folder / "trace"
-        tracer = Tracer(session, [folder, path, folder / name, self.spares / name], specs, log)
-        try:
-            answer = session("save")
-        finally:
-            tracer.close()
-        text = log.read_text(encoding="latin-1")
-        content = path.read_bytes()
-        spares = self.spare_copies(folder)
-        fault = f"{way}, {specs}: {answer!r}, {len(content)} bytes in the file, spare copies {spares}\n{text}"
-        expect(answer in ("ok", NOT_SAVED), fault)
-        if answer == "ok":
-            expect(content == new and not unsafe_files(text), fault)
-            tally["saved" if specs else "undisturbed"] += 1
-        elif content in (old, new):
-            tally["refused" if content == old else "unsure"] += 1
-        else:
-            expect([s for s in spares if s.read_bytes() == new], fault)
-            tally["spare"] += 1
-        # A disk that stays broken can keep the program from cleaning up.
-        expect(not spares or len(specs) > 1 or specs[0].startswith("unlink"), fault)
-        expect(session("save_over") == "ok" and path.read_bytes() == new, f"{fault}\nthe next save")
-        session.close()
-        for spare in spares:
-            spare.unlink(missing_ok=True)
-        calls = [(line.partition("(")[0], line) for line in text.splitlines() if re.match(r"\w+\(", line)]
-        return [call for call in calls if call[0] in SAVE_CALLS], "INJECTED" in text
+            session.close()
+        return "the copy is flushed before it replaces the old file or that is overwritten, and the result after it"
 
     def protected_folder(self):
         """A folder that takes no new file."""
@@ -214,14 +172,48 @@ class Faults:
         expect(path.read_bytes() == self.contest(self.folder / "new.scv", 800), "not all saved elsewhere")
         return "message, contest whole in memory, saved elsewhere by Save As"
 
-    def kills(self, count=1000):
+    def kills(self, count=300):
         """A process that saves without end is killed at random moments, in every way of saving."""
+        seed = random.randrange(1 << 30)
+        moments = random.Random(seed)
+        names = [b"First", b"Second" * 50]
         seen = []
         for way in WAYS:
-            command = [self.build / "tests/killed_saves", str(count), way]
-            done = subprocess.run(command, stdout=subprocess.PIPE, text=True, check=False)
-            expect(done.returncode == 0, f"{way}: {done.stdout}")
-            seen.append(f"{way}: {done.stdout.splitlines()[-1]}")
+            session, path = self.opened(way, self.new_folder())
+            session("size", b"20000")
+            wholes = []
+            for name in names:
+                session("name", name)
+                start = time.monotonic()
+                expect(session("save_over") == "ok", f"{way}: saving")
+                save_time = time.monotonic() - start
+                wholes.append(path.read_bytes())
+            met = restored = 0
+            left = collections.Counter()
+            for kill in range(count):
+                session = self.session(user=NOBODY if way == "protected folder" else None)
+                expect(session("open", path) == "ok", f"{way}: opening after kill {kill} of seed {seed}")
+                for name in 20 * names:
+                    session.start("name", name)
+                    session.start("save_over")
+                for _ in range(1 + 2 * moments.randrange(4)):
+                    session.answer()
+                time.sleep(moments.uniform(0, save_time))
+                session.process.kill()
+                session.close()
+                spares = self.spare_copies(path.parent)
+                met += bool(spares)
+                content = path.read_bytes()
+                if content not in wholes and way != "beside":
+                    restored += 1
+                    content = next((s.read_bytes() for s in spares if s.read_bytes() in wholes), b"")
+                    path.write_bytes(content)
+                expect(content in wholes, f"{way}: kill {kill + 1} of seed {seed} left no whole contest")
+                left[wholes.index(content)] += 1
+                for spare in spares:
+                    spare.unlink()
+            expect(met and len(left) == 2, f"{way}: {met} kills met a save, {dict(left)} contests were left")
+            seen.append(f"{way}: {count} kills, {met} within a save, {restored} times the copy was the whole one")
         return "; ".join(seen)
 
     def longest_path(self):
@@ -312,7 +304,7 @@ class Faults:
                 "always one of the two, whole")
 
 
-FAULTS = ["disk_full", "every_call", "protected_folder", "read_only_file", "read_only_medium", "kills", "drive_gone",
+FAULTS = ["disk_full", "call_order", "protected_folder", "read_only_file", "read_only_medium", "kills", "drive_gone",
           "longest_path", "every_byte", "two_copies", "reports"]
 
 

@@ -6,10 +6,6 @@ import shutil
 import signal
 import subprocess
 
-# The calls that open, write, flush and move files.
-SAVE_CALLS = ["openat", "read", "write", "fsync", "close", "rename", "fallocate", "ftruncate", "unlink", "chmod",
-              "chown", "access", "newfstatat", "readlink"]
-
 
 class Skipped(Exception):
     """The machine does not allow the fault."""
@@ -39,23 +35,21 @@ class Session:
         self.process.stdout.close()
 
 
-class Tracer:
-    """strace on a session's calls that concern some paths; `specs` says which calls are to fail."""
-
-    def __init__(self, session, paths, specs, log):
-        if shutil.which("strace") is None:
-            raise Skipped("strace is not installed")
-        filters = [f"-P{path}" for path in paths]
-        self.process = subprocess.Popen(["strace", "-y", "-o", log, "-p", str(session.process.pid), *filters,
-                                         *(f"--inject={spec}" for spec in specs)], stderr=subprocess.PIPE)
-        if b"attached" not in self.process.stderr.readline():
-            self.close()
+def traced(session, paths, log):
+    """The calls that a session's save makes on some paths, one a line."""
+    if shutil.which("strace") is None:
+        raise Skipped("strace is not installed")
+    tracer = subprocess.Popen(["strace", "-y", "-o", log, "-p", str(session.process.pid), *(f"-P{p}" for p in paths)],
+                              stderr=subprocess.PIPE)
+    try:
+        if b"attached" not in tracer.stderr.readline():
             raise Skipped("tracing a process is not allowed here")
-
-    def close(self):
-        self.process.send_signal(signal.SIGINT)
-        self.process.wait()
-        self.process.stderr.close()
+        expect(session("save") == "ok", "saving")
+    finally:
+        tracer.send_signal(signal.SIGINT)
+        tracer.wait()
+        tracer.stderr.close()
+    return log.read_text(encoding="latin-1").splitlines()
 
 
 def expect(holds, what):
@@ -63,28 +57,8 @@ def expect(holds, what):
         raise AssertionError(what)
 
 
-def unsafe_files(trace):
-    """The files of a trace that may not hold what was written last, as a call to make sure of it failed."""
-    written, unsafe = set(), set()
-    for line in trace.splitlines():
-        call, _, rest = line.partition("(")
-        path = re.match(r"\d+<(.*?)>", rest)  # of the file that the call works on
-        opened = re.search(r"O_WRONLY.* = \d+<(.*?)>$", rest)
-        if opened:
-            written.discard(opened[1])
-            unsafe.discard(opened[1])
-        elif path and call in ("write", "ftruncate", "fallocate"):
-            written.add(path[1])
-        if path and "INJECTED" in line:
-            if call == "fsync" or call in ("write", "close") and path[1] in written:
-                unsafe.add(path[1])
-    return unsafe
-
-
-def check_order(way, calls):
+def check_order(way, lines):
     """What must reach the medium before what, so that a power cut finds a whole file."""
-    lines = [line for _, line in calls]
-
     def last(pattern):
         return max((i for i, line in enumerate(lines) if re.match(pattern, line)), default=-1)
 

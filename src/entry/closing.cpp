@@ -1,0 +1,30 @@
+#include "entry/closing.h"
+
+#include "entry/entry_ids.h"
+#include "session/contest_file.h"
+
+namespace scorvane {
+
+namespace {
+
+constexpr int kDone = 1;
+constexpr int kCancelled = 2;
+
+}  // namespace
+
+void endOn(Dialog& dialog, ControlId id, ControlEvent event, Escape escape) {
+  if (event != ControlEvent::clicked) return;
+  if (id == kCancelId && escape == Escape::leavesFile) {
+    dialog.end(kCancelled);
+  } else if (id == IDC_ENTRY_DONE || id == kOkId || id == kCancelId) {
+    saveAndEnd(dialog);
+  }
+}
+
+void saveAndEnd(Dialog& dialog) {
+  // Odd but required, docs/required-behaviour.md: untitled-scores-are-not-saved
+  if (!currentFileName().empty()) saveCurrent(dialog);
+  dialog.end(kDone);
+}
+
+}  // namespace scorvane

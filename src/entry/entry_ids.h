@@ -1,0 +1,26 @@
+// Ids of the four dialogs of the Score menu and of their controls, shared with the resource
+// scripts.
+#pragma once
+
+#define IDD_LOOKUP 137
+#define IDD_ENTRY_PLACINGS 147
+#define IDD_ENTRY_REASONS 148
+#define IDD_ENTRY_QUESTIONS 149
+
+#define IDC_ENTRY_DONE 1003
+#define IDC_ENTRY_SCORE 1004
+#define IDC_LOOKUP 1005
+#define IDC_ENTRY_CLASS 1016
+#define IDC_LOOKUP_CONTESTANT 1026
+#define IDC_ENTRY_LETTER 1027
+#define IDC_ENTRY_REASONS 1028
+#define IDC_LAST_SCORE 1030
+#define IDC_LAST_CONTESTANT 1031
+#define IDC_LAST_LETTER 1032
+#define IDC_LAST_OFFICIAL 1033
+#define IDC_LAST_CUTS 1034
+#define IDC_LAST_REASONS 1035
+#define IDC_LAST_QUESTIONS 1036
+#define IDC_ENTRY_GROUP 1053
+#define IDC_ENTRY_CONTESTANT 1054
+#define IDC_ENTRY_QUESTIONS 1056

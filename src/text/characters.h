@@ -1,0 +1,17 @@
+// Characters that mean something else elsewhere: line ends and control characters.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace scorvane {
+
+/// The text with every LF written as CR LF; everything else stays, other CRs too.
+[[nodiscard]] std::string withWindowsLineEnds(std::string_view text);
+
+/// The text with every control character (TAB, line end, any byte below the blank) replaced by a
+/// blank. A contest file separates its fields by TAB and its records by line ends; a name pasted
+/// with one of them inside must not cut the record in two.
+[[nodiscard]] std::string withoutControlCharacters(std::string_view text);
+
+}  // namespace scorvane
