@@ -5,6 +5,7 @@
 
 #include "app/dialog_commands.h"
 #include "app/file_menu.h"
+#include "app/tools_menu.h"
 #include "app/window_commands.h"
 #include "output/save_report.h"
 #include "reasons/reasons_reports.h"
@@ -144,6 +145,8 @@ constexpr std::array kCommands = {
     Command{32850, "Verification Reports", "Zero Reasons Report", Report{plain<zeroReasonsReport>}},
     Command{32851, "Verification Reports", "Zero Questions Report",
             Report{plain<zeroQuestionsReport>}},
+
+    Command{33023, "Tools", "Earlier Saves ...", runEarlierSaves},
 
     Command{32857, "Help", "Scorvane Help (F1)", helpCommand},
     Command{104, "Help", "About ...", aboutCommand},
