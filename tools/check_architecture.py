@@ -20,7 +20,7 @@ FLOORS = [
     {"storage"},
     {"view"},
     {"session"},
-    {"setup", "reasons", "entry", "results", "reports"},
+    {"setup", "reasons", "entry", "results", "reports", "exchange"},
     {"output"},
     {"app"},
     {"cli"},

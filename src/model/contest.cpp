@@ -115,6 +115,17 @@ bool hasScores(const Contest& contest) {
   return false;
 }
 
+std::int64_t countScores(const Contest& contest) {
+  std::int64_t count = 0;
+  for (const auto& [number, records] : contest.scores) {
+    for (const auto& [classIndex, record] : records) {
+      count += (record.letter != kNoLetter ? 1 : 0) + (record.reasonsScore != 0 ? 1 : 0) +
+               (record.questionsScore != 0 ? 1 : 0);
+    }
+  }
+  return count;
+}
+
 void recomputeAllPlacingScores(Contest& contest) {
   const JudgingClasses& classes = contest.classes;
   for (auto& [number, records] : contest.scores) {

@@ -128,6 +128,9 @@ struct Contest {
 /// other than 0.
 [[nodiscard]] bool hasScores(const Contest& contest);
 
+/// How many letters, and reasons and questions scores other than 0, were entered.
+[[nodiscard]] std::int64_t countScores(const Contest& contest);
+
 /// Rewrites every contestant's placing score of every class from the stored letters, the official
 /// placings and the cuts; creates the records that are missing.
 void recomputeAllPlacingScores(Contest& contest);

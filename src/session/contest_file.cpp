@@ -23,15 +23,6 @@ namespace scorvane {
 
 namespace {
 
-FileQuestion contestFileQuestion(FileQuestion::Purpose purpose) {
-  FileQuestion question;
-  question.purpose = purpose;
-  question.filters = {{"Scorvane", "*.scv"}, {"All", "*.*"}};
-  question.defaultExtension = "scv";
-  question.fileMustExist = purpose == FileQuestion::Purpose::open;
-  return question;
-}
-
 constexpr const char* kNotSaved =
     "Your file did NOT save!\r\n"
     "Perhaps you previously saved to removable media like a thumb drive.\r\n"
@@ -64,9 +55,9 @@ enum class ForeignChanges { keep, replace };
 enum class Saving { done, failed, wouldLoseForeignChanges };
 
 /// Keeps what the save replaces. On a disk too full for both the save comes first.
-bool saveAndKeepOld(const std::optional<std::string>& old, std::string_view bytes) {
+bool saveAndKeepOld(const std::string& path, const std::optional<std::string>& old,
+                    std::string_view bytes) {
   FileSystem& files = sessionFiles();
-  const std::string& path = currentFileName();
   const bool isKept = isKeepingWork() && old && *old != bytes &&
                       keepEarlierSave(files, path, *old, false) == Keeping::kept;
   if (saveSafely(files, path, bytes)) return true;
@@ -82,7 +73,7 @@ Saving save(std::string_view bytes, ForeignChanges foreignChanges) {
   if (foreignChanges == ForeignChanges::keep && old && isForeign(*old, bytes)) {
     return Saving::wouldLoseForeignChanges;
   }
-  if (!saveAndKeepOld(old, bytes)) return Saving::failed;
+  if (!saveAndKeepOld(currentFileName(), old, bytes)) return Saving::failed;
   knownContent() = {currentFileName(), hashOf(bytes)};
   contestHasFile(currentFileName(), bytes);
   if (isKeepingWork()) tidyEarlierSaves(sessionFiles(), currentFileName(), savedState().hash);
@@ -130,6 +121,15 @@ void showFault(Window& owner, ContestFault fault, const std::string& path) {
 }
 
 }  // namespace
+
+FileQuestion contestFileQuestion(FileQuestion::Purpose purpose) {
+  FileQuestion question;
+  question.purpose = purpose;
+  question.filters = {{"Scorvane", "*.scv"}, {"All", "*.*"}};
+  question.defaultExtension = "scv";
+  question.fileMustExist = purpose == FileQuestion::Purpose::open;
+  return question;
+}
 
 void startNewContest() {
   leaveContest();
@@ -181,6 +181,11 @@ void saveContestAs(Window& owner) {
   currentFileName() = std::move(*path);
   // Choosing the name was the consent to replace what is there.
   saveToCurrentFile(owner, ForeignChanges::replace);
+}
+
+bool saveElsewhere(const std::string& path, std::string_view bytes) {
+  const auto lock = sessionFiles().lockForSaving(path);
+  return saveAndKeepOld(path, sessionFiles().readWhole(path), bytes);
 }
 
 }  // namespace scorvane

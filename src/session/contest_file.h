@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "session/open_contest.h"
 #include "ui/window.h"
@@ -28,5 +29,12 @@ void saveCurrent(Window& owner);
 
 /// Saves to a file that the operator chooses. Cancelling leaves the contest without a file.
 void saveContestAs(Window& owner);
+
+/// Puts a contest's bytes into a file other than the current one, safely; what it replaces becomes
+/// an earlier save of that file. False when that failed.
+[[nodiscard]] bool saveElsewhere(const std::string& path, std::string_view bytes);
+
+/// The question for a contest's file.
+[[nodiscard]] FileQuestion contestFileQuestion(FileQuestion::Purpose purpose);
 
 }  // namespace scorvane

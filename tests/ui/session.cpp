@@ -95,6 +95,7 @@ const std::map<std::string, Step> kSteps = {
     {"Enter", [](auto& dialog, auto, auto&) { dialog.pressEnter(); }},
     {"Escape", [](auto& dialog, auto, auto&) { dialog.pressEscape(); }},
     {"close", [](auto& dialog, auto, auto&) { dialog.pressCloseBox(); }},
+    {"file", [](auto& dialog, auto, auto& text) { dialog.desktop.files = {text}; }},
     {"answer", [](auto& dialog, auto, auto& text) {
        dialog.desktop.answers = {text == "OK"    ? Answer::ok
                                  : text == "Yes" ? Answer::yes

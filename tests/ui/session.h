@@ -9,6 +9,7 @@
 //   unselect Teams 1019
 //   Enter, Escape, close                         the last is the close box
 //   answer: Cancel                               to the next question
+//   file: fair.scv                               to the next question for a file
 //   meanwhile: no scores                         what befalls the contest
 //   # A remark
 //

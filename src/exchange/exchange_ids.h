@@ -1,0 +1,12 @@
+// The dialogs of this room and their controls, for the behaviour and the resource scripts.
+#pragma once
+
+// Earlier Saves
+#define IDD_EARLIER_SAVES 170
+#define IDC_SAVE_TIMES 1101
+#define IDC_SAVE_CONTESTANTS 1102
+#define IDC_SAVE_SCORES 1103
+#define IDC_SAVE_CHANGES 1104
+#define IDC_SHOW_DIFFERENCES 1105
+#define IDC_GO_BACK 1106
+#define IDC_WRITE_SAVE 1107

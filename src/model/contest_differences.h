@@ -1,0 +1,88 @@
+// What differs between two contests: the present one and an earlier save, or one's own file and
+// somebody else's.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "model/contest.h"
+
+namespace scorvane {
+
+/// A value of this contest and of the other one.
+template <typename Value>
+struct Sides {
+  Value here{};
+  Value there{};
+  friend bool operator==(const Sides&, const Sides&) = default;
+};
+
+/// A class by its index (from 0) in each contest; one of them can lack it.
+using ClassMatch = Sides<std::optional<std::int32_t>>;
+
+/// Which classes are the same: those of one name, equal names in order; then, when both contests
+/// have as many classes, those without such a match at the same position. First all classes from
+/// here in their order, then those that are only there.
+[[nodiscard]] std::vector<ClassMatch> matchClasses(const JudgingClasses& here,
+                                                   const JudgingClasses& there);
+
+enum class DifferenceKind { setting, category, judgedClass, team, contestant };
+
+/// The name of a number that is only reserved, and of a class that was given none.
+inline constexpr const char* kNoName = "(no name)";
+
+/// A value that differs, in words that follow each other: "class 3" "official placing".
+struct Difference {
+  DifferenceKind kind = DifferenceKind::setting;
+  std::string subject;  ///< whose value: "class 3", "team Elm", "101 Ann Lee"; "" for a setting
+  std::string value;    ///< "" when the subject as a whole is missing on one side
+  Sides<std::string> sides;  ///< "" where there is nothing
+};
+
+enum class ScoreValue {
+  letter,
+  reasons,
+  questions,
+  placingScore,  ///< only where letter, official placing and cuts are the same
+};
+
+/// Whether a record holds such a score: no blank letter, no 0.
+[[nodiscard]] bool isEntered(ScoreValue value, const ScoreRecord& record);
+
+/// A record's score of such a kind as it is shown: "D (1,3,4,2)" for a letter; "" when it is not
+/// entered.
+[[nodiscard]] std::string scoreText(ScoreValue value, const ScoreRecord& record);
+
+struct ScoreDifference {
+  std::size_t classMatch = 0;  ///< position in ContestDifferences::classes
+  ScoreValue value = ScoreValue::letter;
+  ContestantNumber number = 0;
+  Sides<ScoreRecord> records;  ///< blank where the contestant or the class is missing
+};
+
+/// Letters, reasons scores and questions scores, each counted for itself; blank letters and zeros
+/// are no scores.
+struct ScoreCounts {
+  std::int64_t onBothSides = 0;  ///< those that differ included
+  std::int64_t differing = 0;
+  Sides<std::int64_t> onlyOn;
+};
+
+struct ContestDifferences {
+  std::vector<Difference> values;  ///< settings, categories, classes, teams, contestants by number
+  std::vector<ClassMatch> classes;
+  /// In the order in which cards lie: by class, kind of score and group (the reasons group and
+  /// position for reasons scores), then by number.
+  std::vector<ScoreDifference> scores;
+  ScoreCounts counts;
+
+  [[nodiscard]] bool empty() const { return values.empty() && scores.empty(); }
+};
+
+/// All that would read differently in the files of the two contests. O(n log n) in contestants.
+[[nodiscard]] ContestDifferences contestDifferences(const Contest& here, const Contest& there);
+
+}  // namespace scorvane

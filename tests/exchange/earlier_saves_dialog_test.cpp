@@ -1,0 +1,222 @@
+// What the sessions beside this file speak of, and what becomes of the files.
+#include "exchange/earlier_saves_dialog.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <ctime>
+
+#include "app/tools_menu.h"
+#include "model/new_contest.h"
+#include "model/roster.h"
+#include "session/contest_file.h"
+#include "session/open_contest.h"
+#include "session/recovery.h"
+#include "storage/contest_writer.h"
+#include "tests/app/memory_main_window.h"
+#include "tests/storage/memory_files.h"
+#include "tests/support/approved.h"
+#include "tests/support/contest_builder.h"
+#include "tests/ui/memory_dialog.h"
+#include "tests/ui/session.h"
+#include "text/report_marks.h"
+
+namespace scorvane {
+
+namespace {
+
+constexpr const char* kFile = "fair.scv";
+constexpr std::int64_t kHalfPastTwo = 1784385060LL;  // July 18, 2026, 2:31 PM (UTC)
+
+// A day's work, from the morning on: teams, the cards of two groups, a correction, a removed team.
+std::vector<Contest> daysWork() {
+  ContestBuilder builder;
+  builder.members(2, 2, 2).addClass({.name = "Steers"}).addClass({.name = "Ewes", .official = 'B'});
+  builder.team("Elm", "Mr. Oak", {"Ann", "Bob"}).team("Coyote", "", {"Cy", ""});
+  std::vector<Contest> states = {builder.contest};
+  states.push_back(builder.placings(101, "AB").placings(102, "C ").contest);
+  builder.contest.classes.officialLetter[1] = 'X';
+  recomputeAllPlacingScores(builder.contest);
+  states.push_back(builder.contest);
+  removeTeam(builder.contest, "Coyote");
+  states.push_back(builder.contest);
+  return states;
+}
+
+class Disk {
+ public:
+  Disk() {
+    ::setenv("TZ", "UTC0", 1);
+    ::tzset();
+    startKeepingWork(files);
+  }
+  Disk(const Disk&) = delete;
+  Disk& operator=(const Disk&) = delete;
+  ~Disk() {
+    stopKeepingWork();
+    currentFileName().clear();
+    currentContest() = Contest{};
+  }
+
+  void keep(const std::string& path, const Contest& contest, std::int64_t minutes, bool isRest) {
+    keepEarlierSave(files, path, writeContest(contest), isRest,
+                    (kHalfPastTwo + 60 * minutes) * kTicksPerSecond);
+  }
+  /// The day's last state is open and saved; a card typed at 3:16 was not, and one save is damaged.
+  void playDay() {
+    const std::vector<Contest> states = daysWork();
+    keep(kFile, states[0], -8 * 60, false);
+    keep(kFile, Contest{}, -100, false);
+    std::string& damaged = files.files.at(saves(kFile).front().path).content;
+    damaged.assign(damaged.size(), '?');
+    keep(kFile, states[1], 0, false);
+    Contest rest = states[2];
+    rest.scores[103][0].letter = 'D';
+    keep(kFile, rest, 45, true);
+    keep(kFile, states[2], 50, false);
+    files.clock = (kHalfPastTwo + 55 * 60) * kTicksPerSecond;
+    files.files[kFile] = {writeContest(states.back()), true, "", files.clock};
+    currentContest() = newContest();
+    MemoryWindow window;
+    ASSERT_TRUE(openContest(window, kFile));
+  }
+  std::vector<EarlierSave> saves(const std::string& path) { return earlierSaves(files, path); }
+
+  MemoryFiles files;
+};
+
+using Behaviour = std::unique_ptr<DialogBehaviour>;
+std::optional<Disk> disk;
+
+Behaviour earlierSavesOf(const std::string& path) {
+  return std::make_unique<EarlierSavesDialog>(disk->saves(path));
+}
+
+const SessionWorld kWorld = {
+    {{"Earlier Saves", [] { return earlierSavesOf(currentFileName()); }}},
+    {{"a day",
+      [] {
+        disk.reset();
+        disk.emplace();
+        disk->playDay();
+        return currentContest();
+      }},
+     {"what it is now",
+      [] {
+        currentFileName() = kFile;
+        return currentContest();
+      }},
+     {"two unsaved contests",
+      [] {
+        disk.reset();
+        disk.emplace();
+        Contest rest = daysWork()[1];
+        rest.settings.contestDate = todaysDate();
+        disk->keep("", rest, -60, true);
+        rest.settings.contestName = "Fall Roundup";
+        disk->keep("", rest, 0, true);
+        return newContest();
+      }}},
+    {{"a card", [](Contest& c) { c.scores[101][0].letter = 'T'; }},
+     {"its saves are gone",
+      [](Contest&) {
+        std::erase_if(disk->files.files, [](const auto& file) { return file.first != kFile; });
+      }},
+     {"a full disk", [](Contest&) {
+        disk->files.room = 0;
+        for (const auto& [path, file] : disk->files.files) disk->files.room += file.content.size();
+      }}}};
+
+// A card of the open contest that was typed and not saved comes back with the rest.
+TEST(EarlierSaves, GoingBackKeepsTheFileAndWhatWasNotSaved) {
+  Disk day;
+  day.playDay();
+  const std::string file = day.files.files[kFile].content;
+  currentContest().scores[101][1].letter = 'T';
+  const std::string typed = writeContest(currentContest());
+  EarlierSavesDialog behaviour(day.saves(kFile));
+  MemoryDialog dialog(IDD_EARLIER_SAVES, behaviour);
+  dialog.desktop.answers = {Answer::ok};
+  dialog.choose(IDC_SAVE_TIMES, 4);
+  dialog.click(IDC_GO_BACK);
+  EXPECT_EQ(day.files.files[kFile].content, writeContest(daysWork()[0]));
+  const auto saves = day.saves(kFile);
+  ASSERT_EQ(saves.size(), 7U);
+  EXPECT_EQ(readEarlierSave(day.files, saves[0]), file);
+  EXPECT_EQ(readEarlierSave(day.files, saves[1]), typed);
+  EXPECT_TRUE(saves[1].isUnsavedRest);
+  EXPECT_FALSE(saves[0].isUnsavedRest);
+}
+
+TEST(EarlierSaves, AreWrittenIntoFilesOfTheirOwn) {
+  Disk day;
+  day.playDay();
+  day.files.files["old.scv"].content = "what it replaces";
+  const auto saves = day.saves(kFile);
+  EarlierSavesDialog behaviour(saves);
+  MemoryDialog dialog(IDD_EARLIER_SAVES, behaviour);
+  dialog.desktop.files = {"old.scv"};
+  dialog.choose(IDC_SAVE_CHANGES, 1);
+  dialog.click(IDC_WRITE_SAVE);
+  EXPECT_EQ(day.files.files["old.scv"].content, readEarlierSave(day.files, saves[1]));
+  ASSERT_EQ(day.saves("old.scv").size(), 1U);
+  EXPECT_EQ(readEarlierSave(day.files, day.saves("old.scv")[0]), "what it replaces");
+  EXPECT_EQ(dialog.result(), std::nullopt);
+  EXPECT_EQ(dialog.desktop.messages.size(), 0U);
+  EXPECT_EQ(currentFileName(), kFile);
+}
+
+TEST(EarlierSaves, AreComparedWithTheOpenContestOnScreen) {
+  Disk day;
+  MemoryMainWindow window;
+  currentContest() = newContest();
+  runEarlierSaves(window);
+  currentFileName() = "none.scv";
+  runEarlierSaves(window);
+  day.playDay();
+  runEarlierSaves(window);
+  window.operate = [](MemoryDialog& dialog) {
+    dialog.choose(IDC_SAVE_TIMES, 1);
+    dialog.pressEnter();
+  };
+  runEarlierSaves(window);
+  window.log += reportText();
+  window.operate = [](MemoryDialog& dialog) {
+    dialog.desktop.answers = {Answer::ok};
+    dialog.click(IDC_GO_BACK);
+  };
+  runEarlierSaves(window);
+  expectApproved(window.log, "exchange/earlier_saves.txt");
+}
+
+// The new contest that is open meanwhile is nothing to be kept.
+TEST(EarlierSaves, OfContestsWithoutAFileStayWhenTheyAreBroughtBack) {
+  Disk day;
+  currentContest() = newContest();
+  day.keep("", daysWork()[1], 0, true);
+  for (const std::size_t kept : {1U, 2U}) {
+    EarlierSavesDialog behaviour(day.saves(""));
+    MemoryDialog dialog(IDD_EARLIER_SAVES, behaviour);
+    dialog.desktop.answers = {Answer::ok};
+    dialog.click(IDC_GO_BACK);  // the choice of a file is cancelled
+    EXPECT_EQ(dialog.result(), IDC_GO_BACK);
+    EXPECT_EQ(writeContest(currentContest()), writeContest(daysWork()[1]));
+    EXPECT_EQ(day.saves("").size(), kept);
+    currentContest().settings.contestName = "Changed";
+  }
+}
+
+class ExchangeSession : public testing::TestWithParam<std::string> {
+ protected:
+  ~ExchangeSession() override { disk.reset(); }
+};
+
+TEST_P(ExchangeSession, GoesAsWritten) {
+  expectSession("exchange", GetParam(), kWorld);
+}
+INSTANTIATE_TEST_SUITE_P(Dialogs, ExchangeSession, testing::ValuesIn(sessionsOf("exchange")),
+                         sessionName);
+
+}  // namespace
+
+}  // namespace scorvane
