@@ -208,7 +208,7 @@ class Comparison {
     add(DifferenceKind::contestant, subject, isOnBothSides ? "name" : "", nameText(here),
         nameText(there));
     if (!isNamed || !wasNamed) return;
-    add(DifferenceKind::contestant, subject, "reasons place",
+    add(DifferenceKind::contestant, subject, "reasons order",
         placeText(reasonsPlaceOf(here_, number)), placeText(reasonsPlaceOf(there_, number)));
   }
 
