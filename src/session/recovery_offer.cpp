@@ -48,6 +48,15 @@ std::vector<ListedFile> listedCopies(FileSystem& files) {
   return copies;
 }
 
+// What a program that was ended amid writing a copy has left, unless it may still be at it.
+void removeLeftovers(FileSystem& files) {
+  constexpr std::int64_t kDay = kTicksPerSecond * 24 * 3600;
+  for (const ListedFile& file : files.list(recoveryFolder(files))) {
+    if (!file.name.ends_with(".tmp") || files.now() - file.changed < kDay) continue;
+    files.remove(recoveryFolder(files) + "/" + file.name);
+  }
+}
+
 void moveToEarlierSaves(FileSystem& files, const FoundCopy& found, const std::string& contestPath) {
   const auto contest = recoveredContest(found.copy);
   const std::string bytes = contest ? writeContest(*contest) : *found.bytes;
@@ -191,6 +200,7 @@ std::optional<std::string> offerRecovery(Window& owner) {
 }
 
 void keepUntitledRests(FileSystem& files) {
+  removeLeftovers(files);
   const std::string key = contestKey(files, "");
   for (const ListedFile& file : listedCopies(files)) {
     const FoundCopy found(files, recoveryFolder(files) + "/" + file.name, file.changed);

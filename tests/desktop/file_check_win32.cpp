@@ -9,6 +9,8 @@
 #include "storage/file.h"
 #include "storage/safe_save.h"
 
+using namespace scorvane;
+
 namespace {
 
 const std::string kOld = "old content";
@@ -108,6 +110,36 @@ void checkNames(const std::string& folder) {
   check(saved >= 255 - kForbidden, "every byte in file names");
 }
 
+void checkFolders(const std::string& folder) {
+  FileSystem& files = systemFiles();
+  check(files.localDataFolder().ends_with("\\AppData\\Local"), "the folder of local data");
+  const std::string inner = folder + "/one/two";
+  check(files.makeFolders(inner) && files.makeFolders(inner), "folders made with slashes");
+  const std::string path = inner + "/copy.scv";
+  const std::int64_t before = files.now() - 2 * kTicksPerSecond;
+  for (const std::string& bytes : {kOld, kNew}) {
+    const auto opened = files.openToAppend(path);
+    check(opened.file != nullptr && opened.file->write(bytes) && opened.file->flush(), "append");
+    check(files.openToAppend(path).outcome == FileOutcome::denied, "a second writer");
+    check(!save(path, kOld), "an open file is not replaced");
+  }
+  check(contentOf(path) == kOld + kNew, "what was appended");
+  check(!files.makeFolders(path), "a file in place of a folder");
+  {
+    const FileSystem::Claim claim = files.claim(path);
+    check(claim.outcome == FileOutcome::done, "a claim");
+    check(files.claim(path).outcome == FileOutcome::denied, "a claim of what is claimed");
+    check(files.list(inner).size() == 2, "a claim's file");
+  }
+  check(files.claim(path).outcome == FileOutcome::done, "a claim that was given up");
+  const auto listed = files.list(inner);
+  check(listed.size() == 1 && listed[0].name == "copy.scv" && !listed[0].isFolder &&
+            listed[0].size == kOld.size() + kNew.size() && listed[0].changed > before &&
+            listed[0].changed == files.lastChange(path),
+        "a folder's list");
+  check(files.list(folder + "/one").at(0).isFolder && files.list(path).empty(), "folders in it");
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -123,6 +155,7 @@ int main(int count, char** arguments) {
   checkFilesInUse(folder);
   checkLongPath(folder);
   checkNames(folder);
+  checkFolders(folder);
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {
     check(entry.path().extension() != ".tmp", "nothing is left beside the files");
   }

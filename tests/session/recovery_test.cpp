@@ -136,10 +136,15 @@ TEST_F(Recovery, AsksAndReportsWhatCameBack) {
   EXPECT_EQ(asked(), "");
   EXPECT_EQ(reportText(), kWelcomeText);
 
+  // Setup can make another class of the one that a score was typed for.
+  type(103, 1, {'B', 0, 0, 9});
+  currentContest().scores.find(103)->operator[](1) = {};
   addTeam("Avon");
   disk.losePower(0);
+  disk.clock += 48 * 3600 * kTicksPerSecond;
   start(kPath, Answer::no);
-  EXPECT_NE(asked().find("\nChanges of the setup until"), std::string::npos);
+  EXPECT_NE(asked().find("\nChanges of the setup until"), std::string::npos) << asked();
+  EXPECT_NE(asked().find("M on January"), std::string::npos) << asked();
   EXPECT_FALSE(currentContest().teams.contains("Avon"));
   EXPECT_EQ(copies().size(), 0U);
   const auto rests = earlierSaves(disk, kPath);
@@ -177,10 +182,26 @@ TEST_F(Recovery, IsOfferedForTheVeryFileItGrewFromOnly) {
   EXPECT_NE(asked(), "");
   EXPECT_EQ(scoreRecord(currentContest(), 101, 0).reasonsScore, 44);
 
+  // A damaged one is kept as it is, too, and one that finds no other room is not written over.
+  disk.files = left;
+  const std::string copy = copyPath(disk, contestKey(disk, kPath), 1);
+  disk.files[copy].content[200] = '!';
+  disk.readOnlyPath = earlierSavesFolder(disk);
+  start(kPath, Answer::no);
+  EXPECT_NE(asked(), "");
+  type(102, 1, {'Z', 0, 0, 50});
+  EXPECT_EQ(copies().size(), 2U);
+  disk.readOnlyPath.clear();
+  disk.files.erase(copyPath(disk, contestKey(disk, kPath), 2));
+  start();
+  EXPECT_EQ(scoreRecord(currentContest(), 101, 0).reasonsScore, 44);
+  ASSERT_EQ(earlierSaves(disk, kPath).size(), 2U);
+  EXPECT_NE(readEarlierSave(disk, earlierSaves(disk, kPath)[1])->find('!'), std::string::npos);
+
   // While another program works with the copy, this one uses its own.
   disk.files = left;
   {
-    const auto claim = disk.claim(copyPath(disk, contestKey(disk, kPath), 1));
+    const auto claim = disk.claim(copy);
     start();
     EXPECT_EQ(asked(), "");
     type(102, 1, {'Z', 0, 0, 50});
@@ -197,32 +218,48 @@ TEST_F(Recovery, IsOfferedForTheVeryFileItGrewFromOnly) {
 TEST_F(Recovery, KeepsWhatAnOrderlyEndLeavesUnsaved) {
   start();
   type(101, 0, {'A', 40, 44, 0});
-  leaveContest();
+  startNewContest();
   EXPECT_EQ(copies().size(), 0U);
   ASSERT_EQ(earlierSaves(disk, kPath).size(), 1U);
-  start();
+  ASSERT_TRUE(openContest(window, kPath));
+  type(103, 1, {'B', 0, 0, 9});
+  ASSERT_TRUE(openContest(window, kPath));
   EXPECT_EQ(asked(), "");
+  EXPECT_EQ(copies().size(), 0U);
+  ASSERT_EQ(earlierSaves(disk, kPath).size(), 2U);
 
   // What could not be saved is offered.
   type(101, 0, {'A', 40, 44, 0});
   disk.readOnlyPath = kPath;
   saveCurrent(window);
   EXPECT_NE(asked().find("did NOT save"), std::string::npos);
-  leaveContest();
+  endKeepingWork();
   disk.readOnlyPath.clear();
   start();
   EXPECT_NE(asked().find("1 score typed until"), std::string::npos);
 
   // Nothing is left of a contest that is as it was, and a contest without a file is kept, too.
   addTeam("Avon");
+  disk.calls = 0;
+  contestChanged();
+  EXPECT_EQ(disk.calls, 0);
   currentContest().teams.erase("Avon");
   contestChanged();
   EXPECT_EQ(copies().size(), 0U);
   start("");
-  leaveContest();
-  addTeam("Brook");
+  startNewContest();
+  currentContest().teams["Brook"];
+  window.desktop.files = {std::nullopt};
+  saveContestAs(window);  // and thinks better of it
   disk.losePower(0);
+  const std::string spares[] = {recoveryFolder(disk) + "/old.tmp",
+                                recoveryFolder(disk) + "/new.tmp"};
+  put(spares[0], "");
+  put(spares[1], "");
+  disk.files[spares[1]].changed = disk.clock;
   start("");
+  EXPECT_FALSE(disk.files.contains(spares[0]));
+  EXPECT_TRUE(disk.files.contains(spares[1])) << "another program may be writing it";
   EXPECT_EQ(copies().size(), 0U);
   ASSERT_EQ(earlierSaves(disk, "").size(), 1U);
   EXPECT_NE(readEarlierSave(disk, earlierSaves(disk, "")[0])->find("Brook"), std::string::npos);
@@ -285,6 +322,7 @@ TEST(RecoveryCopyBytes, GiveEveryWholeLineWhereverTheyAreDamagedOrCut) {
       ASSERT_EQ(copy.baseIsWhole, at >= base.size() && copy.grewFrom);
       // Added to the file they are there, whatever became of the rest; else the rest is told apart.
       const auto contest = recoveredOver(file, copy);
+      ASSERT_TRUE(!contest || at < base.find("Market") || at >= base.find("\tYes"));
       if (!contest) continue;
       for (int i = 0; i < 2; ++i) {
         ASSERT_TRUE(hit[i] ||

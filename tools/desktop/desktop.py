@@ -226,6 +226,8 @@ class App:
         return int(wait_for(lambda: [c for c in self.tell("exit_code") if c != "running"], "exit")[0])
 
     def close(self):
+        if self.driver.stdin.closed:
+            return
         with contextlib.suppress(DesktopError):
             self.tell("kill")
         with contextlib.suppress(OSError):
