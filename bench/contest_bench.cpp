@@ -48,7 +48,7 @@ void report(benchmark::State& state, int commandId) {
   const Contest& contest = contestOf(state.range(0));
   const Command* command = findCommand(commandId);
   for ([[maybe_unused]] auto step : state) {
-    const auto text = command->report(contest, {});
+    const auto text = command->report()->build(contest, {});
     benchmark::DoNotOptimize(&text);
   }
   state.SetComplexityN(state.range(0));

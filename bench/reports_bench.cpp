@@ -37,7 +37,7 @@ void buildReport(benchmark::State& state, int commandId) {
   request.round = 3;
   std::size_t bytes = 0;
   for ([[maybe_unused]] auto step : state) {
-    const auto report = command->report(contest, request);
+    const auto report = command->report()->build(contest, request);
     bytes = report.value_or("").size();
     benchmark::DoNotOptimize(bytes);
   }

@@ -18,10 +18,8 @@ two runs of one round.
 usage: startup.py [ROUNDS]     (20 unless told; wants the windows preset's build)
 """
 
-import mmap
 import pathlib
 import statistics
-import struct
 import subprocess
 import sys
 import tempfile
@@ -31,6 +29,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[1]
 sys.path.insert(0, str(ROOT / "tools" / "desktop"))
 
 from desktop import BUILD, Desktop, wait_for, windows_path  # noqa: E402
+from screen import Screen  # noqa: E402
 
 OTHER = "notepad"
 PROGRAMS = {
@@ -43,21 +42,7 @@ BLINKING = 1.5  # seconds, more than a caret takes to blink
 DEADLINE = 30.0
 
 
-class Screen:
-    """The live picture of a display, line by line."""
-
-    def __init__(self, folder):
-        file = wait_for(lambda: list(folder.iterdir()), "the display's memory")[0]
-        with open(file, "rb") as opened:
-            self.memory = mmap.mmap(opened.fileno(), 0, prot=mmap.PROT_READ)
-        header = struct.unpack(">25I", self.memory[:100])
-        size, self.height, self.pitch, colours = header[0], header[5], header[12], header[19]
-        self.start = size + 12 * colours
-
-    def line(self, number):
-        begin = self.start + number * self.pitch
-        return self.memory[begin:begin + self.pitch]
-
+class WholeScreen(Screen):
     def lines(self):
         return {number: self.line(number) for number in range(self.height)}
 
@@ -118,7 +103,7 @@ def measure(rounds):
         keeper = desktop.start(program=BUILD / "desktop_driver.exe")
         try:
             keeper.windows()
-            stopwatch = Stopwatch(desktop, Screen(folder))
+            stopwatch = Stopwatch(desktop, WholeScreen(folder))
             painted = {name: stopwatch.learn(name) for name in PROGRAMS}
             times = {name: [] for name in PROGRAMS}
             for _ in range(rounds):

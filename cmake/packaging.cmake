@@ -21,8 +21,12 @@ set(zip ${CMAKE_BINARY_DIR}/Scorvane-${PROJECT_VERSION}.zip)
 set(package ${CMAKE_BINARY_DIR}/package)
 set(stage ${package}/Scorvane)
 
-# Notepad of older Windows shows a text without CRs as one line.
-configure_file(LICENSE ${CMAKE_BINARY_DIR}/LICENSE.txt @ONLY NEWLINE_STYLE DOS)
+# With the licence of the option library that scorvane-report contains. Notepad of older Windows shows
+# a text without CRs as one line.
+file(READ LICENSE licence)
+file(READ /usr/share/doc/libcli11-dev/copyright option_library_licence)
+file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/LICENSE.txt NEWLINE_STYLE DOS
+     CONTENT "${licence}\n\nscorvane-report contains the option library CLI11:\n\n${option_library_licence}" @ONLY)
 
 add_custom_command(
   OUTPUT ${zip}

@@ -101,7 +101,8 @@ class Operator {
     static const std::vector<const Command*> dialogs = [] {
       std::vector<const Command*> found;
       for (const Command& command : commandTable()) {
-        if (command.run != nullptr) found.push_back(&command);
+        const Report* report = command.report();
+        if (report == nullptr || report->ask != nullptr) found.push_back(&command);
       }
       return found;
     }();

@@ -53,13 +53,13 @@ ReportRequest wishedRequest(Wishes& wishes, const Contest& contest) {
   request.round = wishes.number(classes);
   const std::int32_t scored = wishes.byte() % 60;
   for (std::int32_t k = 0; k < std::min(scored, classes); ++k) {
-    if (wishes.byte() % 4 != 3) request.custom.classes.push_back(k);
+    if (wishes.byte() % 4 != 3) request.classes.push_back(k);
   }
-  request.custom.numToReport = wishes.number(100);
-  request.custom.percent = wishes.byte() % 2 == 1;
+  request.numToReport = wishes.number(100);
+  request.percent = wishes.byte() % 2 == 1;
   // As the dialog gives it: at most 499 bytes, without control characters.
-  request.custom.title = wishes.rest().substr(0, 499);
-  for (char& c : request.custom.title) {
+  request.title = wishes.rest().substr(0, 499);
+  for (char& c : request.title) {
     if (static_cast<unsigned char>(c) < ' ') c = ' ';
   }
   return request;
@@ -116,7 +116,7 @@ void requireWholePrint(const Contest& contest, const std::string& report, std::i
 
 void makeReport(const Command& command, const Contest& contest, const ReportRequest& request,
                 std::int32_t linesPerPage) {
-  const std::optional<std::string> report = command.report(contest, request);
+  const std::optional<std::string> report = command.report()->build(contest, request);
   if (!report) return;
   require(report->empty() || report->back() == '\n', "a report's last line ends");
   constexpr std::size_t kWorthPrinting = 100'000;
@@ -134,11 +134,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::int32_t linesPerPage = wishes.number(0);
   ReportRequest request = wishedRequest(wishes, *contest);
   for (const Command& command : commandTable()) {
-    if (command.report == nullptr) continue;
-    const bool isCustom = command.question == ReportQuestion::custom;
+    if (command.report() == nullptr) continue;
+    const bool isCustom = command.report()->ask == askCustom;
     for (int form = 0; form < (isCustom ? 8 : 1); ++form) {
-      request.custom.kind = form / 2;
-      request.custom.team = form % 2 == 1;
+      request.kind = kScoreKinds[static_cast<std::size_t>(form / 2)];
+      request.team = form % 2 == 1;
       makeReport(command, *contest, request, linesPerPage);
     }
   }

@@ -1,7 +1,7 @@
 # Sourced by ./run and ./test: installs Debian packages that are missing, saying which.
 
 RUN_PACKAGES="cmake ninja-build g++ g++-mingw-w64-x86-64-posix wine wine64 xvfb xdotool imagemagick
-  librsvg2-bin icoutils fonts-liberation fonts-wine python3"
+  librsvg2-bin icoutils fonts-liberation fonts-wine python3 libcli11-dev"
 TEST_PACKAGES="$RUN_PACKAGES clang clang-tidy clang-format llvm strace libgtest-dev libbenchmark-dev mawk
   git cups cups-client ghostscript poppler-utils nsis zip"
 

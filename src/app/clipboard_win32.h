@@ -8,7 +8,7 @@
 
 namespace scorvane {
 
-/// Puts the text on the clipboard in the name of `owner`. A clipboard that another program keeps
+/// Puts the text on the clipboard for `owner`. A clipboard that another program keeps
 /// open, or that does not take the text, counts as memory that cannot be locked.
 MainWindow::CopyResult putOnClipboard(NativeWindow owner, std::string_view text);
 

@@ -3,39 +3,67 @@
 #include <algorithm>
 #include <array>
 
-#include "app/entry_commands.h"
+#include "app/dialog_commands.h"
 #include "app/file_menu.h"
-#include "app/reasons_commands.h"
-#include "app/results_commands.h"
-#include "app/round_commands.h"
-#include "app/setup_commands.h"
-#include "app/shown_report.h"
 #include "app/tools_menu.h"
 #include "app/window_commands.h"
 #include "output/save_report.h"
-#include "reports/class_reports.h"
-#include "reports/letter_report.h"
-#include "reports/roster_reports.h"
+#include "reasons/reasons_reports.h"
+#include "reports/listing_reports.h"
 #include "reports/round_reports.h"
-#include "reports/team_score_reports.h"
-#include "reports/zero_reports.h"
-#include "results/tie_breaker_report.h"
+#include "reports/verification_reports.h"
+#include "results/high_reports.h"
+#include "results/rankings.h"
+#include "results/tie_breakers.h"
 #include "results/total_summary_report.h"
-#include "session/open_contest.h"
 
 namespace scorvane {
 
 namespace {
 
-// The report of a builder that asks nothing but the contest.
+// Builders of one type for the table. First those that need nothing but the contest.
 template <std::string (*build)(const Contest&)>
 std::optional<std::string> plain(const Contest& contest, const ReportRequest& /*request*/) {
   return build(contest);
 }
 
+// The others, from what the request tells them.
+
 std::optional<std::string> tieBreakers(const Contest& /*contest*/,
                                        const ReportRequest& /*request*/) {
   return tieBreakerReport();
+}
+
+template <ScoreKind kind>
+std::optional<std::string> highIndividual(const Contest& contest,
+                                          const ReportRequest& /*request*/) {
+  return highIndividualReport(contest, wholeContestRequest(contest, kind));
+}
+
+template <ScoreKind kind>
+std::optional<std::string> highTeam(const Contest& contest, const ReportRequest& /*request*/) {
+  return highTeamReport(contest, wholeContestRequest(contest, kind));
+}
+
+std::optional<std::string> custom(const Contest& contest, const ReportRequest& request) {
+  return customReport(contest, request);
+}
+
+template <ReasonsOrderForm form>
+std::optional<std::string> reasonsOrder(const Contest& contest, const ReportRequest& /*request*/) {
+  return reasonsOrderReport(contest, form);
+}
+
+template <ReasonsSheet form>
+std::optional<std::string> sheet(const Contest& contest, const ReportRequest& request) {
+  if (!request.classIndex) return std::nullopt;
+  return reasonsSheet(contest, form, *request.classIndex);
+}
+
+std::optional<std::string> roundVerification(const Contest& contest, const ReportRequest& request) {
+  const std::int32_t round = request.round.value_or(-1);
+  if (round < 0 || round >= contest.classes.count()) return std::nullopt;
+  return roundVerificationReport(contest, round);
 }
 
 template <bool small>
@@ -67,64 +95,63 @@ constexpr std::array kCommands = {
     Command{32864, "Setup", "Edit Reasons Order", runEditReasonsOrder},
     Command{32856, "Setup", "Edit Contestants", runEditContestants},
 
-    Command{32837, "Admin Reports", "Classes Report", nullptr, plain<classesReport>},
-    Command{32838, "Admin Reports", "Group Assignments", nullptr, plain<groupAssignmentsReport>},
-    Command{32839, "Admin Reports", "Round Assignments", nullptr, plain<roundAssignmentsReport>},
-    Command{32842, "Admin Reports", "Official Placings", nullptr, plain<officialPlacingsReport>},
-    Command{32840, "Admin Reports", "Team Report", nullptr, plain<teamReport>},
-    Command{32853, "Admin Reports", "Contestants Report", nullptr, plain<contestantsReport>},
-    Command{32841, "Admin Reports", "Reasons Order", nullptr, plainReasonsOrder},
-    Command{32869, "Admin Reports", "Contestant Reasons Report", nullptr, roomReasonsOrder},
-    Command{32843, "Admin Reports", "Reasons Score Sheets", showReasonsOrderSheet,
-            reasonsOrderSheet, ReportQuestion::reasonsClass},
-    Command{32855, "Admin Reports", "Tie Breakers Report", nullptr, tieBreakers},
+    Command{32837, "Admin Reports", "Classes Report", Report{plain<classesReport>}},
+    Command{32838, "Admin Reports", "Group Assignments", Report{plain<groupAssignmentsReport>}},
+    Command{32839, "Admin Reports", "Round Assignments", Report{plain<roundAssignmentsReport>}},
+    Command{32842, "Admin Reports", "Official Placings", Report{plain<officialPlacingsReport>}},
+    Command{32840, "Admin Reports", "Team Report", Report{plain<teamReport>}},
+    Command{32853, "Admin Reports", "Contestants Report", Report{plain<contestantsReport>}},
+    Command{32841, "Admin Reports", "Reasons Order", Report{reasonsOrder<ReasonsOrderForm::plain>}},
+    Command{32869, "Admin Reports", "Contestant Reasons Report",
+            Report{reasonsOrder<ReasonsOrderForm::room>}},
+    Command{32843, "Admin Reports", "Reasons Score Sheets",
+            Report{sheet<ReasonsSheet::order>, askReasonsClass}},
+    Command{32855, "Admin Reports", "Tie Breakers Report", Report{tieBreakers}},
 
     Command{32791, "Score", "Lookup/Edit Individual Scores", lookUpScores},
     Command{32822, "Score", "Input Scores By Group", inputPlacings},
     Command{32823, "Score", "Input Reasons Scores", inputReasons},
     Command{32826, "Score", "Input Questions Scores By Group", inputQuestions},
 
-    Command{32796, "Results Reports", "High Individual Overall", nullptr,
-            highIndividual<ScoreKind::overall>},
-    Command{32799, "Results Reports", "High Individual Placings", nullptr,
-            highIndividual<ScoreKind::placings>},
-    Command{32798, "Results Reports", "High Individual Reasons", nullptr,
-            highIndividual<ScoreKind::reasons>},
-    Command{32827, "Results Reports", "High Individual Questions", nullptr,
-            highIndividual<ScoreKind::questions>},
-    Command{32801, "Results Reports", "High Team Overall", nullptr, highTeam<ScoreKind::overall>},
-    Command{32804, "Results Reports", "High Team Placings", nullptr, highTeam<ScoreKind::placings>},
-    Command{32803, "Results Reports", "High Team Reasons", nullptr, highTeam<ScoreKind::reasons>},
-    Command{32830, "Results Reports", "High Team Questions", nullptr,
-            highTeam<ScoreKind::questions>},
-    Command{32800, "Results Reports", "Custom/Category Report", runCustomReport,
-            customReportAskedFor, ReportQuestion::custom},
-    Command{32810, "Results Reports", "Total Summary Report", nullptr, plain<totalSummaryReport>},
+    Command{32796, "Results Reports", "High Individual Overall",
+            Report{highIndividual<ScoreKind::overall>}},
+    Command{32799, "Results Reports", "High Individual Placings",
+            Report{highIndividual<ScoreKind::placings>}},
+    Command{32798, "Results Reports", "High Individual Reasons",
+            Report{highIndividual<ScoreKind::reasons>}},
+    Command{32827, "Results Reports", "High Individual Questions",
+            Report{highIndividual<ScoreKind::questions>}},
+    Command{32801, "Results Reports", "High Team Overall", Report{highTeam<ScoreKind::overall>}},
+    Command{32804, "Results Reports", "High Team Placings", Report{highTeam<ScoreKind::placings>}},
+    Command{32803, "Results Reports", "High Team Reasons", Report{highTeam<ScoreKind::reasons>}},
+    Command{32830, "Results Reports", "High Team Questions",
+            Report{highTeam<ScoreKind::questions>}},
+    Command{32800, "Results Reports", "Custom/Category Report", Report{custom, askCustom}},
+    Command{32810, "Results Reports", "Total Summary Report", Report{plain<totalSummaryReport>}},
 
-    Command{32862, "Verification Reports", "Round Verification Report", runRoundVerification,
-            roundVerification, ReportQuestion::round},
-    Command{32846, "Verification Reports", "Verify Letter Scores", nullptr,
-            plain<verifyScoresReport>},
-    Command{32847, "Verification Reports", "Verify Placings By Team", nullptr,
-            plain<verifyPlacingsReport>},
-    Command{32848, "Verification Reports", "Verify Questions Scores", nullptr,
-            plain<verifyQuestionsScoresReport>},
-    Command{32844, "Verification Reports", "Verify Reasons Scores", showReasonsVerificationSheet,
-            reasonsVerificationSheet, ReportQuestion::reasonsClass},
-    Command{32845, "Verification Reports", "Reasons Scores By Team", nullptr,
-            plain<reasonsByTeamReport>},
-    Command{32849, "Verification Reports", "Zero Scores Report", nullptr, plain<zeroScoresReport>},
-    Command{32850, "Verification Reports", "Zero Reasons Report", nullptr,
-            plain<zeroReasonsReport>},
-    Command{32851, "Verification Reports", "Zero Questions Report", nullptr,
-            plain<zeroQuestionsReport>},
+    Command{32862, "Verification Reports", "Round Verification Report",
+            Report{roundVerification, askRound}},
+    Command{32846, "Verification Reports", "Verify Letter Scores",
+            Report{plain<verifyScoresReport>}},
+    Command{32847, "Verification Reports", "Verify Placings By Team",
+            Report{plain<verifyPlacingsReport>}},
+    Command{32848, "Verification Reports", "Verify Questions Scores",
+            Report{plain<verifyQuestionsScoresReport>}},
+    Command{32844, "Verification Reports", "Verify Reasons Scores",
+            Report{sheet<ReasonsSheet::verification>, askReasonsClass}},
+    Command{32845, "Verification Reports", "Reasons Scores By Team",
+            Report{plain<reasonsByTeamReport>}},
+    Command{32849, "Verification Reports", "Zero Scores Report", Report{plain<zeroScoresReport>}},
+    Command{32850, "Verification Reports", "Zero Reasons Report", Report{plain<zeroReasonsReport>}},
+    Command{32851, "Verification Reports", "Zero Questions Report",
+            Report{plain<zeroQuestionsReport>}},
 
     Command{33023, "Tools", "Earlier Saves ...", runEarlierSaves},
 
     Command{32857, "Help", "Scorvane Help (F1)", helpCommand},
     Command{104, "Help", "About ...", aboutCommand},
 
-    // In no menu: shows what the system's font chooser gives.
+    // In no menu: shows the fields of the font that the system's font chooser returns.
     Command{32809, "", "", fontCommand},
 };
 
@@ -143,10 +170,10 @@ const Command* findCommand(int id) {
 void runCommand(int id, MainWindow& window) {
   const Command* command = findCommand(id);
   if (command == nullptr) return;
-  if (command->run != nullptr) {
-    command->run(window);
+  if (const Report* report = command->report()) {
+    runReport(window, *report);
   } else {
-    showReport(window, command->report(currentContest(), {}));
+    std::get<void (*)(MainWindow&)>(command->does)(window);
   }
 }
 

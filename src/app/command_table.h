@@ -2,31 +2,24 @@
 // and runs its reports from it, and the menu is held against it.
 #pragma once
 
-#include <optional>
 #include <span>
-#include <string>
 #include <string_view>
+#include <variant>
 
 #include "app/main_window.h"
-#include "app/report_request.h"
-#include "model/contest.h"
+#include "app/shown_report.h"
 
 namespace scorvane {
-
-/// What a report asks for before it can be built.
-enum class ReportQuestion { nothing, reasonsClass, round, custom };
 
 struct Command {
   int id = 0;
   std::string_view menu;
   std::string_view caption;
-  /// What the menu command does. When null, the command shows its report, which then asks nothing.
-  void (*run)(MainWindow& window) = nullptr;
-  /// The report that the command makes; null for commands that make none, or that change the
-  /// contest first. Gives nothing when the contest lacks what the report needs.
-  std::optional<std::string> (*report)(const Contest& contest,
-                                       const ReportRequest& request) = nullptr;
-  ReportQuestion question = ReportQuestion::nothing;
+  /// What choosing it in the menu does: an action of its own, or showing a report.
+  std::variant<void (*)(MainWindow& window), Report> does;
+
+  /// The report that the command shows; null when it does something else.
+  [[nodiscard]] const Report* report() const { return std::get_if<Report>(&does); }
 };
 
 /// All commands, in menu order.

@@ -84,10 +84,10 @@ void DesktopWindow::openDroppedFile(std::uintptr_t drop) {
   openContestFile(*this, path);
 }
 
-void DesktopWindow::changeResolution(std::intptr_t suggestedPlace) {
-  const auto* place = reinterpret_cast<const RECT*>(suggestedPlace);
-  SetWindowPos(window_, nullptr, place->left, place->top, place->right - place->left,
-               place->bottom - place->top, SWP_NOZORDER | SWP_NOACTIVATE);
+void DesktopWindow::changeResolution(std::intptr_t suggestedArea) {
+  const auto* area = reinterpret_cast<const RECT*>(suggestedArea);
+  SetWindowPos(window_, nullptr, area->left, area->top, area->right - area->left,
+               area->bottom - area->top, SWP_NOZORDER | SWP_NOACTIVATE);
   report_.changeResolution();
 }
 

@@ -36,7 +36,7 @@ class DesktopWindow final : public MainWindow {
 
  private:
   void openDroppedFile(std::uintptr_t drop);
-  void changeResolution(std::intptr_t suggestedPlace);
+  void changeResolution(std::intptr_t suggestedArea);
 
   NativeWindow window_;
   ReportWindow report_;

@@ -12,7 +12,7 @@ namespace scorvane {
 
 class DialogBehaviour;
 
-/// What the system's font chooser tells of a font; sizes in its logical units.
+/// What the system's font chooser says about a font; sizes in its logical units.
 struct FontFields {
   long height = 0, width = 0, escapement = 0, orientation = 0, weight = 0;
   int italic = 0, underline = 0, strikeOut = 0, charSet = 0;

@@ -21,7 +21,7 @@ std::wstring manualPath() {
   return path.substr(0, path.rfind(L'\\') + 1) + L"ScorvaneUsersManual.htm";
 }
 
-// The program that shows web pages; "" when it cannot be told.
+// The program that shows web pages; "" when the system names none.
 std::wstring browserPath() {
   std::array<wchar_t, kLongestPath> path{};
   auto size = static_cast<DWORD>(path.size());
@@ -33,7 +33,7 @@ std::wstring browserPath() {
 bool start(NativeWindow owner, const std::wstring& file, const std::wstring& parameters) {
   SHELLEXECUTEINFOW request{};
   request.cbSize = sizeof request;
-  request.fMask = SEE_MASK_FLAG_NO_UI;  // a failure is told by the program itself
+  request.fMask = SEE_MASK_FLAG_NO_UI;  // the program itself reports a failure
   request.hwnd = owner;
   request.lpVerb = L"open";
   request.lpFile = file.c_str();

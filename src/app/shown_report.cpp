@@ -2,6 +2,12 @@
 
 #include <utility>
 
+#include "reasons/reasons_class_dialog.h"
+#include "reasons/reasons_ids.h"
+#include "reports/round_verification_dialog.h"
+#include "reports/round_verification_ids.h"
+#include "results/custom_report_dialog.h"
+#include "results/custom_report_ids.h"
 #include "session/open_contest.h"
 #include "session/recovery.h"
 #include "text/report_marks.h"
@@ -32,23 +38,49 @@ class KeptBehaviour : public DialogBehaviour {
 
 }  // namespace
 
-void showReport(MainWindow& window, std::optional<std::string> report) {
-  if (!report) return;
-  reportText() = std::move(*report);
+std::optional<ReportRequest> askReasonsClass(MainWindow& window) {
+  ReasonsClassDialog dialog(currentContest());
+  window.runDialog(IDD_REASONS_CLASS, dialog);
+  if (!dialog.chosenClass()) return std::nullopt;
+  ReportRequest request;
+  request.classIndex = dialog.chosenClass();
+  return request;
+}
+
+std::optional<ReportRequest> askRound(MainWindow& window) {
+  RoundVerificationDialog dialog;
+  window.runDialog(IDD_ROUND_VERIFICATION, dialog);
+  return dialog.request();
+}
+
+std::optional<ReportRequest> askCustom(MainWindow& window) {
+  CustomReportDialog dialog;
+  window.runDialog(IDD_CUSTOM_REPORT, dialog);
+  return dialog.request();
+}
+
+void runReport(MainWindow& window, const Report& report) {
+  const auto request = report.ask == nullptr ? ReportRequest{} : report.ask(window);
+  auto text = request ? report.build(currentContest(), *request) : std::nullopt;
+  if (text) reportText() = std::move(*text);
   window.refreshReportView();
 }
 
-int runDialogOverWelcome(MainWindow& window, int resourceId, DialogBehaviour& behaviour) {
+void showReport(MainWindow& window, std::string report) {
+  reportText() = std::move(report);
+  window.refreshReportView();
+}
+
+void runDialogOverWelcome(MainWindow& window, int resourceId, DialogBehaviour& behaviour) {
   showReport(window, kWelcomeText);
-  const int result = window.runDialog(resourceId, behaviour);
+  window.runDialog(resourceId, behaviour);
   window.refreshReportView();
   sayIfWorkIsNotKept(window);
-  return result;
 }
 
-int runSetupOverWelcome(MainWindow& window, int resourceId, DialogBehaviour& behaviour) {
+void runSetupOverWelcome(MainWindow& window, int resourceId, DialogBehaviour& behaviour) {
   KeptBehaviour kept(behaviour);
-  return runDialogOverWelcome(window, resourceId, kept);
+  runDialogOverWelcome(window, resourceId, kept);
 }
 
 }  // namespace scorvane

@@ -1,10 +1,27 @@
 #include "app/window_commands.h"
 
-#include "app/about_dialog.h"
+#include "app/about_ids.h"
 #include "session/open_contest.h"
 #include "text/format.h"
+#include "ui/dialog.h"
 
 namespace scorvane {
+
+namespace {
+
+class AboutDialog : public DialogBehaviour {
+ public:
+  void onOpen(Dialog& dialog) override {
+    dialog.setText(IDC_ABOUT_VERSION, "Version " SCORVANE_VERSION);
+  }
+  void onEvent(Dialog& dialog, ControlId id, ControlEvent event) override {
+    if (event != ControlEvent::clicked) return;
+    if (id == kOkId || id == kCancelId) dialog.end(id);
+  }
+  void onClose(Dialog& dialog) override { dialog.end(kCancelId); }
+};
+
+}  // namespace
 
 void copyReportToClipboard(MainWindow& window) {
   switch (window.copyToClipboard(reportText())) {
@@ -34,7 +51,7 @@ void helpCommand(MainWindow& window) {
 
 void aboutCommand(MainWindow& window) {
   AboutDialog about;
-  window.runDialog(kAboutDialog, about);
+  window.runDialog(IDD_ABOUT, about);
 }
 
 void fontCommand(MainWindow& window) {

@@ -1,6 +1,5 @@
 // scorvane-report: prints any report of a contest file without a window.
 #include <cstdio>
-#include <cstdlib>
 #include <exception>
 #include <string_view>
 #include <vector>
@@ -14,9 +13,8 @@ namespace scorvane {
 namespace {
 
 CliResult answer(const std::vector<std::string_view>& arguments) {
-  const auto parsed = parseOptions(arguments);
-  if (const auto* error = std::get_if<UsageError>(&parsed)) return refuseUsage(*error);
-  const auto& options = std::get<CliOptions>(parsed);
+  CliOptions options;
+  if (const auto refusal = readOptions(arguments, options)) return refuseUsage(*refusal);
   if (options.action == CliOptions::Action::allReports) makeFolder(options.folder);
   return runCli(options, systemFiles());
 }
@@ -34,9 +32,7 @@ int run(const std::vector<std::string_view>& arguments) {
     result.error += "scorvane-report: the report cannot be written to standard output\n";
   }
   std::fputs(result.error.c_str(), stderr);
-  // All is written. The system takes the memory back at once; freeing a large contest piece by
-  // piece would take longer than making the report.
-  std::_Exit(result.status);
+  return result.status;
 }
 
 }  // namespace

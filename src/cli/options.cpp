@@ -1,273 +1,239 @@
 #include "cli/options.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <charconv>
+#include <limits>
+
+#include "cli/suggestion.h"
 
 namespace scorvane {
 
 namespace {
 
 using Action = CliOptions::Action;
-using Arguments = std::span<const std::string_view>;
+using Refusal = std::optional<std::string>;
 
-// Why something cannot be followed; "" when all is well.
-using Fault = std::string;
+// The options of each question, under a heading of their own in the help text.
+struct QuestionGroup {
+  std::optional<ReportRequest> (*ask)(MainWindow& window);
+  const char* heading;
+};
+constexpr std::array kGroups = {
+    QuestionGroup{askReasonsClass, "Reasons Score Sheets, Verify Reasons Scores"},
+    QuestionGroup{askRound, "Round Verification Report"},
+    QuestionGroup{askCustom, "Custom/Category Report"},
+};
 
-std::string quoted(std::string_view text) {
-  std::string words = "'";
-  words += text;
-  words += '\'';
-  return words;
+constexpr const char* kPurpose =
+    "Prints a report of a contest file, byte for byte as the program shows it; several are "
+    "printed\n"
+    "one after the other.";
+constexpr const char* kExitStatus =
+    "Exit status: 0 done; 1 the contest cannot be read, or lacks what the report needs, or the\n"
+    "report cannot be written; 2 wrong usage.";
+
+std::string inQuotes(std::string_view text) {
+  return "'" + std::string(text) + "'";
 }
 
-std::optional<std::int32_t> wholeNumber(std::string_view text, std::int32_t least) {
+bool sameWord(const std::string& a, std::string_view b) {
+  return CLI::detail::to_lower(a) == CLI::detail::to_lower(std::string(b));
+}
+
+std::optional<std::int32_t> wholeNumber(std::string_view text) {
   std::int32_t value = 0;
   const char* end = text.data() + text.size();
   const auto [stop, error] = std::from_chars(text.data(), end, value);
-  if (error != std::errc() || stop != end || value < least) return std::nullopt;
+  if (error != std::errc() || stop != end) return std::nullopt;
   return value;
 }
 
-Fault readNumber(std::string_view text, std::int32_t least, std::optional<std::int32_t>& value) {
-  value = wholeNumber(text, least);
-  if (value) return {};
-  return quoted(text) + " is not a whole number from " + std::to_string(least) + " on";
-}
-
-Fault readClasses(std::string_view list, CliOptions& options) {
-  options.classNumbers.emplace();
-  while (!list.empty()) {
-    const std::size_t comma = std::min(list.find(','), list.size());
-    std::optional<std::int32_t> number;
-    Fault fault = readNumber(list.substr(0, comma), 1, number);
-    if (!fault.empty()) return fault;
-    options.classNumbers->push_back(*number);
-    list.remove_prefix(std::min(comma + 1, list.size()));
+// As the library wants its checks: "" when all is well.
+std::string readKind(const std::string& word, ScoreKind& kind) {
+  for (const ScoreKind known : kScoreKinds) {
+    if (!sameWord(word, scoreKindWord(known))) continue;
+    kind = known;
+    return "";
   }
-  return {};
+  return inQuotes(word) + " is none of overall, placings, reasons and questions";
 }
 
-bool sameWord(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-    return std::tolower(static_cast<unsigned char>(x)) ==
-           std::tolower(static_cast<unsigned char>(y));
-  });
+std::string readNumber(const std::string& text, CliOptions& options) {
+  const bool percent = text.ends_with('%');
+  options.number = wholeNumber(std::string_view(text).substr(0, text.size() - (percent ? 1 : 0)));
+  if (percent) options.request.percent = true;
+  if (options.number && *options.number >= 0) return "";
+  return inQuotes(text) + " is neither a number of rows, such as 10, nor a percentage, such as 25%";
 }
 
-Fault readKind(std::string_view word, CliOptions& options) {
-  for (const ScoreKind kind : kScoreKinds) {
-    if (!sameWord(word, scoreKindWord(kind))) continue;
-    options.kind = kind;
-    return {};
-  }
-  return quoted(word) + " is no kind of score: overall, placings, reasons or questions";
-}
-
-// The options, in the order of the usage text.
-struct OptionRule {
-  std::string_view name;
-  bool takesValue;
-  /// The question whose reports take the option; nothing for options of no report.
-  std::optional<ReportQuestion> question;
-  Fault (*read)(std::string_view value, CliOptions& options);
+// What the command line says, before it is held against the reports.
+struct Words {
+  bool list = false;
+  std::vector<std::string> reports;
+  std::optional<std::int32_t> classNumber;
+  std::optional<std::int32_t> round;
+  std::string kind;
+  std::string rows;
 };
 
-constexpr std::array kRules = {
-    OptionRule{"--class", true, ReportQuestion::reasonsClass,
-               [](std::string_view v, CliOptions& o) { return readNumber(v, 1, o.classNumber); }},
-    OptionRule{"--round", true, ReportQuestion::round,
-               [](std::string_view v, CliOptions& o) { return readNumber(v, 1, o.round); }},
-    OptionRule{"--title", true, ReportQuestion::custom,
-               [](std::string_view v, CliOptions& o) { return o.title = v, Fault(); }},
-    OptionRule{"--classes", true, ReportQuestion::custom, readClasses},
-    OptionRule{"--category", true, ReportQuestion::custom,
-               [](std::string_view v, CliOptions& o) { return o.category = v, Fault(); }},
-    OptionRule{"--kind", true, ReportQuestion::custom, readKind},
-    OptionRule{"--number", true, ReportQuestion::custom,
-               [](std::string_view v, CliOptions& o) { return readNumber(v, 0, o.number); }},
-    OptionRule{"--percent", false, ReportQuestion::custom,
-               [](std::string_view, CliOptions& o) { return o.percent = true, Fault(); }},
-    OptionRule{"--team", false, ReportQuestion::custom,
-               [](std::string_view, CliOptions& o) { return o.team = true, Fault(); }},
-    OptionRule{"--all", true, std::nullopt,
-               [](std::string_view v, CliOptions& o) {
-                 o.action = Action::allReports;
-                 o.folder = v;
-                 return Fault(v.empty() ? "--all needs the name of a folder" : "");
-               }},
-};
+void declare(CLI::App& app, CliOptions& o, Words& words) {
+  app.set_version_flag("--version", "scorvane-report " SCORVANE_VERSION, "prints the version");
+  app.set_help_flag("-h,--help", "prints this text");
+  app.add_flag("--list", words.list, "prints number and caption of every report, one a line");
+  app.add_option("CONTEST.scv", o.contest, "the contest file")->type_name("");
+  app.add_option("REPORT", words.reports, "number or caption of a report command")->type_name("");
+  app.add_option("--all", o.folder, "writes every report that asks nothing into DIR, with CR LF")
+      ->type_name("DIR");
 
-// Reads the arguments from left to right into options and the words between them.
-class ArgumentReader {
- public:
-  explicit ArgumentReader(Arguments arguments) : rest_(arguments) {}
+  const CLI::Validator fromOne =
+      CLI::Range(1, std::numeric_limits<std::int32_t>::max()).description("");
+  const auto [sheets, round, custom] = kGroups;
+  app.add_option("--class", words.classNumber, "class number, from 1")
+      ->check(fromOne)
+      ->group(sheets.heading);
+  app.add_option("--round", words.round, "round, from 1")->check(fromOne)->group(round.heading);
 
-  /// "" or what is wrong.
-  Fault readAll() {
-    options_.action = Action::printReports;
-    while (!rest_.empty()) {
-      Fault fault = readNext();
-      if (!fault.empty()) return fault;
-    }
-    return checkWords();
-  }
-  [[nodiscard]] const CliOptions& options() const { return options_; }
-
- private:
-  std::string_view take() {
-    const std::string_view argument = rest_.front();
-    rest_ = rest_.subspan(1);
-    return argument;
-  }
-  Fault readNext();
-  Fault readOption(std::string_view argument);
-  Fault checkWords();
-  Fault findReport(std::string_view word);
-  [[nodiscard]] Fault checkUse() const;
-  [[nodiscard]] bool asks(ReportQuestion question) const;
-  [[nodiscard]] std::string whatIsAskedFor() const;
-
-  Arguments rest_;
-  bool onlyWords_ = false;
-  std::vector<std::string_view> words_;
-  std::vector<const OptionRule*> used_;
-  CliOptions options_;
-};
-
-Fault ArgumentReader::readNext() {
-  const std::string_view argument = take();
-  if (onlyWords_ || argument.size() < 2 || argument.front() != '-') {
-    words_.push_back(argument);
-  } else if (argument == "--") {
-    onlyWords_ = true;
-  } else {
-    return readOption(argument);
-  }
-  return {};
+  const auto add = [&app, group = custom.heading](const char* name, auto& value, const char* help) {
+    return app.add_option(name, value, help)->group(group);
+  };
+  add("--title", o.title, "heading of the report");
+  add("--classes", o.classNumbers, "class numbers to score, such as 1,3,4; none by default")
+      ->delimiter(',')
+      ->allow_extra_args(false)
+      ->check(fromOne);
+  add("--category", o.category, "the classes of this category, and its name as the title");
+  add("--kind", words.kind, "overall (by default), placings, reasons or questions")
+      ->check([&o](const std::string& word) { return readKind(word, o.request.kind); });
+  add("--number", words.rows, "rows to report, such as 10, or 25%; by default as the contest says")
+      ->check([&o](const std::string& text) { return readNumber(text, o); });
+  const auto addFlag = [&app, group = custom.heading](const char* name, bool& flag, const char* h) {
+    app.add_flag(name, flag, h)->disable_flag_override()->group(group);
+  };
+  addFlag("--percent", o.request.percent, "the number is a percentage");
+  addFlag("--team", o.request.team, "teams instead of individuals");
+  app.footer(kExitStatus);
 }
 
-Fault ArgumentReader::readOption(std::string_view argument) {
-  const std::size_t equals = argument.find('=');
-  const std::string_view name = argument.substr(0, equals);
-  const auto* rule = std::find_if(kRules.begin(), kRules.end(),
-                                  [&](const OptionRule& r) { return r.name == name; });
-  if (rule == kRules.end()) return "there is no option " + quoted(name);
-  if (std::find(used_.begin(), used_.end(), rule) != used_.end()) {
-    return std::string(name) + " is given twice";
-  }
-  used_.push_back(rule);
-  if (!rule->takesValue) {
-    if (equals != std::string_view::npos) return std::string(name) + " takes no value";
-    return rule->read({}, options_);
-  }
-  if (equals != std::string_view::npos) {
-    return rule->read(argument.substr(equals + 1), options_);
-  }
-  if (rest_.empty()) return std::string(name) + " needs a value";
-  return rule->read(take(), options_);
+std::string suggested(std::string_view typed, const std::vector<std::string>& names,
+                      const char* otherwise) {
+  const std::string nearest = nearestName(typed, names);
+  return nearest.empty() ? otherwise : "; did you mean " + nearest + "?";
 }
 
-Fault ArgumentReader::checkWords() {
-  if (words_.empty()) return "no contest file is named";
-  options_.contest = words_[0];
-  if (options_.action == Action::allReports) {
-    if (words_.size() > 1) return quoted(words_[1]) + " is too much: --all writes every report";
-    return checkUse();
+Refusal refuseUnknown(const CLI::App& app) {
+  const std::vector<std::string> unknown = app.remaining();
+  std::vector<std::string> names;
+  for (const CLI::Option* option : app.get_options()) {
+    if (!option->get_lnames().empty()) names.push_back(option->get_name());
   }
-  if (words_.size() < 2) return "no report is named";
-  for (std::size_t i = 1; i < words_.size(); ++i) {
-    Fault fault = findReport(words_[i]);
-    if (!fault.empty()) return fault;
-  }
-  return checkUse();
+  const std::string typed = unknown.empty() ? "" : unknown[0].substr(0, unknown[0].find('='));
+  return "there is no option " + inQuotes(typed) + suggested(typed, names, "");
 }
 
-Fault ArgumentReader::findReport(std::string_view word) {
-  const std::optional<std::int32_t> id = wholeNumber(word, 0);
+Refusal findReport(const std::string& word, CliOptions& options) {
+  const std::optional<std::int32_t> id = wholeNumber(word);
+  std::vector<std::string> captions;
   for (const Command& command : commandTable()) {
-    if (command.report == nullptr) continue;
-    if (id ? command.id != *id : !sameWord(command.caption, word)) continue;
-    options_.commands.push_back(&command);
-    return {};
+    if (command.report() == nullptr) continue;
+    captions.push_back(inQuotes(command.caption));
+    if (id ? command.id != *id : !sameWord(word, command.caption)) continue;
+    options.commands.push_back(&command);
+    return std::nullopt;
   }
-  return "there is no report " + quoted(word) + "; --list names all of them";
+  return "there is no report " + inQuotes(word) +
+         suggested(inQuotes(word), captions, "; --list names all of them");
 }
 
 // Options and reports must go together.
-Fault ArgumentReader::checkUse() const {
-  for (const OptionRule* rule : used_) {
-    if (!rule->question || asks(*rule->question)) continue;
-    return std::string(rule->name) + " does not belong to " + whatIsAskedFor();
+Refusal checkUse(const CLI::App& app, const CliOptions& options) {
+  for (const auto& [ask, heading] : kGroups) {
+    const bool asked =
+        std::any_of(options.commands.begin(), options.commands.end(),
+                    [asks = ask](const Command* c) { return c->report()->ask == asks; });
+    for (const CLI::Option* option : app.get_options()) {
+      if (asked || option->count() == 0 || option->get_group() != heading) continue;
+      return option->get_name() + " belongs to " + heading;
+    }
   }
-  for (const Command* command : options_.commands) {
-    const std::string needs = quoted(command->caption) + " needs ";
-    if (command->question == ReportQuestion::reasonsClass && !options_.classNumber) {
+  for (const Command* command : options.commands) {
+    const std::string needs = inQuotes(command->caption) + " needs ";
+    if (command->report()->ask == askReasonsClass && !options.request.classIndex) {
       return needs + "--class";
     }
-    if (command->question == ReportQuestion::round && !options_.round) return needs + "--round";
+    if (command->report()->ask == askRound && !options.request.round) return needs + "--round";
   }
-  return {};
+  return std::nullopt;
 }
 
-bool ArgumentReader::asks(ReportQuestion question) const {
-  return std::any_of(options_.commands.begin(), options_.commands.end(),
-                     [question](const Command* c) { return c->question == question; });
+Refusal checkWords(const CLI::App& app, const Words& words, CliOptions& options) {
+  if (words.list) {
+    options.action = Action::list;
+    return std::nullopt;
+  }
+  if (options.contest.empty()) return "no contest file is named";
+  if (app.count("--all") > 0) {
+    options.action = Action::allReports;
+    if (options.folder.empty()) return "--all needs the name of a folder";
+    if (!words.reports.empty()) {
+      return inQuotes(words.reports[0]) + " is too much: --all writes every report";
+    }
+  } else if (words.reports.empty()) {
+    return "no report is named";
+  }
+  for (const std::string& word : words.reports) {
+    if (auto refusal = findReport(word, options)) return refusal;
+  }
+  if (words.classNumber) options.request.classIndex = *words.classNumber - 1;
+  if (words.round) options.request.round = *words.round - 1;
+  return checkUse(app, options);
 }
 
-std::string ArgumentReader::whatIsAskedFor() const {
-  if (options_.commands.empty()) return "--all";
-  if (options_.commands.size() > 1) return "these reports";
-  return "the report " + quoted(options_.commands[0]->caption);
+// The arguments with "--title=" in two: the library would take the next argument for its value.
+std::vector<std::string> separated(std::span<const std::string_view> arguments) {
+  std::vector<std::string> separate;
+  bool onlyWords = false;
+  for (const std::string_view argument : arguments) {
+    onlyWords = onlyWords || argument == "--";
+    const bool isEmptyValue =
+        !onlyWords && argument.starts_with("--") && argument.find('=') == argument.size() - 1;
+    separate.emplace_back(argument.substr(0, argument.size() - (isEmptyValue ? 1 : 0)));
+    if (isEmptyValue) separate.emplace_back();
+  }
+  return separate;
 }
 
 }  // namespace
 
-std::variant<CliOptions, UsageError> parseOptions(Arguments arguments) {
-  struct Lone {
-    std::string_view name;
-    Action action;
-  };
-  for (const Lone& lone : {Lone{"--help", Action::help}, Lone{"-h", Action::help},
-                           Lone{"--version", Action::version}, Lone{"--list", Action::list}}) {
-    if (arguments.size() != 1 || arguments[0] != lone.name) continue;
-    CliOptions options;
-    options.action = lone.action;
-    return options;
+Refusal readOptions(std::span<const std::string_view> arguments, CliOptions& options) {
+  CLI::App app(kPurpose, "scorvane-report");
+  Words words;
+  declare(app, options, words);
+  std::vector<std::string> reversed = separated(arguments);
+  std::reverse(reversed.begin(), reversed.end());
+  try {
+    app.parse(reversed);
+  } catch (const CLI::CallForHelp&) {
+    options.action = Action::help;
+    return std::nullopt;
+  } catch (const CLI::CallForVersion&) {
+    options.action = Action::version;
+    return std::nullopt;
+  } catch (const CLI::ExtrasError&) {
+    return refuseUnknown(app);
+  } catch (const CLI::ParseError& error) {
+    return error.what();
   }
-  ArgumentReader reader(arguments);
-  Fault fault = reader.readAll();
-  if (!fault.empty()) return UsageError{std::move(fault)};
-  return reader.options();
+  return checkWords(app, words, options);
 }
 
-std::string_view usageText() {
-  return R"(usage: scorvane-report CONTEST.scv REPORT... [options]
-       scorvane-report CONTEST.scv --all DIR
-       scorvane-report --list | --help | --version
-
-Prints a report of a contest file, byte for byte as the program shows it; several are
-printed one after the other. REPORT is the number or the caption of a report command;
---list prints both, one report a line.
-
-  --class N          Reasons Score Sheets, Verify Reasons Scores: class number, from 1
-  --round N          Round Verification Report: round, from 1
-
-  Custom/Category Report:
-  --title TEXT       heading of the report
-  --classes 1,3,4    class numbers to score; none when neither this nor a category is given
-  --category NAME    the classes of this category, and its name as the title
-  --kind KIND        overall (when not given), placings, reasons or questions
-  --number N         rows to report; the contest's own number when not given
-  --percent          the number is a percentage; as the contest says when not given
-  --team             teams instead of individuals
-
-  --all DIR          writes every report that asks nothing as a text file (CR LF) into DIR
-
-Exit status: 0 done; 1 the contest cannot be read, or lacks what the report needs, or
-the report cannot be written; 2 wrong usage.
-)";
+std::string usageText() {
+  CLI::App app(kPurpose, "scorvane-report");
+  CliOptions options;
+  Words words;
+  declare(app, options, words);
+  return app.help();
 }
 
 }  // namespace scorvane

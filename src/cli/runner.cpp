@@ -1,9 +1,11 @@
 #include "cli/runner.h"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 #include <variant>
 
+#include "cli/system.h"
 #include "storage/contest_reader.h"
 #include "storage/safe_save.h"
 #include "text/characters.h"
@@ -15,7 +17,7 @@ namespace {
 using Action = CliOptions::Action;
 
 CliResult failed(const std::string& reason) {
-  return {kFailed, "", "scorvane-report: " + reason + "\n", {}};
+  return {kFailed, "", "scorvane-report: " + reason + "\n"};
 }
 
 const char* reasonOf(ContestFault fault) {
@@ -30,84 +32,79 @@ const char* reasonOf(ContestFault fault) {
   return "it is not a contest file, or is damaged";
 }
 
+// The contest, or why there is none.
 std::variant<Contest, std::string> openContest(const std::string& path, FileSystem& files) {
+  if (const auto file = files.openToRead(path)) {
+    expectMemory(3 * static_cast<std::size_t>(file->size()));  // the bytes, and the contest of them
+  }
   auto loading = loadContestFile(files, path);
   if (auto* loaded = std::get_if<LoadedContest>(&loading)) return std::move(loaded->contest);
   return "cannot read '" + path + "': " + reasonOf(std::get<ContestFault>(loading));
 }
 
-std::string noSuchClass(std::int32_t number, const Contest& contest) {
-  return "there is no class " + std::to_string(number) + "; the contest has " +
-         std::to_string(contest.classes.count());
-}
-
-// "" when the contest has the class, the round and the category that are asked for.
-std::string missingPart(const Contest& contest, const CliOptions& options) {
-  std::vector<std::int32_t> numbers = options.classNumbers.value_or(std::vector<std::int32_t>());
-  if (options.classNumber) numbers.push_back(*options.classNumber);
-  for (const std::int32_t number : numbers) {
-    if (number > contest.classes.count()) return noSuchClass(number, contest);
+// Why the contest cannot follow the options: it lacks the class, round or category asked for.
+std::optional<std::string> missingPart(const Contest& contest, const CliOptions& options) {
+  const std::int32_t classes = contest.classes.count();
+  const auto lacks = [&](const char* what, std::int32_t number) {
+    return std::string("there is no ") + what + " " + std::to_string(number) +
+           "; the contest has " + std::to_string(classes);
+  };
+  for (const std::int32_t number : options.classNumbers) {
+    if (number > classes) return lacks("class", number);
   }
-  if (options.classNumber) {
-    const std::string number = std::to_string(*options.classNumber);
-    if (!contest.classes.hasReasons(*options.classNumber - 1)) {
-      return "class " + number + " has no reasons";
+  const auto& [classIndex, round] = std::tie(options.request.classIndex, options.request.round);
+  if (classIndex) {
+    if (*classIndex >= classes) return lacks("class", *classIndex + 1);
+    if (!contest.classes.hasReasons(*classIndex)) {
+      return "class " + std::to_string(*classIndex + 1) + " has no reasons";
     }
     if (contest.reasonsOrder.empty()) return "the contest has no reasons order";
   }
-  if (options.round && *options.round > contest.classes.count()) {
-    return "there is no round " + std::to_string(*options.round) + "; the contest has " +
-           std::to_string(contest.classes.count());
-  }
+  if (round && *round >= classes) return lacks("round", *round + 1);
   const auto& names = contest.categories;
   if (options.category && std::find(names.begin(), names.end(), *options.category) == names.end()) {
     return "the contest has no category '" + *options.category + "'";
   }
-  return {};
+  return std::nullopt;
 }
 
-std::vector<std::int32_t> classesOf(const Contest& contest, const std::string& category) {
+ClassSet classesOf(const Contest& contest, const std::string& category) {
   const auto& names = contest.categories;
   const auto index = std::find(names.begin(), names.end(), category) - names.begin();
-  std::vector<std::int32_t> classes;
+  ClassSet classes;
   for (std::int32_t k = 0; k < contest.classes.count(); ++k) {
     if (contest.classes.category(k) == index) classes.push_back(k);
   }
   return classes;
 }
 
-// Class indexes as the dialog's list gives them: ascending, each once.
-std::vector<std::int32_t> classIndexes(std::vector<std::int32_t> numbers) {
+// Class indexes as the dialog's list has them: ascending, each once.
+ClassSet classIndexes(std::vector<std::int32_t> numbers) {
   std::sort(numbers.begin(), numbers.end());
   numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
   for (std::int32_t& number : numbers) --number;
   return numbers;
 }
 
+// The options' request with what the contest adds to it.
 ReportRequest requestOf(const Contest& contest, const CliOptions& options) {
-  ReportRequest request;
-  if (options.classNumber) request.classIndex = *options.classNumber - 1;
-  if (options.round) request.round = *options.round - 1;
-  CustomReportRequest& custom = request.custom;
+  ReportRequest request = options.request;
   // A category proposes title and classes, as in the dialog; what is named besides replaces them.
-  if (options.category) custom.classes = classesOf(contest, *options.category);
-  if (options.classNumbers) custom.classes = classIndexes(*options.classNumbers);
-  custom.title = options.title.value_or(options.category.value_or(""));
-  custom.kind = static_cast<int>(options.kind);
-  custom.numToReport = options.number;
-  if (options.percent) custom.percent = true;
-  custom.team = options.team;
+  if (options.category) request.classes = classesOf(contest, *options.category);
+  if (!options.classNumbers.empty()) request.classes = classIndexes(options.classNumbers);
+  request.title = options.title.value_or(options.category.value_or(""));
+  request.numToReport = options.number.value_or(contest.settings.numToReport);
+  if (!options.number && contest.settings.reportPercent) request.percent = true;
   return request;
 }
 
 CliResult printReports(const Contest& contest, const CliOptions& options) {
-  const std::string missing = missingPart(contest, options);
-  if (!missing.empty()) return failed(missing);
+  if (const auto missing = missingPart(contest, options)) return failed(*missing);
   const ReportRequest request = requestOf(contest, options);
   CliResult result;
   for (const Command* command : options.commands) {
     // Whatever a report needs has been looked for by now.
-    result.output += command->report(contest, request).value();
+    result.output += command->report()->build(contest, request).value();
   }
   return result;
 }
@@ -121,11 +118,12 @@ std::string fileNameOf(const Command& command) {
 CliResult writeAllReports(const Contest& contest, const std::string& folder, FileSystem& files) {
   CliResult result;
   for (const Command& command : commandTable()) {
-    if (command.report == nullptr || command.question != ReportQuestion::nothing) continue;
+    const Report* report = command.report();
+    if (report == nullptr || report->ask != nullptr) continue;
     // A report that asks nothing needs nothing.
-    const std::string report = command.report(contest, {}).value();
+    const std::string text = report->build(contest, {}).value();
     const std::string path = folder + "/" + fileNameOf(command);
-    if (!saveSafely(files, path, withWindowsLineEnds(report))) {
+    if (!saveSafely(files, path, withWindowsLineEnds(text))) {
       return failed("cannot write '" + path + "'");
     }
   }
@@ -135,7 +133,7 @@ CliResult writeAllReports(const Contest& contest, const std::string& folder, Fil
 std::string reportList() {
   std::string list;
   for (const Command& command : commandTable()) {
-    if (command.report == nullptr) continue;
+    if (command.report() == nullptr) continue;
     list += std::to_string(command.id) + "\t" + std::string(command.caption) + "\n";
   }
   return list;
@@ -146,28 +144,25 @@ std::string reportList() {
 CliResult runCli(const CliOptions& options, FileSystem& files) {
   switch (options.action) {
     case Action::help:
-      return {0, std::string(usageText()), "", {}};
+      return {0, usageText(), ""};
     case Action::version:
-      return {0, "scorvane-report " SCORVANE_VERSION "\n", "", {}};
+      return {0, "scorvane-report " SCORVANE_VERSION "\n", ""};
     case Action::list:
-      return {0, reportList(), "", {}};
+      return {0, reportList(), ""};
     case Action::printReports:
     case Action::allReports:
       break;
   }
-  auto opened = openContest(options.contest, files);
-  if (const auto* fault = std::get_if<std::string>(&opened)) return failed(*fault);
-  auto& contest = std::get<Contest>(opened);
-  CliResult result = options.action == Action::allReports
-                         ? writeAllReports(contest, options.folder, files)
-                         : printReports(contest, options);
-  result.contest = std::move(contest);
-  return result;
+  const auto opened = openContest(options.contest, files);
+  if (const auto* refusal = std::get_if<std::string>(&opened)) return failed(*refusal);
+  const auto& contest = std::get<Contest>(opened);
+  return options.action == Action::allReports ? writeAllReports(contest, options.folder, files)
+                                              : printReports(contest, options);
 }
 
-CliResult refuseUsage(const UsageError& error) {
-  return {
-      kWrongUsage, "", "scorvane-report: " + error.reason + "\n\n" + std::string(usageText()), {}};
+CliResult refuseUsage(const std::string& reason) {
+  return {kWrongUsage, "",
+          "scorvane-report: " + reason + "\nscorvane-report --help explains everything.\n"};
 }
 
 }  // namespace scorvane

@@ -13,8 +13,6 @@ struct CliResult {
   int status = 0;
   std::string output;
   std::string error;
-  /// What the reports were made of. Handed on so that the program can end without taking it apart.
-  Contest contest;
 };
 
 inline constexpr int kFailed = 1;
@@ -24,7 +22,7 @@ inline constexpr int kWrongUsage = 2;
 /// --all must exist.
 [[nodiscard]] CliResult runCli(const CliOptions& options, FileSystem& files);
 
-/// What a wrong command line comes to.
-[[nodiscard]] CliResult refuseUsage(const UsageError& error);
+/// What a command line that cannot be followed comes to.
+[[nodiscard]] CliResult refuseUsage(const std::string& reason);
 
 }  // namespace scorvane

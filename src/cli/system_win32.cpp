@@ -12,6 +12,8 @@ void makeStandardOutputBinary() {
   _setmode(_fileno(stdout), _O_BINARY);
 }
 
+void expectMemory(std::size_t /*bytes*/) {}
+
 void makeFolder(const std::string& path) {
   CreateDirectoryA(path.c_str(), nullptr);
 }

@@ -11,9 +11,9 @@ namespace scorvane {
 
 namespace {
 
-std::vector<ListLine> linesOfClasses(const JudgingClasses& classes, ScoreKind kind) {
-  const std::vector<std::int32_t> listed = kind == ScoreKind::placings  ? allClasses(classes)
-                                           : kind == ScoreKind::reasons ? reasonsClasses(classes)
+std::vector<ListLine> linesOfClasses(const JudgingClasses& classes, EntryKind kind) {
+  const std::vector<std::int32_t> listed = kind == EntryKind::placings  ? allClasses(classes)
+                                           : kind == EntryKind::reasons ? reasonsClasses(classes)
                                                                         : questionsClasses(classes);
   std::vector<ListLine> lines;
   lines.reserve(listed.size());
@@ -52,11 +52,11 @@ std::optional<std::string> readNumber(std::optional<std::uint32_t> number, const
 std::optional<std::string> readScore(const Dialog& dialog, const GroupEntry& entry,
                                      TypedScores& typed) {
   switch (entry.kind) {
-    case ScoreKind::reasons:
+    case EntryKind::reasons:
       return readNumber(dialog.number(entry.field), "Reasons", typed.reasons);
-    case ScoreKind::questions:
+    case EntryKind::questions:
       return readNumber(dialog.number(entry.field), "Questions", typed.questions);
-    case ScoreKind::placings:
+    case EntryKind::placings:
       break;
   }
   return readLetter(dialog.text(entry.field), typed.letter);
@@ -66,7 +66,7 @@ std::optional<std::string> readScore(const Dialog& dialog, const GroupEntry& ent
 
 void GroupEntryDialog::onOpen(Dialog& dialog) {
   dialog.setLines(IDC_ENTRY_CLASS, linesOfClasses(contest_.classes, entry_.kind));
-  dialog.setLines(IDC_ENTRY_GROUP, entry_.kind == ScoreKind::reasons
+  dialog.setLines(IDC_ENTRY_GROUP, entry_.kind == EntryKind::reasons
                                        ? linesOfReasonsGroups(contest_.reasonsOrder.columnCount())
                                        : linesOfGroups(contest_.groupLetters));
   dialog.focus(entry_.field);
@@ -86,7 +86,7 @@ void GroupEntryDialog::onClose(Dialog& dialog) {
 }
 
 void GroupEntryDialog::startGroup(Dialog& dialog) {
-  const bool isReasons = entry_.kind == ScoreKind::reasons;
+  const bool isReasons = entry_.kind == EntryKind::reasons;
   const std::vector<ContestantNumber> cards =
       isReasons ? speakersUpToHole(contest_.reasonsOrder, *group_)
                 : groupMembers(contest_, static_cast<char>(*group_));
@@ -139,7 +139,7 @@ std::optional<std::string> GroupEntryDialog::missingChoice() const {
 bool GroupEntryDialog::enterCard(Dialog& dialog) {
   TypedScores typed;
   if (const auto refusal = readScore(dialog, entry_, typed)) {
-    dialog.show(*refusal, entry_.kind == ScoreKind::placings ? "Warning" : "Error");
+    dialog.show(*refusal, entry_.kind == EntryKind::placings ? "Warning" : "Error");
     dialog.setText(entry_.field, "");
     return false;
   }

@@ -19,7 +19,7 @@ namespace scorvane {
 /// What one of the dialogs enters, and what sets it apart from the others.
 struct GroupEntry {
   int resource;
-  ScoreKind kind;
+  EntryKind kind;
   ScoreField score;          ///< other than 0 counts as entered
   const char* scoresName;    ///< what the question to enter again calls the scores
   const char* groupName;     ///< what messages call a group
@@ -30,7 +30,7 @@ struct GroupEntry {
 
 // Odd but required, docs/required-behaviour.md: escape-saves-placings
 inline constexpr GroupEntry kPlacingsEntry = {.resource = IDD_ENTRY_PLACINGS,
-                                              .kind = ScoreKind::placings,
+                                              .kind = EntryKind::placings,
                                               .score = &ScoreRecord::placingScore,
                                               .scoresName = "placings",
                                               .groupName = "group",
@@ -38,7 +38,7 @@ inline constexpr GroupEntry kPlacingsEntry = {.resource = IDD_ENTRY_PLACINGS,
                                               .noContestant = "Error:  no member number available.",
                                               .escape = Escape::saves};
 inline constexpr GroupEntry kReasonsEntry = {.resource = IDD_ENTRY_REASONS,
-                                             .kind = ScoreKind::reasons,
+                                             .kind = EntryKind::reasons,
                                              .score = &ScoreRecord::reasonsScore,
                                              .scoresName = "reasons",
                                              .groupName = "reasons group",
@@ -47,7 +47,7 @@ inline constexpr GroupEntry kReasonsEntry = {.resource = IDD_ENTRY_REASONS,
                                              .escape = Escape::leavesFile};
 inline constexpr GroupEntry kQuestionsEntry = {
     .resource = IDD_ENTRY_QUESTIONS,
-    .kind = ScoreKind::questions,
+    .kind = EntryKind::questions,
     .score = &ScoreRecord::questionsScore,
     .scoresName = "questions",
     .groupName = "group",

@@ -22,19 +22,19 @@ void showScoreOrDashes(Dialog& dialog, ControlId id, bool carried, std::int32_t 
 }  // namespace
 
 void showLastScore(Dialog& dialog, const Contest& contest, ContestantNumber number,
-                   std::int32_t classIndex, ScoreKind kind) {
+                   std::int32_t classIndex, EntryKind kind) {
   const JudgingClasses& classes = contest.classes;
   const ScoreRecord& record = scoreRecord(contest, number, classIndex);
   dialog.setNumber(IDC_LAST_CONTESTANT, number);
   switch (kind) {
-    case ScoreKind::placings:
+    case EntryKind::placings:
       showPlacing(dialog, record, classes.official(classIndex), classes.cuts(classIndex));
       break;
-    case ScoreKind::reasons:
+    case EntryKind::reasons:
       showScoreOrDashes(dialog, IDC_LAST_REASONS, classes.hasReasons(classIndex),
                         record.reasonsScore);
       break;
-    case ScoreKind::questions:
+    case EntryKind::questions:
       showScoreOrDashes(dialog, IDC_LAST_QUESTIONS, classes.hasQuestions(classIndex),
                         record.questionsScore);
       break;

@@ -75,7 +75,7 @@ std::optional<ContestantNumber> typedContestant(const Dialog& dialog) {
 
 void showLastScores(Dialog& dialog, const Contest& contest, ContestantNumber number,
                     std::int32_t classIndex) {
-  for (const ScoreKind kind : {ScoreKind::placings, ScoreKind::reasons, ScoreKind::questions}) {
+  for (const EntryKind kind : {EntryKind::placings, EntryKind::reasons, EntryKind::questions}) {
     showLastScore(dialog, contest, number, classIndex, kind);
   }
 }

@@ -9,7 +9,7 @@
 
 namespace scorvane {
 
-enum class ScoreKind { placings, reasons, questions };
+enum class EntryKind { placings, reasons, questions };
 
 /// Highest reasons or questions score.
 inline constexpr std::int32_t kTopNumberScore = 50;

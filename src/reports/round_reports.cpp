@@ -12,7 +12,7 @@ namespace scorvane {
 
 namespace {
 
-// With more groups than classes, one line that says so: the other groups stand nowhere.
+// With more groups than classes, one line that says so: the other groups judge nowhere.
 void appendIdleGroups(std::string& out, const Contest& contest, const char* consequence) {
   const Rotation rotation = rotationOf(contest);
   const std::int32_t groups = letteredGroups(contest.settings.numGroups);
@@ -160,7 +160,7 @@ std::string roundVerificationReport(const Contest& contest, std::int32_t round) 
       return;
     }
     const char group = groupOfContestant(contest, number);
-    // A group that judges nothing in the round deliberately shows its letters of the first class.
+    // Odd but required, docs/required-behaviour.md: idle-group-shows-first-class
     const std::int32_t classIndex = rotation.classOf(group, round).value_or(0);
     appendFormat(out, "  %4d-%c |", number, scoreRecord(contest, number, classIndex).letter);
   });

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "model/class_lists.h"
-#include "reports/round_reports.h"
+#include "reports/round_verification_ids.h"
 #include "session/open_contest.h"
 #include "text/format.h"
 
@@ -14,28 +14,29 @@ RoundVerificationDialog::RoundVerificationDialog() : rotation_(rotationOf(curren
 
 void RoundVerificationDialog::onOpen(Dialog& dialog) {
   const Contest& contest = currentContest();
-  rotation_ = rotationOf(contest);
   std::vector<std::string> rounds;
-  std::vector<std::string> groups;
+  std::vector<ListLine> groups;
   for (std::int32_t k = 0; k < contest.classes.count(); ++k) {
     rounds.push_back(formatText("%10d", k + 1));
   }
-  for (const char letter : contest.groupLetters) groups.push_back(formatText("%8c", letter));
-  dialog.setLines(kRounds, rounds);
-  dialog.setLines(kGroups, groups);
-  dialog.setLines(kClasses, classLines(contest.classes, allClasses(contest.classes)));
+  for (const char letter : contest.groupLetters) {
+    groups.push_back({formatText("%8c", letter), std::string(1, letter)});
+  }
+  dialog.setLines(IDC_VERIFIED_ROUNDS, rounds);
+  dialog.setLines(IDC_VERIFIED_GROUPS, groups);
+  dialog.setLines(IDC_VERIFIED_CLASSES, classLines(contest.classes, allClasses(contest.classes)));
 }
 
 void RoundVerificationDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
   if (event == ControlEvent::selectionChanged) {
-    if (id == kRounds) {
-      dialog.select(kGroups, std::nullopt);
-      dialog.select(kClasses, std::nullopt);
+    if (id == IDC_VERIFIED_ROUNDS) {
+      dialog.select(IDC_VERIFIED_GROUPS, std::nullopt);
+      dialog.select(IDC_VERIFIED_CLASSES, std::nullopt);
     } else {
       selectRoundOfGroupAndClass(dialog);
     }
   } else if (event == ControlEvent::clicked) {
-    if (id == kOkId) makeReport(dialog);
+    if (id == kOkId) choose(dialog);
     if (id == kCancelId) dialog.end(kCancelId);
   }
 }
@@ -46,25 +47,22 @@ void RoundVerificationDialog::onClose(Dialog& dialog) {
 
 // A group that never judges the class leaves no round selected.
 void RoundVerificationDialog::selectRoundOfGroupAndClass(Dialog& dialog) const {
-  dialog.select(kRounds, std::nullopt);
-  const auto group = dialog.selection(kGroups);
-  const auto classIndex = dialog.selection(kClasses);
+  dialog.select(IDC_VERIFIED_ROUNDS, std::nullopt);
+  const auto group = dialog.selectedText(IDC_VERIFIED_GROUPS);
+  const auto classIndex = dialog.selectedNumber(IDC_VERIFIED_CLASSES);
   if (!group || !classIndex) return;
-  const std::vector<char>& letters = currentContest().groupLetters;
-  const auto groupIndex = static_cast<std::size_t>(*group);
-  if (groupIndex >= letters.size()) return;
-  const std::int32_t round = rotation_.roundOf(letters[groupIndex], *classIndex);
-  if (round < rotation_.rounds()) dialog.select(kRounds, round);
+  const std::int32_t round = rotation_.roundOf(group->front(), *classIndex);
+  if (round < rotation_.rounds()) dialog.select(IDC_VERIFIED_ROUNDS, round);
 }
 
-void RoundVerificationDialog::makeReport(Dialog& dialog) {
-  const auto round = dialog.selection(kRounds);
+void RoundVerificationDialog::choose(Dialog& dialog) {
+  const auto round = dialog.selectedNumber(IDC_VERIFIED_ROUNDS);
   if (!round) {
     dialog.show("You must select either a round number or a group and class to report on.",
                 "Information");
     return;
   }
-  reportText() = roundVerificationReport(currentContest(), *round);
+  request_.emplace().round = round;
   dialog.end(kOkId);
 }
 

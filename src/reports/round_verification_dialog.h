@@ -1,22 +1,22 @@
 // The dialog that asks which round is to be verified.
 #pragma once
 
+#include <optional>
+
 #include "model/group_rotation.h"
+#include "session/report_request.h"
 #include "ui/dialog.h"
 
 namespace scorvane {
 
-/// Asks for a round, or for a group and a class that identify it, and makes the Round Verification
-/// Report of the current contest. Ends with 1 when the report was made, 2 on Cancel, 0 from the
-/// close box.
+/// Asks for a round of the current contest, or for a group and a class that identify it. Ends with
+/// 1 on OK, 2 on Cancel, 0 from the close box.
 class RoundVerificationDialog : public DialogBehaviour {
  public:
-  static constexpr int kResourceId = 164;
-  static constexpr ControlId kRounds = 1080;
-  static constexpr ControlId kGroups = 1053;
-  static constexpr ControlId kClasses = 1016;
-
   RoundVerificationDialog();
+
+  /// What was asked for with OK; nothing when the dialog was cancelled.
+  [[nodiscard]] const std::optional<ReportRequest>& request() const { return request_; }
 
   void onOpen(Dialog& dialog) override;
   void onEvent(Dialog& dialog, ControlId id, ControlEvent event) override;
@@ -24,9 +24,10 @@ class RoundVerificationDialog : public DialogBehaviour {
 
  private:
   void selectRoundOfGroupAndClass(Dialog& dialog) const;
-  static void makeReport(Dialog& dialog);
+  void choose(Dialog& dialog);
 
   Rotation rotation_;
+  std::optional<ReportRequest> request_;
 };
 
 }  // namespace scorvane

@@ -3,48 +3,46 @@
 #include <algorithm>
 #include <limits>
 
-#include "results/custom_report.h"
+#include "results/custom_report_ids.h"
 #include "session/open_contest.h"
 
 namespace scorvane {
 
 namespace {
 
-using Custom = CustomReportDialog;
-
 void proposeCategory(Dialog& dialog) {
-  const std::optional<int> category = dialog.selection(Custom::kCategory);
+  const std::optional<int> category = dialog.selection(IDC_CUSTOM_CATEGORY);
   if (!category) return;
   const Contest& contest = currentContest();
-  dialog.setText(Custom::kTitle, categoryName(contest, *category));
+  dialog.setText(IDC_CUSTOM_TITLE, categoryName(contest, *category));
   for (std::int32_t k = 0; k < contest.classes.count(); ++k) {
-    dialog.setSelected(Custom::kClasses, k, contest.classes.category(k) == *category);
+    dialog.setSelected(IDC_CUSTOM_CLASSES, k, contest.classes.category(k) == *category);
   }
 }
 
 ScoreKind kindTicked(const Dialog& dialog) {
-  if (dialog.isChecked(Custom::kOverall)) return ScoreKind::overall;
-  if (dialog.isChecked(Custom::kPlacings)) return ScoreKind::placings;
-  if (dialog.isChecked(Custom::kReasons)) return ScoreKind::reasons;
+  if (dialog.isChecked(IDC_CUSTOM_OVERALL)) return ScoreKind::overall;
+  if (dialog.isChecked(IDC_CUSTOM_PLACINGS)) return ScoreKind::placings;
+  if (dialog.isChecked(IDC_CUSTOM_REASONS)) return ScoreKind::reasons;
   return ScoreKind::questions;
 }
 
 // An empty field counts as 0; a number beyond every contest lists everybody.
 std::int32_t numberTyped(const Dialog& dialog) {
   constexpr std::uint32_t most = std::numeric_limits<std::int32_t>::max();
-  return static_cast<std::int32_t>(std::min(dialog.number(Custom::kNumber).value_or(0), most));
+  return static_cast<std::int32_t>(std::min(dialog.number(IDC_CUSTOM_NUMBER).value_or(0), most));
 }
 
-void makeReport(Dialog& dialog) {
-  HighReportRequest request;
-  request.title = dialog.text(Custom::kTitle);
+ReportRequest requestIn(const Dialog& dialog) {
+  ReportRequest request;
+  request.title = dialog.text(IDC_CUSTOM_TITLE);
   request.numToReport = numberTyped(dialog);
-  request.percent = dialog.isChecked(Custom::kPercent);
-  const std::vector<int> lines = dialog.selections(Custom::kClasses);
+  request.percent = dialog.isChecked(IDC_CUSTOM_PERCENT);
+  const std::vector<int> lines = dialog.selections(IDC_CUSTOM_CLASSES);
   request.classes.assign(lines.begin(), lines.end());
   request.kind = kindTicked(dialog);
-  reportText() = customReport(currentContest(), request, dialog.isChecked(Custom::kTeam));
-  dialog.end(kOkId);
+  request.team = dialog.isChecked(IDC_CUSTOM_TEAM);
+  return request;
 }
 
 }  // namespace
@@ -52,20 +50,24 @@ void makeReport(Dialog& dialog) {
 void CustomReportDialog::onOpen(Dialog& dialog) {
   Contest& contest = currentContest();
   if (contest.categories.empty()) contest.categories.emplace_back(kNoCategory);
-  dialog.setLines(kCategory, contest.categories);
-  dialog.setNumber(kNumber, contest.settings.numToReport);
-  dialog.setChecked(kPercent, contest.settings.reportPercent);
-  dialog.setChecked(kOverall, true);
-  for (const ControlId other : {kPlacings, kReasons, kQuestions, kTeam}) {
+  dialog.setLines(IDC_CUSTOM_CATEGORY, contest.categories);
+  dialog.setNumber(IDC_CUSTOM_NUMBER, contest.settings.numToReport);
+  dialog.setChecked(IDC_CUSTOM_PERCENT, contest.settings.reportPercent);
+  dialog.setChecked(IDC_CUSTOM_OVERALL, true);
+  for (const ControlId other :
+       {IDC_CUSTOM_PLACINGS, IDC_CUSTOM_REASONS, IDC_CUSTOM_QUESTIONS, IDC_CUSTOM_TEAM}) {
     dialog.setChecked(other, false);
   }
-  dialog.setLines(kClasses, contest.classes.className);
+  dialog.setLines(IDC_CUSTOM_CLASSES, contest.classes.className);
 }
 
 void CustomReportDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
-  if (event == ControlEvent::selectionChanged && id == kCategory) proposeCategory(dialog);
+  if (event == ControlEvent::selectionChanged && id == IDC_CUSTOM_CATEGORY) proposeCategory(dialog);
   if (event != ControlEvent::clicked) return;
-  if (id == kOkId) makeReport(dialog);
+  if (id == kOkId) {
+    request_ = requestIn(dialog);
+    dialog.end(kOkId);
+  }
   if (id == kCancelId) dialog.end(kCancelId);
 }
 

@@ -1,13 +1,29 @@
-// Ranking of teams.
+// Which members of a team count, and the ranking of teams.
 #pragma once
 
+#include <cstdint>
 #include <map>
+#include <span>
 #include <string>
 #include <vector>
 
-#include "results/tie_breakers.h"
+#include "results/individual_ranking.h"
 
 namespace scorvane {
+
+/// Slots of regular members that a team really has: numPerTeam of them, but no more than it has
+/// members, and none when numPerTeam is below 0. Later slots hold alternates, who never count.
+[[nodiscard]] std::size_t regularSlots(const ContestSettings& settings, const Team& team);
+
+/// Chooses the members whose scores make up a team's total: the numToScore best.
+///
+/// `scores` holds the score of each regular slot; slots below numPerTeam that the team does not
+/// have count as members with 0. `counting` becomes the slots that count, best first. With
+/// numToScore below 1, or above numPerTeam, nobody counts and every total is 0
+/// (odd but required, docs/required-behaviour.md: too-many-to-score). Among equal scores the one
+/// that the exchanges of the sort leave first counts first.
+void chooseCountingSlots(const ContestSettings& settings, std::span<const std::int32_t> scores,
+                         std::vector<std::size_t>& counting);
 
 struct TeamRankEntry {
   std::map<std::string, Team>::const_iterator team;  ///< into the contest that was ranked

@@ -1,19 +1,34 @@
 // The three orderings of the rankings, and which of their tie-breaking values a report shows.
 //
 // A ranking compares the score first and then the ordering's further values. Entries equal in all
-// of them are a true tie: there is deliberately no last resort, neither number nor name. std::sort
-// then leaves them in an order of its own, always the same one for the same contest.
+// of them are a true tie: neither number nor name decides it. std::sort then leaves them in an
+// order of its own, always the same one for the same contest
+// (odd but required, docs/required-behaviour.md: true-ties-in-any-order).
 #pragma once
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
 #include <span>
+#include <string>
 #include <vector>
 
-#include "results/contestant_totals.h"
+#include "model/contest.h"
+#include "session/report_request.h"
 
 namespace scorvane {
+
+/// Sums of scores. They count modulo 2^32, so that absurd scores of a damaged file cannot do harm.
+struct RankValues {
+  std::int32_t score = 0;                 ///< the kind's scores over the class set
+  std::int32_t totalReasons = 0;          ///< reasons scores of all classes with reasons
+  std::int32_t reasonsClassPlacings = 0;  ///< placing scores of all classes with reasons; when
+                                          ///< questions are ranked, of all with questions
+  std::int32_t totalOverall = 0;          ///< all three scores over all classes
+  std::int32_t setReasons = 0;            ///< reasons scores over the class set; when questions
+                                          ///< are ranked, questions scores
+  friend bool operator==(const RankValues&, const RankValues&) = default;
+};
 
 enum class TieOrder { overall, reasons, category };
 
@@ -37,18 +52,6 @@ inline constexpr std::array kReasonsFields = {RankField{&RankValues::score},
 inline constexpr std::array kCategoryFields = {
     RankField{&RankValues::score}, RankField{&RankValues::setReasons},
     RankField{&RankValues::totalReasons}, RankField{&RankValues::totalOverall}};
-
-[[nodiscard]] constexpr std::span<const RankField> rankFields(TieOrder order) {
-  switch (order) {
-    case TieOrder::reasons:
-      return kReasonsFields;
-    case TieOrder::category:
-      return kCategoryFields;
-    case TieOrder::overall:
-      break;
-  }
-  return kOverallFields;
-}
 
 /// Whether `a` ranks before `b`; a strict ordering.
 template <typename Fields>
@@ -77,6 +80,7 @@ void sortByRank(std::vector<Entry>& entries, TieOrder order) {
 
 /// The tie-breaking values that a row of a results report shows, in order.
 struct TieColumns {
+  TieOrder order = TieOrder::overall;
   std::array<std::int32_t, 3> values{};
   int count = 0;
 };
@@ -86,5 +90,9 @@ struct TieColumns {
 /// that is equal too. The ends of the list are compared with zeros.
 [[nodiscard]] TieColumns tieColumns(TieOrder order, const RankValues& row,
                                     const RankValues& previous, const RankValues& next);
+
+/// The rules in plain words for the officials, the same for every contest. To be changed together
+/// with the orderings.
+[[nodiscard]] std::string tieBreakerReport();
 
 }  // namespace scorvane

@@ -137,7 +137,7 @@ std::string SummaryLayout::makeHeading(const Band& band) const {
   for (const PlacedBlock& block : band.blocks) {
     const std::string_view title = std::string_view(block.content->title).substr(0, kLongestTitle);
     titles += kBar;
-    // A class number stands over the placing scores.
+    // A class number is right over the placing scores.
     const std::size_t left =
         isClass(*block.content) ? block.padding + block.columnWidths.front() : title.size();
     appendRight(titles, title, left);

@@ -1,4 +1,4 @@
-// Where the columns of the Total Summary Report stand.
+// Where the columns of the Total Summary Report are.
 //
 // A line begins with number and name of a contestant, and each block of columns follows behind a
 // bar. A column is as wide as its heading or its widest number, a block as wide as its columns, or

@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "results/score_statistics.h"
 #include "results/total_summary_layout.h"
 #include "text/format.h"
 

@@ -22,7 +22,7 @@
 // A printed page repeats the first four lines. Teams come in name order, each with its own
 // headings, so that every page and every screen can be read by itself. Lines stay within 132
 // characters: what does not fit goes to further bands of columns below, each with the names again.
-// Behind the teams, contestants without a team are listed, and at the end stand the average score
+// Behind the teams, contestants without a team are listed, and at the end come the average score
 // and the percentages of contestants who reached 50, 45 and 40, for each score of each class. They
 // count everybody listed.
 #pragma once
@@ -34,7 +34,7 @@
 namespace scorvane {
 
 /// Every total is the one that the High Individual and High Team reports, or a custom report of a
-/// category, rank by. A damaged contest of far too many lines gives a report that only says so.
+/// category, rank by. A damaged contest of far too many lines makes a report that only says so.
 [[nodiscard]] std::string totalSummaryReport(const Contest& contest);
 
 }  // namespace scorvane

@@ -1,4 +1,5 @@
-// Everything the Total Summary Report shows, as numbers.
+// Everything the Total Summary Report shows, as numbers: its columns, its lines, and how well each
+// column was judged on the whole.
 #pragma once
 
 #include <cstdint>
@@ -7,9 +8,52 @@
 #include <string>
 #include <vector>
 
-#include "results/total_summary_columns.h"
+#include "model/contest.h"
 
 namespace scorvane {
+
+/// Neighbouring columns under one title: a class, a category's totals, or the overall totals.
+struct SummaryBlock {
+  enum class Kind { judgingClass, category, overall };
+  Kind kind = Kind::judgingClass;
+  std::string title;  ///< class number, category name or "All Classes"
+  std::size_t firstColumn = 0;
+  std::vector<const char*> headings;  ///< one per column: "PLC", "RSN", "QUE", "Total", "Overall"
+};
+
+/// A class has a column for its placing score and, if it has them, its reasons and questions
+/// scores. A category that has classes follows with the kinds of its classes and a total of all
+/// kinds; a class without a category of its own counts for the first one. The last block holds
+/// the contest's totals. Every column is a sum that the results reports rank by: of one kind, over
+/// one class, the classes of one category, or all classes.
+class SummaryColumns {
+ public:
+  explicit SummaryColumns(const Contest& contest);
+
+  [[nodiscard]] const std::vector<SummaryBlock>& blocks() const { return blocks_; }
+  [[nodiscard]] std::size_t count() const { return count_; }
+  /// Adds a contestant's scores to `row`, which has count() cells. Sums count modulo 2^32.
+  void addUp(const ClassScores& records, std::span<std::int32_t> row) const;
+
+ private:
+  // The columns that a class's scores go into.
+  struct Targets {
+    std::size_t placing = 0, reasons = 0, questions = 0;
+    std::size_t categoryPlacing = 0, categoryReasons = 0, categoryQuestions = 0;
+    std::size_t categoryTotal = 0;
+  };
+
+  SummaryBlock& addBlock(SummaryBlock::Kind kind, const std::string& title);
+  std::size_t addColumn(SummaryBlock& block, const char* heading);
+  void addClassBlocks(const JudgingClasses& classes);
+  void addCategoryBlock(const Contest& contest, std::size_t category,
+                        const std::vector<std::int32_t>& members);
+
+  std::vector<SummaryBlock> blocks_;
+  std::vector<Targets> targets_;  ///< by class index
+  std::size_t count_ = 0;
+  std::size_t overall_ = 0;  ///< first of the four overall columns
+};
 
 /// A named contestant's line.
 struct SummaryRow {
@@ -60,5 +104,20 @@ class SummaryTable {
   std::vector<SummaryRow> rows_;
   std::vector<std::int32_t> cells_;
 };
+
+/// Sums over one score of everybody; only those who reach a mark are counted for it.
+struct ScoreStatistics {
+  std::int64_t contestants = 0;
+  std::int64_t sum = 0;
+  std::int64_t at50 = 0;
+  std::int64_t from45 = 0;
+  std::int64_t from40 = 0;
+
+  void add(std::int32_t score);
+};
+
+/// sum / count in two digits: 1 is added when the first decimal is 5 or more, the rest
+/// is cut off, and 100 or more shows as 99. 0 when there is nobody.
+[[nodiscard]] std::int64_t roundedToTwoDigits(std::int64_t sum, std::int64_t count);
 
 }  // namespace scorvane

@@ -101,7 +101,7 @@ LRESULT CALLBACK linkedListProcedure(HWND list, UINT message, WPARAM wParam, LPA
     case WM_LBUTTONDOWN:
     case WM_LBUTTONUP:
     case WM_MOUSEMOVE:
-    case WM_TIMER:
+    case kListTimer:
       dialog->linkedListMoved(list);
       break;
     default:

@@ -6,7 +6,7 @@
 #include "app/command_table.h"
 #include "reasons/reasons_ids.h"
 #include "reasons/reasons_order_generation.h"
-#include "reports/round_verification_dialog.h"
+#include "reports/round_verification_ids.h"
 #include "session/contest_file.h"
 #include "session/open_contest.h"
 #include "tests/app/memory_main_window.h"
@@ -22,8 +22,8 @@ constexpr int kHelp = 32857, kFont = 32809, kAbout = 104;
 
 // Chooses what a dialog must be told, and presses Enter.
 void operate(MemoryDialog& dialog) {
-  for (const ControlId list : {RoundVerificationDialog::kRounds, IDC_REASONS_CLASSES,
-                               IDC_REASONS_GROUPS, IDC_UNASSIGNED_SPEAKERS}) {
+  for (const ControlId list :
+       {IDC_VERIFIED_ROUNDS, IDC_REASONS_CLASSES, IDC_REASONS_GROUPS, IDC_UNASSIGNED_SPEAKERS}) {
     if (dialog.controls().contains(list)) dialog.choose(list, 1);
   }
   dialog.pressEnter();
@@ -68,8 +68,7 @@ TEST_F(Commands, SayWhatIsInTheirWay) {
   window.manualOpens = false;
   run(kHelp);
   window.font = FontFields{};
-  window.font->height = -13;
-  window.font->faceName = "Consolas";
+  *window.font = {-13, 2, 30, 40, 700, 1, 2, 3, 4, 5, 6, 7, 8, "Consolas"};
   run(kFont);
 
   const Contest before = currentContest();

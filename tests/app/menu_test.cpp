@@ -1,4 +1,4 @@
-// The resource scripts' menu and accelerators against the command table.
+// The resource scripts' menu, accelerators and mnemonics, against the command table and each other.
 #include <gtest/gtest.h>
 
 #include <regex>
@@ -6,6 +6,7 @@
 
 #include "app/command_table.h"
 #include "tests/support/approved.h"
+#include "tests/ui/dialog_template.h"
 
 namespace scorvane {
 
@@ -49,6 +50,20 @@ TEST(Menu, HasTheKeysOfAbout) {
     keys += it->str() + "\n";
   }
   EXPECT_EQ(keys, "\"?\", 104, ASCII\n\"/\", 104, ASCII\n");
+}
+
+// A letter pressed with Alt leads to one control only.
+TEST(Dialogs, HaveMnemonicsOfTheirOwn) {
+  EXPECT_FALSE(dialogTemplates().empty());
+  for (const auto& [name, dialog] : dialogTemplates()) {
+    std::set<int> letters;
+    for (const TemplateControl& control : dialog.controls) {
+      const std::size_t mark = control.caption.find('&');
+      if (mark == std::string::npos) continue;
+      EXPECT_TRUE(letters.insert(std::toupper(control.caption[mark + 1])).second)
+          << name << ": " << control.caption;
+    }
+  }
 }
 
 }  // namespace

@@ -11,6 +11,7 @@ from desktop_case import NATIVE, Desktop, DesktopTest, Lettering, Screen, wait_f
 HIGH_TEAM, CONTESTANTS, GROUP_ASSIGNMENTS, SETUP_CLASSES = 32801, 32853, 32838, 32788
 LISTS = (1016, 1017, 1018, 1019, 1071)  # of Setup Classes; only the last has a scroll bar
 LEFT, WHEEL_UP, WHEEL_DOWN = 1, 4, 5
+WM_MOUSEWHEEL, LB_GETTOPINDEX = 0x020A, 0x018E
 THICKNESS = 17  # of scroll bars, and the length of their arrows
 
 
@@ -74,16 +75,14 @@ class PaintingTest(DesktopTest):
         self.main.command(command)
 
     def show_first_report(self, contest):
-        """Starts the program, with scroll bars without thumbs, and learns the letters of its first report."""
+        """Starts the program and learns its letters from the first report."""
         self.contest = contest
         self.main = self.start(self.contest).main()
         wait_for(lambda: self.start_up_picture() == [(50, 690), (50, 450)], "the start-up picture")
-        for bar in (self.bar(True), self.bar(False)):
-            self.track = bar.pixels()[0]
-            self.assertEqual(bar.thumb(self.track), [])
         self.show(HIGH_TEAM)
         self.lettering = wait_for(lambda: Lettering.learned(self.picture(self.main), self.lines),
                                   "the report in letters of equal width")
+        self.track = self.bar(False).pixels()[0]  # all of it, as the report is narrow
         self.expect(0)
 
     def start_up_picture(self):
@@ -118,12 +117,13 @@ class PaintingTest(DesktopTest):
 
             def shown(bar=bar, expected=expected):
                 thumb = bar.thumb(self.track)
-                # Rounding makes a pixel; a line or column more or less makes three.
+                # Rounding makes a pixel; a line or column more or less makes two at least.
                 return len(thumb) == len(expected) and all(abs(a - b) <= 1 for a, b in zip(thumb, expected))
             wait_for(shown, f"the thumb {expected}, not {bar.thumb(self.track)}, of {bar.length} pixels")
 
     def drag(self, vertical, position):
         """Drags a thumb to a position, and holds it there."""
+        self.addCleanup(self.drop)
         bar = self.bar(vertical)
         begin, length = bar.thumb(self.track)
         end, _ = bar.expected_thumb(*self.range(vertical), position)
@@ -187,18 +187,31 @@ class PaintingTest(DesktopTest):
         lines = {one: dialog.lines(one) for one in LISTS}
         letterings = {one: wait_for(lambda one=one: Lettering.learned(self.picture(dialog, one), lines[one], range(4)),
                                     f"list {one} in letters of equal width") for one in LISTS}
-        area = dialog.client_area(LISTS[-1])
-        bar = Bar(self.screen, area, True)
-        last = 30 - area[3] // letterings[LISTS[-1]].height
-        moves = [(bar.point(bar.length - 1), LEFT, last)]
-        for one, button, top in zip(LISTS, (WHEEL_UP, WHEEL_UP, WHEEL_DOWN, WHEEL_UP, WHEEL_DOWN), (3, 6, 3, 6, 3)):
-            moves.append((dialog.client_area(one)[:2], button, last - top))
-        moves.append((bar.point(0), LEFT, 0))
-        for point, button, top in moves:
-            self.click(point, button)
+
+        def expect(top):
             for one in LISTS:
                 wait_for(lambda one=one: letterings[one].matches(self.picture(dialog, one), lines[one][top:]),
                          f"line {top} of list {one} at the top")
+
+        area = dialog.client_area(LISTS[-1])
+        bar = Bar(self.screen, area, True)
+        last = 30 - area[3] // letterings[LISTS[-1]].height
+        self.click(bar.point(bar.length - 1))
+        expect(last)
+        for one, button, top in zip(LISTS, (WHEEL_UP, WHEEL_UP, WHEEL_DOWN, WHEEL_UP, WHEEL_DOWN), (3, 6, 3, 6, 3)):
+            self.click(dialog.client_area(one)[:2], button)
+            expect(last - top)
+        self.click(bar.point(0))
+        expect(0)
+        # Half a line's turn over one list and half over another: one list adds up the wheel of all.
+        for one in LISTS[:2]:
+            dialog.send(one, WM_MOUSEWHEEL, -20 << 16 & 0xFFFFFFFF)
+        expect(1)
+        # A line dragged out of its list scrolls on for as long as it is held there.
+        left, top, _, height = dialog.client_area(LISTS[0])
+        self.addCleanup(self.drop)
+        self.desktop.mouse("mousemove", left, top, "mousedown", LEFT, "mousemove", left, top + height + 9)
+        wait_for(lambda: {dialog.send(one, LB_GETTOPINDEX) for one in LISTS} == {last}, "the lists to scroll on")
 
 
 if __name__ == "__main__":

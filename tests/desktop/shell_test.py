@@ -6,7 +6,7 @@ from desktop_case import IDCANCEL, IDOK, DesktopTest, wait_for, windows_path
 
 NEW, OPEN, SAVE, SAVE_AS, EXIT, SETUP_CONTEST = 32771, 32772, 32773, 32774, 105, 32787
 SAVE_REPORT, ROUND_VERIFICATION = 32832, 32862
-CUSTOM_REPORT, SCORE_SHEET, VERIFICATION_SHEET = 32800, 32843, 32844
+CLASSES, HIGH_INDIVIDUAL, VERIFY_LETTERS = 32837, 32796, 32846
 WELCOME = "Welcome to Scorvane!\n"
 COUNTY_FAIR = "Tallgrass County Fair Judging Contest"
 
@@ -15,18 +15,14 @@ class ShellTest(DesktopTest):
     def wait_for_title(self, main, title):
         wait_for(lambda: main.title() == title, f"the title {title!r}")
 
-    def test_every_report_is_shown_and_saved_as_scorvane_report_prints_it(self):
+    def test_a_report_of_each_menu_is_copied_and_saved_as_scorvane_report_prints_it(self):
         contest = self.sample("state.scv")
         app = self.start(contest)
         main = app.main()
-        listed = [int(line.split("\t")[0]) for line in self.expected_report("--list").splitlines()]
-        plain = set(listed) - {CUSTOM_REPORT, SCORE_SHEET, VERIFICATION_SHEET, ROUND_VERIFICATION}
-        self.assertGreater(len(plain), 20)
-        for command in plain:
-            with self.subTest(command=command):
-                main.command(command)
-                main.settle()
-                self.assertEqual(app.report(), self.expected_report(contest, command))
+        for command in (CLASSES, HIGH_INDIVIDUAL, VERIFY_LETTERS):
+            main.command(command)
+            main.settle()
+            self.assertEqual(app.report(), self.expected_report(contest, command))
         main.command(ROUND_VERIFICATION)
         dialog = app.window("Round Verification Report")
         dialog.choose(1080, 1)

@@ -3,12 +3,9 @@
 
 #include <map>
 
-#include "reports/class_reports.h"
-#include "reports/letter_report.h"
-#include "reports/roster_reports.h"
+#include "reports/listing_reports.h"
 #include "reports/round_reports.h"
-#include "reports/team_score_reports.h"
-#include "reports/zero_reports.h"
+#include "reports/verification_reports.h"
 #include "tests/support/approved.h"
 #include "tests/support/contest_builder.h"
 

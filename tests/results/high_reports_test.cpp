@@ -1,9 +1,10 @@
 // The reports of the best individuals and teams.
 #include <gtest/gtest.h>
 
-#include "results/high_individual_report.h"
-#include "results/high_team_report.h"
-#include "results/tie_breaker_report.h"
+#include "results/high_reports.h"
+#include "results/rankings.h"
+#include "results/tie_breakers.h"
+#include "results/total_summary_report.h"
 #include "tests/support/approved.h"
 #include "tests/support/contest_builder.h"
 
@@ -11,12 +12,8 @@ namespace scorvane {
 
 namespace {
 
-HighReportRequest twenty(ScoreKind kind, ClassSet classes, const std::string& title = "") {
-  return {.classes = std::move(classes),
-          .kind = kind,
-          .numToReport = 20,
-          .percent = false,
-          .title = title};
+ReportRequest twenty(ScoreKind kind, ClassSet classes, const std::string& title = "") {
+  return {.kind = kind, .classes = std::move(classes), .numToReport = 20, .title = title};
 }
 
 // In the overall ranking Cat and the nameless 106 are equal up to the third value, Bob and Ann up
@@ -102,6 +99,58 @@ TEST(HighReports, ListTheNumberOrPercentageAskedForButOneRowAtLeast) {
     EXPECT_EQ(std::count(individuals.begin(), individuals.end(), '\n') - 4, rows) << number;
     EXPECT_EQ((std::count(teams.begin(), teams.end(), '\n') - 4) / 3, rows) << number;
   }
+}
+
+// Every name has forty letters of its own.
+TEST(HighReports, CutNamesToTheirColumns) {
+  const auto letters = [](char letter, std::size_t count = 40) {
+    return std::string(count, letter);
+  };
+  ContestBuilder builder;
+  builder.members(2, 3, 1).addClass({.name = letters('D')}).categories({letters('K')});
+  builder.team(letters('T'), letters('C'), {letters('A'), letters('B'), letters('X')});
+  builder.scores(101, {{50}}).scores(102, {{40}});
+  const auto request = wholeContestRequest(builder.contest, ScoreKind::overall);
+  const std::string reports = highIndividualReport(builder.contest, request) +
+                              highTeamReport(builder.contest, request) +
+                              totalSummaryReport(builder.contest);
+  for (const std::string& cut :
+       {"  " + letters('A', 30) + "  " + letters('T', 30) + "  ",
+        "  " + letters('T', 21) + "  " + letters('A', 25) + " (", "  " + letters('B', 25) + " (",
+        "Coach: " + letters('C', 30) + " ", letters('D', 38) + "  " + letters('K', 30) + "\n",
+        "Team:  " + letters('T', 30) + "          Coach:  " + letters('C', 30) + "\n",
+        " | " + letters('K', 16) + " | ", "101 " + letters('A', 20) + " | ",
+        "103 " + letters('X', 16) + " alt | "}) {
+    EXPECT_NE(reports.find(cut), std::string::npos) << cut << '\n' << reports;
+  }
+}
+
+// Of 52 classes the last two do not count: Ann has 49 times 1 and once 50.
+TEST(CustomReport, TakesTheFirstFiftyClassesAndCutsTheTitle) {
+  ContestBuilder builder;
+  builder.team("Adams", "", {"Ann", "Bob"});
+  ReportRequest request = twenty(ScoreKind::placings, {}, std::string(500, 'x'));
+  for (std::int32_t k = 0; k < 52; ++k) {
+    builder.addClass({});
+    builder.contest.scores[101][k].placingScore = k == 49 ? 50 : 1;
+    request.classes.push_back(k);
+  }
+  const std::string report = customReport(builder.contest, request);
+  EXPECT_NE(report.find("Adams                              99\n"), std::string::npos) << report;
+  EXPECT_EQ(report.find('\n'), std::string("High Individual Placings ").size() + 499);
+  request.team = true;
+  EXPECT_TRUE(customReport(builder.contest, request).starts_with("High Team Placings xxx"));
+}
+
+// Asked for nobody, the report ends with the leader: also with one who has no name.
+TEST(HighIndividualReport, OfZeroRowsEndsWithTheLeader) {
+  ContestBuilder builder;
+  builder.addClass({}).team("Adams", "", {"Ann", ""}).scores(101, {{10}}).scores(102, {{50}});
+  ReportRequest request = wholeContestRequest(builder.contest, ScoreKind::overall);
+  request.numToReport = 0;
+  EXPECT_TRUE(individualRows(builder.contest, request).empty());
+  request.numToReport = 1;
+  EXPECT_EQ(individualRows(builder.contest, request).size(), 1U);
 }
 
 TEST(HighReports, OfTheCountySampleAreAsApproved) {

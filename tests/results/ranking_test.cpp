@@ -2,9 +2,9 @@
 
 #include <random>
 
+#include "model/class_lists.h"
 #include "results/individual_ranking.h"
 #include "results/team_ranking.h"
-#include "results/team_scoring.h"
 #include "tests/support/contest_builder.h"
 
 namespace scorvane {
@@ -116,7 +116,7 @@ TEST(Ranking, AgreesWithASlowOneOnRandomContests) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 random(seed);
     const Contest contest = randomContest(random);
-    ClassSet classSet = allClasses(contest);
+    ClassSet classSet = allClasses(contest.classes);
     const bool whole = random() % 2 == 0 || classSet.empty();
     if (!whole) classSet.erase(classSet.begin());
     for (const ScoreKind kind : kScoreKinds) {
@@ -124,13 +124,14 @@ TEST(Ranking, AgreesWithASlowOneOnRandomContests) {
       const TieOrder order = reasons ? TieOrder::reasons
                              : whole ? TieOrder::overall
                                      : TieOrder::category;
-      expectRanked(rankIndividuals(contest, kind, classSet), contest.scores.size(), order,
+      const auto totals = contestantTotals(contest, kind, classSet);
+      EXPECT_EQ(tieOrderFor(contest, kind, classSet), order);
+      expectRanked(rankIndividuals(totals, order), contest.scores.size(), order,
                    [&](const IndividualRankEntry& entry) {
                      return sumSlowly(contest, entry.contestantNumber, kind, classSet);
                    });
-      expectRanked(rankTeams(contest, contestantTotals(contest, kind, classSet),
-                             tieOrderFor(contest, kind, classSet)),
-                   contest.teams.size(), order, [&](const TeamRankEntry& entry) {
+      expectRanked(rankTeams(contest, totals, order), contest.teams.size(), order,
+                   [&](const TeamRankEntry& entry) {
                      return teamSlowly(contest, entry.team->second, kind, classSet);
                    });
     }
@@ -142,7 +143,7 @@ TEST(Ranking, CountsAbsurdScoresWithoutHarm) {
   builder.members(2, 2, 2).addClass({.reasons = true}).team("Adams", "", {"Ann", "Bob"});
   builder.scores(101, {{2147483647, 2147483647, 2147483647}}).scores(102, {{2147483647, 5}});
   builder.contest.scores[101][1999999999] = {'A', 1, 1, 1};  // a class that does not exist
-  const ClassSet all = allClasses(builder.contest);
+  const ClassSet all = allClasses(builder.contest.classes);
   const auto totals = contestantTotals(builder.contest, ScoreKind::overall, all);
   EXPECT_EQ(totals[0].values.score, 2147483645);
   EXPECT_EQ(totals[0].values.totalOverall, -2147483648);

@@ -4,7 +4,7 @@
 
 #include <sstream>
 
-#include "results/score_statistics.h"
+#include "results/total_summary_table.h"
 #include "tests/support/approved.h"
 #include "tests/support/contest_builder.h"
 

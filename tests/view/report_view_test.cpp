@@ -71,6 +71,8 @@ TEST(ReportView, EveryMoveStopsAtTheEnds) {
   EXPECT_EQ(wide.scrollHorizontally(ScrollMove::end), -24);  // 102 is the end, 53 the last position
   EXPECT_EQ(wide.scrollHorizontally(ScrollMove::lineForward), 0);
   EXPECT_EQ(wide.scrollHorizontally(ScrollMove::track, 10), 43 * 8);
+  wide.refresh(std::string(200, 'x') + "\n", kMetrics, {400, 160});
+  EXPECT_EQ(wide.horizontal().position, 0) << "a new report shows its beginning";
 }
 
 TEST(ReportView, WheelScrollsFiveLinesANotch) {
@@ -97,6 +99,7 @@ TEST(ReportView, GivesTheLinesOfAnAreaAndOfTheTextAsItIsNow) {
     EXPECT_EQ(hundredLinesAt(20).linesAt(top, bottom).first, first);
     EXPECT_EQ(hundredLinesAt(20).linesAt(top, bottom).last, last);
   }
+  EXPECT_EQ(hundredLinesAt(0).linesAt(0, 170).first, 0);
   EXPECT_EQ(hundredLinesAt(90).linesAt(0, 1000).last, 100);
   const std::string text = "a\n\nccc\nopen end";
   ReportView view;

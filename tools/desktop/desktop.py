@@ -252,6 +252,10 @@ class Window:
         """Posts a menu command or button id; a dialog that it opens is up when window() finds it."""
         self._tell("command", command_id)
 
+    def send(self, control, message, first=0, second=0):
+        """Sends a message to a control; gives the answer."""
+        return int(self._tell("send", control, message, first, second))
+
     def settle(self):
         self._tell("settle")
 

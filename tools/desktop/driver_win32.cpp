@@ -250,6 +250,12 @@ Fields post(const Fields& f) {
   return {};
 }
 
+Fields sendMessage(const Fields& f) {
+  return {std::to_string(send(toControl(f), static_cast<UINT>(toNumber(f.at(3))),
+                              static_cast<WPARAM>(toNumber(f.at(4))),
+                              static_cast<LPARAM>(toNumber(f.at(5)))))};
+}
+
 // A number that a control keeps for the one who sets it, by messages that can be posted.
 struct Keepsake {
   const char* controlClass;
@@ -438,6 +444,7 @@ const std::map<std::string, std::function<Fields(const Fields&)>> kCommands = {
     {"kill", killProcess},
     {"command", command},
     {"post", post},
+    {"send", sendMessage},
     {"settle", settle},
     {"text", text},
     {"set_text", setText},

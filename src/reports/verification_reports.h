@@ -1,4 +1,4 @@
-// The grids that list contestants with a score of zero, and all questions scores.
+// The entered scores, to be checked against the cards: grids of contestants by classes.
 #pragma once
 
 #include <string>
@@ -6,6 +6,17 @@
 #include "model/contest.h"
 
 namespace scorvane {
+
+/// Every named contestant's stored letter for every class, in a block for each group. Contestants
+/// whose group letter is none of the contest's (numbers below startNum) are in no block.
+[[nodiscard]] std::string verifyScoresReport(const Contest& contest);
+
+/// Each team's placings with the official placings and cuts above them.
+[[nodiscard]] std::string verifyPlacingsReport(const Contest& contest);
+
+/// Each team's reasons scores. A member's total adds the reasons scores of all classes.
+/// Odd but required, docs/required-behaviour.md: reasons-total-of-all-classes
+[[nodiscard]] std::string reasonsByTeamReport(const Contest& contest);
 
 /// The contestants with a placing score of 0 in some class, marked " | -@-" among their letters.
 /// A class without a record counts as 0.
