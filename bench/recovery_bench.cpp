@@ -1,60 +1,55 @@
-// What it costs to keep a score as it is stored, in contests of 12 classes. Without the disk's own
-// flush it must not grow with the contest: SCORVANE_BENCH_FOLDER names a folder on another disk
-// than that of temporary files, such as one in memory.
+// What it costs to store one card, with and without a recovery copy, in contests of 12 classes. The
+// cost must not grow with the contest. The disk's own flush is part of it: set XDG_DATA_HOME to a
+// folder in memory to leave it out.
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cstdlib>
-#include <vector>
+#include <filesystem>
+#include <fstream>
 
 #include "entry/score_fields.h"
-#include "session/contest_file.h"
 #include "session/open_contest.h"
 #include "session/recovery.h"
-#include "tests/support/temporary_folder.h"
+#include "storage/contest_writer.h"
 #include "tools/contest_maker.h"
 
 namespace scorvane {
 
 namespace {
 
-enum class Kept { no, yes };
-
-// The median is what an operator feels; the first score after a save is left out, as it is rare.
-void storeScore(benchmark::State& state, Kept kept) {
-  using Clock = std::chrono::steady_clock;
-  if (const char* disk = std::getenv("SCORVANE_BENCH_FOLDER")) ::setenv("TMPDIR", disk, 1);
-  const TemporaryFolder folder;
-  ::setenv("XDG_DATA_HOME", folder.path().c_str(), 1);
-  startNewContest();
-  if (kept == Kept::yes) startKeepingWork(systemFiles());
+void storeCards(benchmark::State& state, bool kept) {
+  const std::filesystem::path folder =
+      std::filesystem::temp_directory_path() / "scorvane-recovery-bench";
+  std::filesystem::create_directories(folder);
+  setenv("XDG_DATA_HOME", folder.c_str(), 0);
   ContestPlan plan;
   plan.contestants = static_cast<std::int32_t>(state.range(0));
   currentContest() = makeContest(plan);
-  Contest& contest = currentContest();
-  const auto store = [&](ContestantNumber number) {
-    storeScores(contest, number, number % 12, {PlacingLetter('C'), {}, {}});
-  };
-  store(contest.contestantNames.begin()->first);
-  std::vector<double> times;
-  ContestantNumber number = 0;
-  for ([[maybe_unused]] auto step : state) {
-    const auto& names = contest.contestantNames;
-    const auto start = Clock::now();
-    store((names.begin() + number++ % static_cast<std::int32_t>(names.size()))->first);
-    times.push_back(std::chrono::duration<double, std::milli>(Clock::now() - start).count());
+  const std::string path = folder / "fair.scv";
+  const std::string bytes = writeContest(currentContest());
+  std::ofstream(path, std::ios::binary) << bytes;
+  if (kept) {
+    startKeepingWork(systemFiles());
+    currentFileName() = path;
+    contestHasFile(path, bytes);
   }
-  std::nth_element(times.begin(), times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2),
-                   times.end());
-  state.counters["median_ms"] = times[times.size() / 2];
+  const ContestantNumber number = currentContest().contestantNames.begin()->first;
+  std::int32_t card = 0;
+  const auto store = [&] {
+    ++card;
+    TypedScores typed;
+    typed.letter = static_cast<PlacingLetter>('A' + card % 24);
+    storeScores(currentContest(), number, card % 12, typed);
+  };
+  store();  // the first card writes the whole copy
+  for ([[maybe_unused]] auto step : state) store();
   stopKeepingWork();
-  startNewContest();
+  std::filesystem::remove_all(folder);
 }
 
-BENCHMARK_CAPTURE(storeScore, not_kept, Kept::no)->Arg(200)->Arg(10000)->Iterations(1000);
-BENCHMARK_CAPTURE(storeScore, kept, Kept::yes)->Arg(200)->Arg(10000)->Iterations(1000);
-
 }  // namespace
+
+BENCHMARK_CAPTURE(storeCards, withoutCopy, false)->Arg(200)->Arg(10000);
+BENCHMARK_CAPTURE(storeCards, withCopy, true)->Arg(200)->Arg(10000);
 
 }  // namespace scorvane
