@@ -26,6 +26,7 @@ constexpr std::array kTable = {IDC_SAVE_TIMES, IDC_SAVE_CONTESTANTS, IDC_SAVE_SC
                                IDC_SAVE_CHANGES};
 constexpr std::size_t kChangesWidth = 60;
 
+// Where the hour begins in a time's text.
 constexpr std::size_t kHour = 13;
 
 // Such as "Jul 18, 2026  2:31 PM", by the clock on the wall; all of one length.
@@ -162,8 +163,7 @@ void EarlierSavesDialog::goBack(Dialog& dialog, const EarlierSave& save, Contest
   if (!keepPresentContest()) {
     dialog.show(
         "The contest could not be kept as it is now, so it was left unchanged.  Perhaps the disk "
-        "is "
-        "full.  Save As puts the earlier save into a file of its own.",
+        "is full.  Save As puts the earlier save into a file of its own.",
         "Error");
     return;
   }

@@ -1,6 +1,6 @@
 // The recovery copy as bytes: an ordinary contest file, a line that says which state of the
 // contest's file it grew from, and one line per score typed since. The added lines end with a
-// check value, so that a line is known to be whole, and to be an added one, wherever it stands.
+// check value, so that a line is known to be whole, and to be an added one, wherever it is.
 #pragma once
 
 #include <cstdint>

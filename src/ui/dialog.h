@@ -30,7 +30,7 @@ enum class ControlEvent {
   lostFocus,         ///< edit fields only
 };
 
-/// What a line of a list stands for, such as a contestant's number or a team's name. The behaviour
+/// Identifies what a line of a list shows, such as a contestant's number or a team's name. The behaviour
 /// sets it with the line and gets it back, so it never has to read its own captions.
 using LineKey = std::variant<std::int32_t, std::string>;
 
