@@ -1,8 +1,6 @@
 #include "exchange/earlier_saves_dialog.h"
 
-#include <algorithm>
 #include <array>
-#include <cctype>
 #include <ctime>
 #include <utility>
 #include <variant>
@@ -54,12 +52,6 @@ std::optional<Contest> contestOf(const EarlierSave& save) {
   return contest == nullptr ? std::nullopt : std::optional(std::move(*contest));
 }
 
-// How many people it has: numbers in reserve are none.
-std::int64_t countContestants(const Contest& contest) {
-  return std::count_if(contest.contestantNames.begin(), contest.contestantNames.end(),
-                       [](const auto& entry) { return !entry.second.empty(); });
-}
-
 // What an unsaved rest holds is told by what it would change, as no save followed it.
 std::string changesText(const EarlierSave& save, const Contest& contest, const Contest& next) {
   if (save.contestPath.empty()) return "never saved: " + contest.settings.contestName;
@@ -71,20 +63,11 @@ void selectRow(Dialog& dialog, std::optional<int> line) {
   for (const ControlId list : kTable) dialog.select(list, line);
 }
 
-// A path reaches the same file in capitals and in small letters, on Windows at least.
-bool isOpenContest(FileSystem& files, const std::string& path) {
-  const std::string chosen = fullPath(files, path), open = fullPath(files, currentFileName());
-  const auto small = [](unsigned char c) { return std::tolower(c); };
-  return !currentFileName().empty() &&
-         std::equal(chosen.begin(), chosen.end(), open.begin(), open.end(),
-                    [&](char a, char b) { return small(a) == small(b); });
-}
-
 void saveAs(Dialog& dialog, const EarlierSave& save) {
   const auto path = dialog.chooseFile(contestFileQuestion(FileQuestion::Purpose::save));
   if (!path) return;
   FileSystem& files = sessionFiles();
-  if (isOpenContest(files, *path)) {
+  if (!currentFileName().empty() && reachesSameFile(files, *path, currentFileName())) {
     dialog.show("This is the file of the open contest.  Go Back puts an earlier save into it.",
                 "Error");
     return;
@@ -116,8 +99,7 @@ void EarlierSavesDialog::onOpen(Dialog& dialog) {
   for (const EarlierSave& save : saves_) {
     auto contest = contestOf(save);
     columns[0].push_back(timeText(save.time));
-    columns[1].push_back(
-        contest ? formatText("%8lld", static_cast<long long>(countContestants(*contest))) : "");
+    columns[1].push_back(contest ? formatText("%8zu", countNamed(*contest)) : "");
     columns[2].push_back(
         contest ? formatText("%8lld", static_cast<long long>(countScores(*contest))) : "");
     columns[3].push_back(contest ? changesText(save, *contest, next) : "cannot be read");

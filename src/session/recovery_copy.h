@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "model/contest.h"
+#include "storage/score_reader.h"
 
 namespace scorvane {
 
@@ -28,11 +29,8 @@ struct FileState {
   }
 };
 
-struct TypedScore {
-  ContestantNumber number = 0;
-  std::int32_t classIndex = 0;
-  ScoreRecord record;
-};
+/// A contestant's record for a class after a score was typed.
+using TypedScore = ScoreLine;
 
 struct RecoveryCopy {
   std::optional<FileState> grewFrom;  ///< nothing when that line is damaged
