@@ -62,7 +62,7 @@ class Summary {
       // order behind a gap that was closed are others.
       if (difference.value == "number") {
         classOrder_ = true;
-      } else if (difference.value == "reasons place") {
+      } else if (difference.kind == DifferenceKind::reasonsOrder) {
         reasonsOrder_ = true;
       } else {
         changes_[difference.kind].take(difference);

@@ -121,6 +121,7 @@ class Comparison {
              [this](ContestantNumber number, const std::string* here, const std::string* there) {
                compareContestant(number, here, there);
              });
+    for (const auto& entry : here_.contestantNames) compareReasonsOrder(entry.first);
     compareScores();
     return std::move(found_);
   }
@@ -199,17 +200,21 @@ class Comparison {
 
   void compareContestant(ContestantNumber number, const std::string* here,
                          const std::string* there) {
-    const bool isNamed = here != nullptr && !here->empty();
-    const bool wasNamed = there != nullptr && !there->empty();
-    const std::string subject = std::to_string(number) + (isNamed    ? ' ' + *here
-                                                          : wasNamed ? ' ' + *there
-                                                                     : "");
     const bool isOnBothSides = here != nullptr && there != nullptr;
-    add(DifferenceKind::contestant, subject, isOnBothSides ? "name" : "", nameText(here),
-        nameText(there));
-    if (!isNamed || !wasNamed) return;
-    add(DifferenceKind::contestant, subject, "reasons place",
+    add(DifferenceKind::contestant, contestantText(number), isOnBothSides ? "name" : "",
+        nameText(here), nameText(there));
+  }
+
+  void compareReasonsOrder(ContestantNumber number) {
+    if (contestantName(here_, number).empty() || contestantName(there_, number).empty()) return;
+    add(DifferenceKind::reasonsOrder, contestantText(number), "reasons order",
         placeText(reasonsPlaceOf(here_, number)), placeText(reasonsPlaceOf(there_, number)));
+  }
+
+  std::string contestantText(ContestantNumber number) const {
+    const std::string& here = contestantName(here_, number);
+    const std::string& name = here.empty() ? contestantName(there_, number) : here;
+    return std::to_string(number) + (name.empty() ? "" : ' ' + name);
   }
 
   void compareScores() {

@@ -29,7 +29,7 @@ using ClassMatch = Sides<std::optional<std::int32_t>>;
 [[nodiscard]] std::vector<ClassMatch> matchClasses(const JudgingClasses& here,
                                                    const JudgingClasses& there);
 
-enum class DifferenceKind { setting, category, judgedClass, team, contestant };
+enum class DifferenceKind { setting, category, judgedClass, team, contestant, reasonsOrder };
 
 /// The name of a number that is only reserved, and of a class that was given none.
 inline constexpr const char* kNoName = "(no name)";
@@ -72,7 +72,7 @@ struct ScoreCounts {
 };
 
 struct ContestDifferences {
-  std::vector<Difference> values;  ///< settings, categories, classes, teams, contestants by number
+  std::vector<Difference> values;  ///< in the order of DifferenceKind
   std::vector<ClassMatch> classes;
   /// In the order in which cards lie: by class, kind of score and group (the reasons group and
   /// position for reasons scores), then by number.

@@ -41,9 +41,6 @@ inline constexpr std::array<SettingLine, 11> kSettingLines = {{
 }};
 inline constexpr std::string_view kCategoriesKey = "categories:";
 
-/// A file with more lines than this before its classes is no contest.
-inline constexpr int kMaxSettingsLines = 15;
-
 inline constexpr std::string_view kClassesMarker = "~~~~~Classes~~~~~";
 inline constexpr std::string_view kContestantsMarker = "~~~~~Contestants~~~~~";
 inline constexpr std::string_view kTeamsMarker = "~~~~~Teams~~~~~";

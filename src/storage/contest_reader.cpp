@@ -77,6 +77,7 @@ std::vector<std::string> readCategories(FieldScanner& fields) {
 /// Reads settings up to and including the line that begins the classes. False when that line does
 /// not come soon.
 bool readSettings(LineScanner& lines, Contest& contest) {
+  constexpr int kMaxSettingsLines = 15;
   contest.categories = {kNoCategory};
   for (int counter = 1; const auto line = lines.next(); ++counter) {
     FieldScanner fields(*line);

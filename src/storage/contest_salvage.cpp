@@ -76,7 +76,6 @@ std::optional<Contest> salvageContest(std::string_view bytes) {
       records[section].push_back(line);
     }
   }
-  if (records[kSettings].size() > kMaxSettingsLines) records[kSettings].resize(kMaxSettingsLines);
   records[kScores].resize(records[kClasses].size() * records[kContestants].size(), kNobodysScore);
   std::string whole;
   for (std::size_t i = 0; i < kSections; ++i) {

@@ -1,0 +1,110 @@
+"""Tools, Earlier Saves: the list, Show Differences, Go Back and Save As on a contest that was changed twice."""
+
+import unittest
+
+from desktop_case import IDCANCEL, IDNO, IDOK, DesktopTest, wait_for
+
+SETUP_TEAMS, TEAMS, REMOVE_TEAM = 32789, 1019, 1005
+LOOKUP, NUMBER, LETTER, SCORE = 32791, 1026, 1027, 1004
+EARLIER_SAVES, TIMES, CONTESTANTS, SCORES, CHANGES = 33023, 1101, 1102, 1103, 1104
+GO_BACK, SAVE_AS = 1106, 1107
+
+
+class EarlierSaves(DesktopTest):
+    def setUp(self):
+        super().setUp()
+        self.contest = self.sample()
+        self.states = [self.contest.read_bytes()]
+        self.open()
+
+    def open(self):
+        self.app = self.start(self.contest)
+        self.main = self.app.main()
+        wait_for(lambda: "county.scv" in self.main.title(), "the contest")
+
+    def dialog(self, command, title):
+        self.main.command(command)
+        return self.app.window(title)
+
+    def store_letter(self, number, letter):
+        dialog = self.dialog(LOOKUP, "Lookup/Edit Individual Scores")
+        dialog.choose(1016, 2)
+        dialog.set_text(NUMBER, number)
+        dialog.set_text(LETTER, letter)
+        dialog.click(SCORE)
+        return dialog
+
+    def change_twice(self):
+        dialog = self.store_letter("102", "X")
+        dialog.close()
+        self.app.wait_closed(dialog)
+        self.states.append(self.contest.read_bytes())
+        dialog = self.dialog(SETUP_TEAMS, "Setup Teams")
+        dialog.choose(TEAMS, 1)
+        dialog.click(REMOVE_TEAM)
+        dialog.close()
+        self.app.wait_closed(dialog)
+        self.states.append(self.contest.read_bytes())
+
+    def test_every_save_can_be_compared_and_gone_back_to(self):
+        self.change_twice()
+        self.desktop.keys("alt+t", "e")
+        dialog = self.app.window("Earlier Saves")
+        self.assertEqual([line.split(";")[0] for line in dialog.lines(CHANGES)],
+                         ["team Antler County 4-H removed", "1 score changed in class 3"])
+        self.assertEqual([line.strip() for line in dialog.lines(CONTESTANTS) + dialog.lines(SCORES)],
+                         ["47", "47", "517", "517"])
+        self.assertEqual(len(dialog.lines(TIMES)), 2)
+        dialog.press("Down")
+        self.assertEqual([dialog.selection(i) for i in (TIMES, CONTESTANTS, SCORES, CHANGES)], [[1]] * 4)
+        self.desktop.keys("Return")
+        self.app.wait_closed(dialog)
+        report = self.app.report().splitlines()
+        self.assertIn("Team Antler County 4-H               -                     105, 106, 107, 108", report)
+        self.assertIn("  102 Delia Ibarra                B   Placing        X (4,3,2,1)   E (1,4,2,3)", report)
+
+        dialog = self.dialog(EARLIER_SAVES, "Earlier Saves")
+        dialog.choose(CHANGES, 1)
+        self.desktop.keys("alt+g")
+        box = self.app.window("Warning")
+        wait_for(lambda: box.focused() == IDCANCEL, "Cancel to have the focus")
+        self.app.answer(IDCANCEL, "Warning")
+        self.assertEqual(self.contest.read_bytes(), self.states[2])
+        dialog.command(GO_BACK)
+        self.app.answer(IDOK, "Warning")
+        self.app.wait_closed(dialog)
+        self.assertEqual(self.contest.read_bytes(), self.states[0])
+
+        # Going back is gone back from, and any save gets a file of its own.
+        dialog = self.dialog(EARLIER_SAVES, "Earlier Saves")
+        self.assertEqual(len(dialog.lines(TIMES)), 3)
+        dialog.choose(TIMES, 1)
+        dialog.command(SAVE_AS)
+        copy = self.folder / "copy.scv"
+        self.app.choose_file(copy, "Save As")
+        wait_for(lambda: copy.exists() and dialog.is_enabled(SAVE_AS), "the copy")
+        self.assertEqual(copy.read_bytes(), self.states[1])
+        dialog.choose(TIMES, 0)
+        dialog.command(GO_BACK)
+        self.app.answer(IDOK, "Warning")
+        self.app.wait_closed(dialog)
+        self.assertEqual(self.contest.read_bytes(), self.states[2])
+
+    def test_work_that_nobody_wanted_back_is_among_the_earlier_saves(self):
+        self.store_letter("102", "X")
+        self.app.close()
+        self.open_and_decline()
+        dialog = self.dialog(EARLIER_SAVES, "Earlier Saves")
+        self.assertEqual(dialog.lines(CHANGES), ["not saved: 1 score changed in class 3"])
+        self.desktop.keys("Escape")
+        self.app.wait_closed(dialog)
+        self.assertEqual(self.contest.read_bytes(), self.states[0])
+
+    def open_and_decline(self):
+        self.app = self.start(self.contest)
+        self.assertIn("Would you like to bring them back?", self.app.answer(IDNO, "Information"))
+        self.main = self.app.main()
+
+
+if __name__ == "__main__":
+    unittest.main()
