@@ -72,7 +72,7 @@ bool fitsTheFile(const Contest& contest) {
                      [](const auto& entry) { return isShort(entry.second); }) &&
          std::all_of(contest.teams.begin(), contest.teams.end(), [](const auto& team) {
            return isShort(team.first) && isShort(team.second.coach) && team.first != " " &&
-                  team.second.coach != " ";  // a blank stands for an empty text
+                  team.second.coach != " ";  // an empty text is written as a blank
          });
 }
 
@@ -116,7 +116,7 @@ void ContestPromises::dialogActed(const MemoryDialog& dialog) {
   }
 }
 
-// Nobody stands in two cells, a place that is held is a cell that is held, and the other way round.
+// Nobody is in two cells, a place that is held is a cell that is held, and the other way round.
 // Only whoever is deleted from the first row or the first group keeps the cell.
 void ContestPromises::checkReasonsOrder(const Contest& contest) {
   std::set<ContestantNumber> seen;

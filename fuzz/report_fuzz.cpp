@@ -57,7 +57,7 @@ ReportRequest wishedRequest(Wishes& wishes, const Contest& contest) {
   }
   request.numToReport = wishes.number(100);
   request.percent = wishes.byte() % 2 == 1;
-  // As the dialog gives it: at most 499 bytes, without control characters.
+  // As the dialog returns it: at most 499 bytes, without control characters.
   request.title = wishes.rest().substr(0, 499);
   for (char& c : request.title) {
     if (static_cast<unsigned char>(c) < ' ') c = ' ';
@@ -74,7 +74,7 @@ bool isMarker(std::string line) {
   return line == kPageBreakLine || line == kSmallFontLine || line == kLargeFontLine;
 }
 
-/// Lines of the report that are drawn once; the first four stand in every header.
+/// Lines of the report that are drawn once; the first four are in every header.
 std::int64_t countBodyLines(std::string_view report) {
   std::int64_t count = 0;
   for (std::int64_t line = 0; !report.empty(); ++line) {

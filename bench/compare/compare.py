@@ -57,7 +57,7 @@ def reported(text):
 
 def require_same(reports, other, text):
     """Place by place another program's rows (name, score, further values) must say what the reports
-    say. Who is equal in all values may stand in another order; a row more than listed shows that."""
+    say. Who is equal in all values may be in another order; a row more than listed shows that."""
     rows = [(row[0], *map(int, row[1:4])) for row in csv.reader(text.splitlines())]
     lists = [rows[:len(rows) // 2], rows[len(rows) // 2:]]
     for ours, theirs in zip(reports, lists):

@@ -94,7 +94,7 @@ def score_rows(parts):
 
 def team_rows(parts):
     """A row for each team: the same columns, summed over its best three members. The fourth's place
-    among the members, the last of equal ones, stands in a column of its own."""
+    among the members, the last of equal ones, is in a column of its own."""
     rows = {contestant: row for row, contestant in enumerate(scores_of(parts), 1)}
     for row, team in enumerate(parts["Teams"], 1):
         first, last = rows[team[2]], rows[team[5]]

@@ -6,19 +6,13 @@
 
 #include "app/desktop_window_win32.h"
 #include "app/file_menu.h"
+#include "app/resource_ids.h"
 #include "session/recovery.h"
 #include "storage/file.h"
 
 namespace scorvane {
 
 namespace {
-
-constexpr UINT kTitleString = 103;
-constexpr UINT kClassNameString = 109;
-constexpr int kMenu = 109;
-constexpr int kAccelerators = 109;
-constexpr int kLargeIcon = 155;
-constexpr int kSmallIcon = 159;
 
 std::unique_ptr<DesktopWindow>& mainWindow() {
   static std::unique_ptr<DesktopWindow> window;
@@ -55,18 +49,18 @@ bool registerClass(HINSTANCE instance, const std::string& name) {
   description.style = CS_HREDRAW | CS_VREDRAW;
   description.lpfnWndProc = windowProcedure;
   description.hInstance = instance;
-  description.hIcon = loadIcon(instance, kLargeIcon, SM_CXICON, SM_CYICON);
-  description.hIconSm = loadIcon(instance, kSmallIcon, SM_CXSMICON, SM_CYSMICON);
+  description.hIcon = loadIcon(instance, IDI_PROGRAM, SM_CXICON, SM_CYICON);
+  description.hIconSm = loadIcon(instance, IDI_PROGRAM_SMALL, SM_CXSMICON, SM_CYSMICON);
   description.hCursor = LoadCursorA(nullptr, IDC_ARROW);
   description.hbrBackground = GetSysColorBrush(COLOR_WINDOW);
-  description.lpszMenuName = MAKEINTRESOURCEA(kMenu);
+  description.lpszMenuName = MAKEINTRESOURCEA(IDR_MENU);
   description.lpszClassName = name.c_str();
   return RegisterClassExA(&description) != 0;
 }
 
 bool showMainWindow(HINSTANCE instance, int request) {
-  const std::string title = resourceString(instance, kTitleString);
-  const std::string className = resourceString(instance, kClassNameString);
+  const std::string title = resourceString(instance, IDS_TITLE);
+  const std::string className = resourceString(instance, IDS_WINDOW_CLASS);
   setProgramTitle(title);
   registerClass(instance, className);
   HWND window =
@@ -97,7 +91,7 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE /*previous*/, char* commandLine
   using namespace scorvane;
   prepareContest();
   if (!showMainWindow(instance, request)) return 0;
-  HACCEL accelerators = LoadAcceleratorsA(instance, MAKEINTRESOURCEA(kAccelerators));
+  HACCEL accelerators = LoadAcceleratorsA(instance, MAKEINTRESOURCEA(IDR_ACCELERATORS));
   startKeepingWork(systemFiles());
   openContestOfCommandLine(*mainWindow(), commandLine);
   return runMessageLoop(mainWindow()->native(), accelerators);

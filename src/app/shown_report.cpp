@@ -41,10 +41,7 @@ class KeptBehaviour : public DialogBehaviour {
 std::optional<ReportRequest> askReasonsClass(MainWindow& window) {
   ReasonsClassDialog dialog(currentContest());
   window.runDialog(IDD_REASONS_CLASS, dialog);
-  if (!dialog.chosenClass()) return std::nullopt;
-  ReportRequest request;
-  request.classIndex = dialog.chosenClass();
-  return request;
+  return dialog.request();
 }
 
 std::optional<ReportRequest> askRound(MainWindow& window) {

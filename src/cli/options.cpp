@@ -3,10 +3,10 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <limits>
 
 #include "cli/suggestion.h"
+#include "text/number.h"
 
 namespace scorvane {
 
@@ -42,14 +42,6 @@ bool sameWord(const std::string& a, std::string_view b) {
   return CLI::detail::to_lower(a) == CLI::detail::to_lower(std::string(b));
 }
 
-std::optional<std::int32_t> wholeNumber(std::string_view text) {
-  std::int32_t value = 0;
-  const char* end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, value);
-  if (error != std::errc() || stop != end) return std::nullopt;
-  return value;
-}
-
 // As the library wants its checks: "" when all is well.
 std::string readKind(const std::string& word, ScoreKind& kind) {
   for (const ScoreKind known : kScoreKinds) {
@@ -62,7 +54,7 @@ std::string readKind(const std::string& word, ScoreKind& kind) {
 
 std::string readNumber(const std::string& text, CliOptions& options) {
   const bool percent = text.ends_with('%');
-  options.number = wholeNumber(std::string_view(text).substr(0, text.size() - (percent ? 1 : 0)));
+  options.number = exactNumber(std::string_view(text).substr(0, text.size() - (percent ? 1 : 0)));
   if (percent) options.request.percent = true;
   if (options.number && *options.number >= 0) return "";
   return inQuotes(text) + " is neither a number of rows, such as 10, nor a percentage, such as 25%";
@@ -133,7 +125,7 @@ Refusal refuseUnknown(const CLI::App& app) {
 }
 
 Refusal findReport(const std::string& word, CliOptions& options) {
-  const std::optional<std::int32_t> id = wholeNumber(word);
+  const std::optional<std::int32_t> id = exactNumber(word);
   std::vector<std::string> captions;
   for (const Command& command : commandTable()) {
     if (command.report() == nullptr) continue;

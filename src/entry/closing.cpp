@@ -5,17 +5,10 @@
 
 namespace scorvane {
 
-namespace {
-
-constexpr int kDone = 1;
-constexpr int kCancelled = 2;
-
-}  // namespace
-
 void endOn(Dialog& dialog, ControlId id, ControlEvent event, Escape escape) {
   if (event != ControlEvent::clicked) return;
   if (id == kCancelId && escape == Escape::leavesFile) {
-    dialog.end(kCancelled);
+    dialog.end(kCancelId);
   } else if (id == IDC_ENTRY_DONE || id == kOkId || id == kCancelId) {
     saveAndEnd(dialog);
   }
@@ -24,7 +17,7 @@ void endOn(Dialog& dialog, ControlId id, ControlEvent event, Escape escape) {
 void saveAndEnd(Dialog& dialog) {
   // Odd but required, docs/required-behaviour.md: untitled-scores-are-not-saved
   if (!currentFileName().empty()) saveCurrent(dialog);
-  dialog.end(kDone);
+  dialog.end(kOkId);
 }
 
 }  // namespace scorvane

@@ -9,6 +9,7 @@
 #include "entry/last_score.h"
 #include "entry/score_fields.h"
 #include "model/class_lists.h"
+#include "text/format.h"
 #include "text/number.h"
 
 namespace scorvane {
@@ -40,24 +41,27 @@ void enableFor(Dialog& dialog, ControlId field, bool carried) {
   if (!carried) dialog.setText(field, "");
 }
 
-// Reads a reasons or questions score. False when it is out of range.
-bool readNumber(const std::string& text, std::optional<std::int32_t>& score) {
-  const std::optional<std::int64_t> typed = typedNumber(text);
-  if (!typed) return true;
-  if (*typed < 0 || *typed > kTopNumberScore) return false;
+// Reads a reasons or questions score; no number is none. Returns why it is refused, or nothing.
+std::optional<Refusal> readNumber(const Dialog& dialog, ControlId field, const char* scoreName,
+                                  std::optional<std::int32_t>& score) {
+  const std::optional<std::int64_t> typed = typedNumber(dialog.text(field));
+  if (!typed) return std::nullopt;
+  if (*typed < 0 || *typed > kTopNumberScore) {
+    return Refusal{
+        formatText("Error:  %s score must be between 0 and %d.", scoreName, kTopNumberScore),
+        {field},
+        field};
+  }
   score = static_cast<std::int32_t>(*typed);
-  return true;
+  return std::nullopt;
 }
 
 std::optional<Refusal> readScores(const Dialog& dialog, TypedScores& typed) {
-  if (!readNumber(dialog.text(IDC_ENTRY_REASONS), typed.reasons)) {
-    return Refusal{
-        "Error:  Reasons score must be between 0 and 50.", {IDC_ENTRY_REASONS}, IDC_ENTRY_REASONS};
+  if (auto refusal = readNumber(dialog, IDC_ENTRY_REASONS, "Reasons", typed.reasons)) {
+    return refusal;
   }
-  if (!readNumber(dialog.text(IDC_ENTRY_QUESTIONS), typed.questions)) {
-    return Refusal{"Error:  Questions score must be between 0 and 50.",
-                   {IDC_ENTRY_QUESTIONS},
-                   IDC_ENTRY_QUESTIONS};
+  if (auto refusal = readNumber(dialog, IDC_ENTRY_QUESTIONS, "Questions", typed.questions)) {
+    return refusal;
   }
   if (const auto refusal = readLetter(dialog.text(IDC_ENTRY_LETTER), typed.letter)) {
     // Odd but required, docs/required-behaviour.md: refused-letter-takes-the-reasons-score

@@ -1,8 +1,6 @@
 #include "exchange/earlier_saves_dialog.h"
 
-#include <algorithm>
 #include <array>
-#include <cctype>
 #include <ctime>
 #include <utility>
 #include <variant>
@@ -26,6 +24,7 @@ constexpr std::array kTable = {IDC_SAVE_TIMES, IDC_SAVE_CONTESTANTS, IDC_SAVE_SC
                                IDC_SAVE_CHANGES};
 constexpr std::size_t kChangesWidth = 64;
 
+// Where the hour begins in a time's text.
 constexpr std::size_t kHour = 13;
 
 // Such as "Jul 18, 2026  2:31 PM", by the clock on the wall; all of one length.
@@ -53,12 +52,6 @@ std::optional<Contest> contestOf(const EarlierSave& save) {
   return contest == nullptr ? std::nullopt : std::optional(std::move(*contest));
 }
 
-// How many people it has: numbers in reserve are none.
-std::int64_t countContestants(const Contest& contest) {
-  return std::count_if(contest.contestantNames.begin(), contest.contestantNames.end(),
-                       [](const auto& entry) { return !entry.second.empty(); });
-}
-
 // What an unsaved rest holds is told by what it would change, as no save followed it.
 std::string changesText(const EarlierSave& save, const Contest& contest, const Contest& next) {
   if (save.contestPath.empty()) return "never saved: " + contest.settings.contestName;
@@ -70,20 +63,11 @@ void selectRow(Dialog& dialog, std::optional<int> line) {
   for (const ControlId list : kTable) dialog.select(list, line);
 }
 
-// A path reaches the same file in capitals and in small letters, on Windows at least.
-bool isOpenContest(FileSystem& files, const std::string& path) {
-  const std::string chosen = fullPath(files, path), open = fullPath(files, currentFileName());
-  const auto small = [](unsigned char c) { return std::tolower(c); };
-  return !currentFileName().empty() &&
-         std::equal(chosen.begin(), chosen.end(), open.begin(), open.end(),
-                    [&](char a, char b) { return small(a) == small(b); });
-}
-
 void saveAs(Dialog& dialog, const EarlierSave& save) {
   const auto path = dialog.chooseFile(contestFileQuestion(FileQuestion::Purpose::save));
   if (!path) return;
   FileSystem& files = sessionFiles();
-  if (isOpenContest(files, *path)) {
+  if (!currentFileName().empty() && reachesSameFile(files, *path, currentFileName())) {
     dialog.show("This is the file of the open contest.  Go Back puts an earlier save into it.",
                 "Error");
     return;
@@ -115,8 +99,7 @@ void EarlierSavesDialog::onOpen(Dialog& dialog) {
   for (const EarlierSave& save : saves_) {
     auto contest = contestOf(save);
     columns[0].push_back(timeText(save.time));
-    columns[1].push_back(
-        contest ? formatText("%8lld", static_cast<long long>(countContestants(*contest))) : "");
+    columns[1].push_back(contest ? formatText("%8zu", countNamed(*contest)) : "");
     columns[2].push_back(
         contest ? formatText("%8lld", static_cast<long long>(countScores(*contest))) : "");
     columns[3].push_back(contest ? changesText(save, *contest, next) : "cannot be read");
@@ -162,8 +145,7 @@ void EarlierSavesDialog::goBack(Dialog& dialog, const EarlierSave& save, Contest
   if (!keepPresentContest()) {
     dialog.show(
         "The contest could not be kept as it is now, so it was left unchanged.  Perhaps the disk "
-        "is "
-        "full.  Save As puts the earlier save into a file of its own.",
+        "is full.  Save As puts the earlier save into a file of its own.",
         "Error");
     return;
   }

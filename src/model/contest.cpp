@@ -20,6 +20,12 @@ void removeAt(std::vector<Element>& column, std::int32_t index) {
   }
 }
 
+// How many of the three scores of a card a record holds.
+int countEntered(const ScoreRecord& record) {
+  return (record.letter != kNoLetter ? 1 : 0) + (record.reasonsScore != 0 ? 1 : 0) +
+         (record.questionsScore != 0 ? 1 : 0);
+}
+
 const std::string kEmpty;
 
 }  // namespace
@@ -85,6 +91,12 @@ const std::string& contestantName(const Contest& contest, ContestantNumber numbe
   return name == nullptr ? kEmpty : *name;
 }
 
+std::size_t countNamed(const Contest& contest) {
+  return static_cast<std::size_t>(
+      std::count_if(contest.contestantNames.begin(), contest.contestantNames.end(),
+                    [](const auto& entry) { return !entry.second.empty(); }));
+}
+
 ReasonsPlace reasonsPlaceOf(const Contest& contest, ContestantNumber number) {
   const ReasonsPlace* place = contest.reasonsPlace.find(number);
   return place == nullptr ? ReasonsPlace{} : *place;
@@ -107,9 +119,7 @@ const std::string& categoryName(const Contest& contest, std::int32_t index) {
 bool hasScores(const Contest& contest) {
   for (const auto& [number, records] : contest.scores) {
     for (const auto& [classIndex, record] : records) {
-      if (record.letter != kNoLetter || record.reasonsScore != 0 || record.questionsScore != 0) {
-        return true;
-      }
+      if (countEntered(record) > 0) return true;
     }
   }
   return false;
@@ -119,8 +129,7 @@ std::int64_t countScores(const Contest& contest) {
   std::int64_t count = 0;
   for (const auto& [number, records] : contest.scores) {
     for (const auto& [classIndex, record] : records) {
-      count += (record.letter != kNoLetter ? 1 : 0) + (record.reasonsScore != 0 ? 1 : 0) +
-               (record.questionsScore != 0 ? 1 : 0);
+      count += countEntered(record);
     }
   }
   return count;

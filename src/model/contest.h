@@ -114,6 +114,9 @@ struct Contest {
 /// Name of a contestant; "" when the number does not exist.
 [[nodiscard]] const std::string& contestantName(const Contest& contest, ContestantNumber number);
 
+/// How many contestants have a name: numbers that are only reserved do not count.
+[[nodiscard]] std::size_t countNamed(const Contest& contest);
+
 /// A contestant's place in the reasons order; unassigned when the number does not exist.
 [[nodiscard]] ReasonsPlace reasonsPlaceOf(const Contest& contest, ContestantNumber number);
 

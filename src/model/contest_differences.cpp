@@ -228,7 +228,7 @@ class Comparison {
                compareCards(number, here == nullptr ? nullptr : here_.scores.find(number),
                             there == nullptr ? nullptr : there_.scores.find(number));
              });
-    sortAsCardsLie();
+    sortInOrderOfCards();
   }
 
   void compareCards(ContestantNumber number, const ClassScores* here, const ClassScores* there) {
@@ -262,7 +262,7 @@ class Comparison {
     }
   }
 
-  void sortAsCardsLie() {
+  void sortInOrderOfCards() {
     const auto pile = [this](const ScoreDifference& score) {
       const Contest& contest = here_.contestantNames.contains(score.number) ? here_ : there_;
       ReasonsPlace place = {groupOfLetter(groupOfContestant(contest, score.number)), 0};

@@ -30,7 +30,8 @@ void compactReasonsOrder(Contest& contest);
 /// Odd but required, docs/required-behaviour.md: deleted-contestant-keeps-cell
 void leaveReasonsOrder(Contest& contest, ContestantNumber number);
 
-/// Empties every cell that holds a contestant, whatever the place says; whether there was one.
+/// Empties every cell that holds the contestant, whatever the place says. Returns whether there was
+/// one.
 bool clearReasonsCells(Contest& contest, ContestantNumber number);
 
 /// The speakers without a place: named contestants, in ascending order.

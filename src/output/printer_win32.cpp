@@ -79,7 +79,9 @@ class SelectedFont {
   /// Keeps the present font when the new one cannot be made.
   void select(PrintFont font) {
     if (font == PrintFont::small) {
-      selectHeight(-55);
+      // Odd but required, docs/required-behaviour.md: small-font-of-fixed-height
+      constexpr LONG kSmallHeight = -55;
+      selectHeight(kSmallHeight);
       return;
     }
     selectHeight(0);
@@ -220,6 +222,7 @@ void performJob(HDC printer, const std::vector<PrintOperation>& operations,
                 const Performer& performer) {
   DOCINFOA document = {};
   document.cbSize = sizeof(document);
+  // Odd but required, docs/required-behaviour.md: print-job-name
   document.lpszDocName = "Bitmap Printing Test";
   if (StartDocA(printer, &document) <= 0) {
     EndDoc(printer);

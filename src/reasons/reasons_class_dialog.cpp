@@ -31,7 +31,7 @@ void ReasonsClassDialog::choose(Dialog& dialog) {
     dialog.show("You must select a reasons class before proceeding.", "Error");
     return;
   }
-  chosen_ = chosen;
+  request_.emplace().classIndex = chosen;
   dialog.end(kOkId);
 }
 

@@ -1,10 +1,10 @@
 // "Reasons Class to Score": the operator chooses the reasons class of a sheet.
 #pragma once
 
-#include <cstdint>
 #include <optional>
 
 #include "model/contest.h"
+#include "session/report_request.h"
 #include "ui/dialog.h"
 
 namespace scorvane {
@@ -14,8 +14,8 @@ class ReasonsClassDialog : public DialogBehaviour {
   /// Offers the reasons classes of `contest`, which must outlive the dialog.
   explicit ReasonsClassDialog(const Contest& contest) : contest_(contest) {}
 
-  /// Index (from 0) of the class chosen with OK; nothing when the dialog was cancelled.
-  [[nodiscard]] std::optional<std::int32_t> chosenClass() const { return chosen_; }
+  /// What was asked for with OK; nothing when the dialog was cancelled.
+  [[nodiscard]] const std::optional<ReportRequest>& request() const { return request_; }
 
   void onOpen(Dialog& dialog) override;
   void onEvent(Dialog& dialog, ControlId id, ControlEvent event) override;
@@ -25,7 +25,7 @@ class ReasonsClassDialog : public DialogBehaviour {
   void choose(Dialog& dialog);
 
   const Contest& contest_;
-  std::optional<std::int32_t> chosen_;
+  std::optional<ReportRequest> request_;
 };
 
 }  // namespace scorvane

@@ -1,7 +1,5 @@
 #include "results/rankings.h"
 
-#include <algorithm>
-
 #include "model/class_lists.h"
 #include "model/team_index.h"
 #include "results/individual_ranking.h"
@@ -16,12 +14,6 @@ namespace {
 std::int64_t rowsToList(const ReportRequest& request, std::size_t available) {
   if (!request.percent) return request.numToReport;
   return static_cast<std::int64_t>((request.numToReport / 100.0) * static_cast<double>(available));
-}
-
-std::size_t countNamed(const Contest& contest) {
-  return static_cast<std::size_t>(
-      std::count_if(contest.contestantNames.begin(), contest.contestantNames.end(),
-                    [](const auto& entry) { return !entry.second.empty(); }));
 }
 
 std::vector<MemberRow> memberRows(const Contest& contest,

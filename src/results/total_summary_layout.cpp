@@ -1,8 +1,6 @@
 #include "results/total_summary_layout.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cstring>
 #include <numeric>
 #include <utility>
@@ -18,26 +16,13 @@ constexpr std::size_t kLongestTitle = 16;
 constexpr std::size_t kLeastNumberWidth = 5;
 constexpr std::size_t kNameWidth = 21;  // with the blank before it
 
-class Digits {
- public:
-  explicit Digits(std::int32_t value)
-      : end_(std::to_chars(text_.data(), text_.data() + text_.size(), value).ptr) {}
-  [[nodiscard]] std::string_view text() const {
-    return {text_.data(), static_cast<std::size_t>(end_ - text_.data())};
-  }
-
- private:
-  std::array<char, 12> text_{};
-  const char* end_;
-};
-
 void appendRight(std::string& out, std::string_view text, std::size_t width) {
   if (text.size() < width) out.append(width - text.size(), ' ');
   out += text;
 }
 
 std::size_t widestOf(std::int32_t least, std::int32_t most) {
-  return std::max(Digits(least).text().size(), Digits(most).text().size());
+  return std::max(std::to_string(least).size(), std::to_string(most).size());
 }
 
 // Each column's widest number, or its heading if that is wider.
@@ -70,7 +55,7 @@ std::vector<std::size_t> columnWidthsOf(const SummaryTable& table) {
 std::size_t numberWidthOf(const SummaryTable& table) {
   std::size_t width = kLeastNumberWidth;
   for (const SummaryRow& row : table.rows()) {
-    width = std::max(width, Digits(row.number).text().size());
+    width = std::max(width, std::to_string(row.number).size());
   }
   return width;
 }
@@ -176,7 +161,7 @@ void SummaryLayout::appendCells(std::string& out, std::size_t band,
     out.append(block.padding, ' ');
     for (std::size_t column = 0; column < block.columnWidths.size(); ++column) {
       if (column > 0) out += ' ';
-      appendRight(out, Digits(cells[block.content->firstColumn + column]).text(),
+      appendRight(out, std::to_string(cells[block.content->firstColumn + column]),
                   block.columnWidths[column]);
     }
   }

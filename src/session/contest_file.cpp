@@ -1,6 +1,6 @@
 #include "session/contest_file.h"
 
-#include <functional>
+#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -12,6 +12,7 @@
 #include "session/open_contest.h"
 #include "session/recovery.h"
 #include "session/recovery_offer.h"
+#include "storage/content_hash.h"
 #include "storage/contest_reader.h"
 #include "storage/contest_writer.h"
 #include "storage/file.h"
@@ -32,7 +33,7 @@ constexpr const char* kNotSaved =
 /// What the contest's file held when this program last read or wrote it.
 struct KnownContent {
   std::string path;
-  std::size_t hash = 0;
+  std::uint64_t hash = 0;
 };
 
 KnownContent& knownContent() {
@@ -40,14 +41,10 @@ KnownContent& knownContent() {
   return known;
 }
 
-std::size_t hashOf(std::string_view bytes) {
-  return std::hash<std::string_view>()(bytes);
-}
-
 /// Whether saving would overwrite what somebody else has saved to the current file meanwhile, such
 /// as a second copy of the program with the same contest.
 bool isForeign(std::string_view found, std::string_view ownBytes) {
-  return knownContent().path == currentFileName() && hashOf(found) != knownContent().hash &&
+  return knownContent().path == currentFileName() && contentHash(found) != knownContent().hash &&
          found != ownBytes;
 }
 
@@ -74,7 +71,7 @@ Saving save(std::string_view bytes, ForeignChanges foreignChanges) {
     return Saving::wouldLoseForeignChanges;
   }
   if (!saveAndKeepOld(currentFileName(), old, bytes)) return Saving::failed;
-  knownContent() = {currentFileName(), hashOf(bytes)};
+  knownContent() = {currentFileName(), contentHash(bytes)};
   contestHasFile(currentFileName(), bytes);
   if (isKeepingWork()) tidyEarlierSaves(sessionFiles(), currentFileName(), savedState().hash);
   return Saving::done;
@@ -150,7 +147,7 @@ bool openContest(Window& owner, const std::string& path) {
   auto& loaded = std::get<LoadedContest>(loading);
   currentContest() = std::move(loaded.contest);
   currentFileName() = path;
-  knownContent() = {path, hashOf(loaded.bytes)};
+  knownContent() = {path, contentHash(loaded.bytes)};
   contestHasFile(path, loaded.bytes);
   if (isKeepingWork()) followRenamedContest(sessionFiles(), path, savedState().hash);
   reportText() = offerRecovery(owner).value_or(kWelcomeText);

@@ -13,6 +13,14 @@ std::string dataFolder(FileSystem& files, const std::string& name) {
   return files.localDataFolder() + "/Scorvane/" + name;
 }
 
+// A path reaches the same file in capitals and in small letters, on Windows at least.
+std::string inSmallLetters(std::string path) {
+  for (char& c : path) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  }
+  return path;
+}
+
 }  // namespace
 
 std::string recoveryFolder(FileSystem& files) {
@@ -39,17 +47,17 @@ std::string fullPath(FileSystem& files, const std::string& contestPath) {
   return files.resolve(contestPath).value_or(contestPath);
 }
 
+bool reachesSameFile(FileSystem& files, const std::string& a, const std::string& b) {
+  return inSmallLetters(fullPath(files, a)) == inSmallLetters(fullPath(files, b));
+}
+
 std::string contestKey(FileSystem& files, const std::string& contestPath) {
   if (contestPath.empty()) return "Untitled";
   constexpr std::size_t kMostOfName = 100;
-  std::string full = fullPath(files, contestPath);
+  const std::string full = fullPath(files, contestPath);
   std::string name = full.substr(full.find_last_of("/\\") + 1);
   name = name.substr(0, std::min(name.rfind('.'), kMostOfName));
-  // A path reaches the same file in capitals and in small letters, on Windows at least.
-  for (char& c : full) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
-  return name + "-" + hashText(contentHash(full));
+  return name + "-" + hashText(contentHash(inSmallLetters(full)));
 }
 
 }  // namespace scorvane

@@ -20,6 +20,9 @@ namespace scorvane {
 /// The full name of a contest's file, the path as given when it cannot be told.
 [[nodiscard]] std::string fullPath(FileSystem& files, const std::string& contestPath);
 
+/// Whether two paths reach the same file; capitals and small letters are one, as on Windows.
+[[nodiscard]] bool reachesSameFile(FileSystem& files, const std::string& a, const std::string& b);
+
 /// What the things kept of a contest are named by: its file's name and a hash of the full path, so
 /// that an operator finds it and no two contests share it. "Untitled" for an empty path.
 [[nodiscard]] std::string contestKey(FileSystem& files, const std::string& contestPath);

@@ -40,7 +40,7 @@ enum class Keeping { failed, known, kept };
 Keeping keepEarlierSave(FileSystem& files, const std::string& contestPath, std::string_view bytes,
                         bool isUnsavedRest, std::optional<std::int64_t> time = std::nullopt);
 
-/// Takes the newest save away, to give its room back to a disk that is full.
+/// Removes the newest save, to free its room on a disk that is full.
 void forgetNewestSave(FileSystem& files, const std::string& contestPath);
 
 /// Thins what is kept of a contest and notes its file's content by its hash, by which the file is

@@ -1,5 +1,5 @@
 // Keeping unsaved work safe. While the open contest differs from its file, a recovery copy of it
-// stands in the operator's folder for application data: from there it comes back after the program
+// is kept in the operator's folder for application data: from there it comes back after the program
 // was ended, whatever ended it.
 #pragma once
 

@@ -11,7 +11,6 @@
 #include "storage/contest_salvage.h"
 #include "storage/line_scanner.h"
 #include "text/format.h"
-#include "text/number.h"
 
 namespace scorvane {
 
@@ -56,19 +55,6 @@ FileState readOrigin(FieldScanner fields, std::string_view line, std::uint64_t& 
   return state;
 }
 
-TypedScore readTyped(std::string_view line) {
-  FieldScanner fields(line);
-  TypedScore score;
-  score.number = leadingNumber(fields.nextOrEmpty());
-  score.classIndex = leadingNumber(fields.nextOrEmpty());
-  const std::string_view letter = fields.nextOrEmpty();
-  score.record.letter = letter.empty() ? kNoLetter : letter.front();
-  score.record.placingScore = leadingNumber(fields.nextOrEmpty());
-  score.record.reasonsScore = leadingNumber(fields.nextOrEmpty());
-  score.record.questionsScore = leadingNumber(fields.nextOrEmpty());
-  return score;
-}
-
 void addTyped(const RecoveryCopy& copy, Contest& contest) {
   for (const TypedScore& score : copy.typed) {
     const bool hasClass = score.classIndex >= 0 && score.classIndex < contest.classes.count();
@@ -110,7 +96,7 @@ RecoveryCopy readRecoveryCopy(std::string_view bytes) {
     if (fields.nextOrEmpty() == kOriginKey) {
       copy.grewFrom = readOrigin(fields, *line, baseHash);
     } else {
-      copy.typed.push_back(readTyped(*line));
+      copy.typed.push_back(parseScoreLine(*line));
     }
   }
   copy.baseIsWhole = copy.grewFrom && contentHash(copy.base) == baseHash;

@@ -1,6 +1,6 @@
 // The recovery copy as bytes: an ordinary contest file, a line that says which state of the
 // contest's file it grew from, and one line per score typed since. The added lines end with a
-// check value, so that a line is known to be whole, and to be an added one, wherever it stands.
+// check value, so that a line is known to be whole, and to be an added one, wherever it is.
 #pragma once
 
 #include <cstdint>
@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "model/contest.h"
+#include "storage/score_reader.h"
 
 namespace scorvane {
 
@@ -28,11 +29,8 @@ struct FileState {
   }
 };
 
-struct TypedScore {
-  ContestantNumber number = 0;
-  std::int32_t classIndex = 0;
-  ScoreRecord record;
-};
+/// A contestant's record for a class after a score was typed.
+using TypedScore = ScoreLine;
 
 struct RecoveryCopy {
   std::optional<FileState> grewFrom;  ///< nothing when that line is damaged

@@ -50,7 +50,9 @@ void appendCategories(std::string& out, const std::vector<std::string>& categori
     line += fieldOf(category).substr(0, kLineRoom - line.size());
   }
   // A single name that is empty would read back as the placeholder; so does none at all.
-  if (line.size() <= kCategoriesKey.size() + 1) line.assign(kCategoriesKey) += "\tnone";
+  if (line.size() <= kCategoriesKey.size() + 1) {
+    line.assign(kCategoriesKey).append("\t").append(kNoCategory);
+  }
   out += line;
   out += kLineEnd;
 }

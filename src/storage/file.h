@@ -123,7 +123,7 @@ class FileSystem {
 
   /// Opens a file for writing behind its content; makes it when there is none.
   [[nodiscard]] virtual Opened openToAppend(const std::string& path) = 0;
-  /// What a folder holds, by name; nothing when it cannot be read or there is none.
+  /// What a folder holds, sorted by name; empty when it cannot be read or does not exist.
   [[nodiscard]] virtual std::vector<ListedFile> list(const std::string& folder) = 0;
   /// Makes a folder and those it lies in, as far as they are missing.
   [[nodiscard]] virtual bool makeFolders(const std::string& folder) = 0;

@@ -189,8 +189,8 @@ std::int64_t ticksOf(const FILETIME& time) {
   return ((std::int64_t{time.dwHighDateTime} << 32) | time.dwLowDateTime) - kStartOf1970;
 }
 
-/// The folder's name in 8-bit text, if need be as it was in the days of eight letters.
-std::string spelled(const std::wstring& folder) {
+/// The folder's name in 8-bit text: its short form (8.3) when the long one has other characters.
+std::string narrowFolder(const std::wstring& folder) {
   const std::string path = narrow(folder);
   if (wide(path) == folder) return path;
   std::wstring brief(MAX_PATH, L'\0');
@@ -322,7 +322,7 @@ class WindowsFileSystem : public FileSystem {
     std::array<wchar_t, MAX_PATH> folder{};
     const DWORD length =
         GetEnvironmentVariableW(L"LOCALAPPDATA", folder.data(), static_cast<DWORD>(folder.size()));
-    return length < folder.size() ? spelled(folder.data()) : std::string();
+    return length < folder.size() ? narrowFolder(folder.data()) : std::string();
   }
 
   std::optional<std::int64_t> lastChange(const std::string& path) override {

@@ -13,26 +13,6 @@ namespace scorvane {
 
 namespace {
 
-struct ScoreLine {
-  ContestantNumber number = 0;
-  std::int32_t classIndex = 0;
-  ScoreRecord record;
-};
-
-ScoreLine parseScoreLine(std::string_view line) {
-  FieldScanner fields(line);
-  ScoreLine score;
-  score.number = leadingNumber(fields.nextOrEmpty());
-  score.classIndex = leadingNumber(fields.nextOrEmpty());
-  const std::string_view letter = fields.nextOrEmpty();
-  if (letter.empty()) return score;
-  score.record.letter = letter.front();
-  score.record.placingScore = leadingNumber(fields.nextOrEmpty());
-  score.record.reasonsScore = leadingNumber(fields.nextOrEmpty());
-  score.record.questionsScore = leadingNumber(fields.nextOrEmpty());
-  return score;
-}
-
 /// Longer than any written line: with this much left, no bounds checks.
 constexpr std::size_t kLongestWritten = 64;
 
@@ -128,6 +108,20 @@ class ScoreCollector {
 };
 
 }  // namespace
+
+ScoreLine parseScoreLine(std::string_view line) {
+  FieldScanner fields(line);
+  ScoreLine score;
+  score.number = leadingNumber(fields.nextOrEmpty());
+  score.classIndex = leadingNumber(fields.nextOrEmpty());
+  const std::string_view letter = fields.nextOrEmpty();
+  if (letter.empty()) return score;
+  score.record.letter = letter.front();
+  score.record.placingScore = leadingNumber(fields.nextOrEmpty());
+  score.record.reasonsScore = leadingNumber(fields.nextOrEmpty());
+  score.record.questionsScore = leadingNumber(fields.nextOrEmpty());
+  return score;
+}
 
 bool readScores(LineScanner& lines, std::int64_t lineCount, Contest& contest) {
   ScoreCollector collector(contest);

@@ -24,6 +24,16 @@ std::string_view withoutOuterBlanks(std::string_view text) {
   return text;
 }
 
+// The number that all of the text is.
+template <typename Number>
+std::optional<Number> wholeText(std::string_view text) {
+  Number value = 0;
+  const char* end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, value);
+  if (error != std::errc() || stop != end) return std::nullopt;
+  return value;
+}
+
 }  // namespace
 
 std::int32_t leadingNumber(std::string_view text) {
@@ -42,12 +52,11 @@ std::int32_t leadingNumber(std::string_view text) {
 }
 
 std::optional<std::uint32_t> unsignedNumber(std::string_view text) {
-  const std::string_view digits = withoutOuterBlanks(text);
-  std::uint32_t value = 0;
-  const char* end = digits.data() + digits.size();
-  const auto [stop, error] = std::from_chars(digits.data(), end, value);
-  if (error != std::errc() || stop != end) return std::nullopt;
-  return value;
+  return wholeText<std::uint32_t>(withoutOuterBlanks(text));
+}
+
+std::optional<std::int32_t> exactNumber(std::string_view text) {
+  return wholeText<std::int32_t>(text);
 }
 
 std::optional<std::int64_t> typedNumber(std::string_view text) {

@@ -18,7 +18,11 @@ namespace scorvane {
 /// for 32 bits.
 [[nodiscard]] std::optional<std::uint32_t> unsignedNumber(std::string_view text);
 
-/// The same for fields where a pasted number may be out of range and is to be refused as such:
+/// The same without blanks, and with "-" before a number below 0: for words of a command line.
+[[nodiscard]] std::optional<std::int32_t> exactNumber(std::string_view text);
+
+/// As unsignedNumber(), for fields where a pasted number may be out of range and is to be refused
+/// as such:
 /// "-" may precede the digits, and a number of more than 18 digits returns the largest (or
 /// smallest) one of 18.
 [[nodiscard]] std::optional<std::int64_t> typedNumber(std::string_view text);

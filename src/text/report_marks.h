@@ -9,7 +9,7 @@ namespace scorvane {
 /// Shown when there is no report; the view draws the start-up picture beside it.
 inline constexpr const char* kWelcomeText = "Welcome to Scorvane!\n";
 
-/// Stands between pages of reports that are printed one sheet per page.
+/// Separates the pages of reports that are printed one sheet per page.
 inline constexpr const char* kPageBreakLine = "               ------- Page Break -------";
 
 /// Lines that switch the font while printing.

@@ -25,7 +25,7 @@ struct LineMessages {
 /// The names that the control understands.
 [[nodiscard]] const LineMessages& lineMessagesOf(NativeWindow control);
 
-/// The event that a notification of the control stands for; nothing for all others.
+/// The event that a notification of the control means; nothing for all others.
 [[nodiscard]] std::optional<ControlEvent> controlEvent(NativeWindow control, unsigned notification);
 
 }  // namespace scorvane

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "text/number.h"
+#include "ui/standard_ids.h"
 #include "ui/window.h"
 
 namespace scorvane {
@@ -18,8 +19,8 @@ using ControlId = int;
 
 /// Ids that the keyboard sends whether or not the dialog has such a button: Enter without a
 /// default push button, and Escape.
-inline constexpr ControlId kOkId = 1;
-inline constexpr ControlId kCancelId = 2;
+inline constexpr ControlId kOkId = IDOK;
+inline constexpr ControlId kCancelId = IDCANCEL;
 
 /// What a control can report; only what every desktop can report truthfully.
 enum class ControlEvent {
@@ -30,8 +31,8 @@ enum class ControlEvent {
   lostFocus,         ///< edit fields only
 };
 
-/// What a line of a list stands for, such as a contestant's number or a team's name. The behaviour
-/// sets it with the line and gets it back, so it never has to read its own captions.
+/// Identifies what a line of a list shows, such as a contestant's number or a team's name. The
+/// behaviour sets it with the line and gets it back, so it never has to read its own captions.
 using LineKey = std::variant<std::int32_t, std::string>;
 
 struct ListLine {

@@ -5,6 +5,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 #include "ui/control_kind_win32.h"
@@ -76,7 +77,7 @@ class NativeDialog final : public Dialog {
   bool ended_ = false;
   GraphicsObject columnFont_;
   std::vector<std::vector<HWND>> linkedLists_;
-  /// The keys of all lines so far; each line holds the position of its own.
+  /// The keys of all lines ever added; each line holds the position of its own.
   std::vector<LineKey> keys_;
 };
 

@@ -1,8 +1,6 @@
 // A window handle of the system, named without its header, and the display that shows the window.
 #pragma once
 
-#include "ui/native_window_win32.h"
-
 struct HWND__;
 
 namespace scorvane {

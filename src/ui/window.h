@@ -1,7 +1,8 @@
-// What the program asks of the desktop: message boxes, file dialogs and modal dialogs. All
-// behaviour talks to these ports, so that it runs and is tested without a windowing system.
+// What the program asks of the desktop over any window: message boxes and file dialogs. Behaviour
+// talks to this port alone, so that it runs and is tested without a windowing system.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>

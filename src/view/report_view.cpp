@@ -123,7 +123,7 @@ ReportView::Lines ReportView::linesAt(int top, int bottom) const {
           std::min(lineCount(), vertical_.position + bottom / metrics_.lineHeight)};
 }
 
-ReportView::Place ReportView::placeOf(int index) const {
+ReportView::Extent ReportView::extentOf(int index) const {
   const auto at = static_cast<std::size_t>(index);
   return {at == 0 ? 0 : lineEnds_[at - 1] + 1, lineEnds_[at]};
 }
@@ -131,14 +131,14 @@ ReportView::Place ReportView::placeOf(int index) const {
 // Whether the text is the one that was counted, so far as the ends of the line can tell.
 bool ReportView::isCounted(const std::string& text, int index) const {
   if (text.size() != textSize_ || !hasLine(index)) return text.size() == textSize_;
-  const auto [begin, end] = placeOf(index);
+  const auto [begin, end] = extentOf(index);
   return text[end] == '\n' && (begin == 0 || text[begin - 1] == '\n');
 }
 
 std::string_view ReportView::line(const std::string& text, int index) {
   if (!isCounted(text, index)) indexLines(text);
   if (!hasLine(index)) return {};
-  const auto [begin, end] = placeOf(index);
+  const auto [begin, end] = extentOf(index);
   return std::string_view(text).substr(begin, end - begin);
 }
 

@@ -80,12 +80,12 @@ class ReportView {
  private:
   void indexLines(const std::string& text);
   /// From the first byte of a line up to its line end.
-  struct Place {
+  struct Extent {
     std::size_t begin = 0;
     std::size_t end = 0;
   };
   [[nodiscard]] bool hasLine(int index) const { return index >= 0 && index < lineCount(); }
-  [[nodiscard]] Place placeOf(int index) const;
+  [[nodiscard]] Extent extentOf(int index) const;
   [[nodiscard]] bool isCounted(const std::string& text, int index) const;
   void setRanges();
   int moveVerticallyTo(int wanted);

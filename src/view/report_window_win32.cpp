@@ -7,6 +7,7 @@
 
 #include "text/report_marks.h"
 #include "ui/native_window_win32.h"
+#include "view/picture_ids.h"
 
 namespace scorvane {
 
@@ -17,8 +18,8 @@ struct PictureResource {
   int dotsPerInch;  // the resolution that the bitmap is drawn for
 };
 
-constexpr PictureResource kPicture = {162, 96};
-constexpr PictureResource kDensePicture = {163, 192};
+constexpr PictureResource kPicture = {IDB_WELCOME, 96};
+constexpr PictureResource kDensePicture = {IDB_WELCOME_DENSE, 192};
 constexpr int kFontPoints = 10;
 
 ViewSize clientSize(HWND window) {

@@ -35,7 +35,7 @@ class InstallerTest(DesktopTest):
         return self.desktop.wine(SETUP, "/S", *options, check=False).returncode
 
     def install(self, who, folder=None):
-        """Installs for this test, /CurrentUser or /AllUsers; gives the folder."""
+        """Installs for this test, /CurrentUser or /AllUsers; returns the folder."""
         named = [f"/D=C:\\{folder.name}"] if folder else []
         folder = folder or (self.for_all if who == "/AllUsers" else self.programs)
         self.assertEqual(self.setup(who, *named), 0)

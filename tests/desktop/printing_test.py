@@ -18,7 +18,7 @@ SMALL = {"command": PRINT_SMALL, "body": 89, "width": 3.96}
 
 
 def expected_pages(report, body_lines):
-    """What stands on the pages of a report, without empty lines; the time of printing as TIME."""
+    """What is on the pages of a report, without empty lines; the time of printing as TIME."""
     lines = report.replace("\t", " ").split("\n")[:-1]
     head = ["State Livestock Judging Championship         October 03, 2026", "Senior Division - Printed TIME"]
     bodies = [lines[i:i + body_lines] for i in range(4, len(lines), body_lines)]

@@ -37,7 +37,7 @@ class Recovery(DesktopTest):
         return [file for folder in self.kept for file in pathlib.Path(folder).glob(f"{kind}/**/*.scv")]
 
     def start_again(self, app, answer=None):
-        """Kills the program and starts it again; gives it, and what it asked."""
+        """Kills the program and starts it again; returns it, and what it asked."""
         app.tell("kill")
         app.close()
         app = self.start(self.file)

@@ -70,7 +70,7 @@ TEST(PrintLayout, TurnsReportsIntoPagesWithHeaderAndFooter) {
     all +=
         "== " + std::string(promise) + '\n' + written(layOutPrint(report, kHeader, linesPerPage));
   }
-  // Header and footer stand there in full once.
+  // Header and footer are there in full once.
   const std::size_t second = all.find("== ", 1);
   static const std::regex header(R"(1\|County ~\tFair         March 7, 2026\n2\|Senior - Printed )"
                                  R"(Sat Mar  7 09:05:02 2026\n3\|\n)");

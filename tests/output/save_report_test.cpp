@@ -10,7 +10,8 @@ namespace scorvane {
 
 namespace {
 
-// Saves `report` under a chosen name, or cancels; gives the question asked and nothing else shown.
+// Saves `report` under a chosen name, or cancels; returns the question asked and nothing else
+// shown.
 FileQuestion save(const char* report, const std::optional<std::string>& path) {
   MemoryWindow window;
   window.desktop.files = {path};

@@ -120,7 +120,7 @@ class Stage {
   }
 
  private:
-  // Takes the steps of a line; gives the line with the controls' names as they are.
+  // Takes the steps of a line; returns the line with the controls' names as they are.
   std::string take(const std::string& line) {
     static const std::regex opening("open (.*) over (.*)");
     static const std::regex step(R"((\w+)(?:( [^:]*)? (\d+))?(: (.*))?)");

@@ -1,6 +1,6 @@
 """Runs scorvane.exe under Wine on a virtual display and drives its windows by command and control id.
 
-`Desktop` is a display and a Wine prefix; `Desktop.start()` gives an `App`, whose windows are addressed
+`Desktop` is a display and a Wine prefix; `Desktop.start()` returns an `App`, whose windows are addressed
 by title and whose controls by the ids of the resource script. Nothing sleeps for a fixed time: every
 wait is for a condition, with a deadline.
 """
@@ -104,7 +104,7 @@ class Desktop:
         self.wine("reg", "add", key, *named, "/t", kind, "/d", value, "/f")
 
     def wine(self, *arguments, check=True, **options):
-        """Runs a Windows program to its end; gives the finished process."""
+        """Runs a Windows program to its end; returns the finished process."""
         return subprocess.run(["wine", *map(str, arguments)], env=self.environment, check=check,
                               stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                               stderr=subprocess.DEVNULL, timeout=180, **options)
@@ -118,7 +118,7 @@ class Desktop:
         return App(self, "start", " ".join([f'"{program}"', *arguments]))
 
     def open(self, document):
-        """Opens a document as a double click on it does; gives the program that took it."""
+        """Opens a document as a double click on it does; returns the program that took it."""
         return App(self, "open", windows_path(document))
 
     def screenshot(self, file):
@@ -156,7 +156,7 @@ class App:
         self.tell(*command)
 
     def tell(self, *fields):
-        """Sends the driver one command; gives the answer's fields."""
+        """Sends the driver one command; returns the answer's fields."""
         self.driver.stdin.write("\t".join(escape(str(f)) for f in fields) + "\n")
         self.driver.stdin.flush()
         answer = self.driver.stdout.readline().rstrip("\r\n")
@@ -193,7 +193,7 @@ class App:
         return box.text(0xFFFF), box.title()
 
     def answer(self, button=IDOK, caption=None):
-        """Presses a button of the message box on top and waits until it is gone; gives its text."""
+        """Presses a button of the message box on top and waits until it is gone; returns its text."""
         box = self.window(caption)
         text = box.text(0xFFFF)
         box.command(button)
@@ -253,7 +253,7 @@ class Window:
         self._tell("command", command_id)
 
     def send(self, control, message, first=0, second=0):
-        """Sends a message to a control; gives the answer."""
+        """Sends a message to a control; returns the answer."""
         return int(self._tell("send", control, message, first, second))
 
     def settle(self):

@@ -200,7 +200,7 @@ Fields windows(const Fields& /*f*/) {
   return found;
 }
 
-// Where a window stands on the display: left, top, width, height in pixels.
+// Position and size of a window on the display: left, top, width, height in pixels.
 Fields rectangle(const Fields& f) {
   RECT place{};
   GetWindowRect(toWindow(f.at(1)), &place);

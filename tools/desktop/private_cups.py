@@ -156,7 +156,7 @@ class PrivateCups:
         return sorted(self.output.glob("*.pdf"), key=lambda path: int(path.stem))
 
     def wait_for_document(self, number):
-        """Waits until `number` documents are printed; gives the last of them."""
+        """Waits until `number` documents are printed; returns the last of them."""
         wait_for(lambda: len(self.documents()) >= number, f"printed document {number}; see {self.root}/log")
         return self.documents()[number - 1]
 

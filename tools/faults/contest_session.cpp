@@ -24,7 +24,7 @@ namespace scorvane {
 
 namespace {
 
-/// Remembers the last message box; its file dialog gives the path that is asked for.
+/// Remembers the last message box; its file dialog returns the path that is asked for.
 class Desk : public Window {
  public:
   std::string message;

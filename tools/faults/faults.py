@@ -56,7 +56,7 @@ class Faults:
         return session
 
     def contest(self, path, size=40):
-        """A contest file of so many contestants; gives its bytes."""
+        """A contest file of so many contestants; returns its bytes."""
         subprocess.run([self.build / "make_contest", "--contestants", str(size), "--output", path], check=True)
         return path.read_bytes()
 
