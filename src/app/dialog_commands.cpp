@@ -13,6 +13,7 @@
 #include "reasons/reasons_reports.h"
 #include "session/contest_file.h"
 #include "session/open_contest.h"
+#include "session/recovery.h"
 #include "setup/edit_contestants_dialog.h"
 #include "setup/setup_classes_dialog.h"
 #include "setup/setup_contest_dialog.h"
@@ -68,6 +69,7 @@ void runGenerateReasonsOrder(MainWindow& window) {
     window.show(*refusal, "Error");
     return;
   }
+  contestChanged();
   saveCurrent(window);
   showReasonsOrder(window);
 }

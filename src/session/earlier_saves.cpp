@@ -54,6 +54,12 @@ struct KeptFiles {
   std::int64_t lastSequence = 0;
 };
 
+// After a power cut a folder's list may be behind the files.
+std::uint64_t sizeOf(FileSystem& files, const std::string& path) {
+  const auto file = files.openToRead(path);
+  return file == nullptr ? 0 : file->size();
+}
+
 // A file of another size than its name says was cut off by the end of the program.
 KeptFiles keptIn(FileSystem& files, const std::string& folder, const std::string& contestPath) {
   KeptFiles kept;
@@ -61,9 +67,9 @@ KeptFiles keptIn(FileSystem& files, const std::string& folder, const std::string
     const auto name = KeptName::read(file.name);
     if (!name) continue;
     kept.lastSequence = std::max(kept.lastSequence, name->sequence);
-    if (name->size != file.size) continue;
-    kept.saves.push_back(
-        {folder + "/" + file.name, name->time, name->isUnsavedRest, contestPath, file.size});
+    const std::string path = folder + "/" + file.name;
+    if (name->size != file.size && name->size != sizeOf(files, path)) continue;
+    kept.saves.push_back({path, name->time, name->isUnsavedRest, contestPath, name->size});
   }
   std::reverse(kept.saves.begin(), kept.saves.end());
   return kept;

@@ -198,7 +198,11 @@ void leaveContest() {
   const std::string bytes = writeContest(currentContest());
   const FileState& grewFrom = kept().grewFrom;
   const bool isSaved = contentHash(bytes) == savedHash() && !kept().saveFailed;
-  const bool isOffered = kept().saveFailed && !kept().path.empty();
+  if (kept().saveFailed && !kept().isCopyWhole) {
+    kept().failedAt.reset();  // the last attempt
+    rewriteCopy(bytes);
+  }
+  const bool isOffered = kept().saveFailed && kept().isCopyWhole;
   if (isSaved || (!isOffered && keepEarlierSave(files, grewFrom.exists ? grewFrom.path : "", bytes,
                                                 true) != Keeping::failed)) {
     discardCopy();

@@ -22,9 +22,11 @@ namespace {
 
 /// A copy that no running program uses.
 struct FoundCopy {
-  FoundCopy(FileSystem& files, std::string path_, std::int64_t changed_)
-      : path(std::move(path_)), changed(changed_) {
+  FoundCopy(FileSystem& files, const ListedFile& listed)
+      : path(recoveryFolder(files) + "/" + listed.name) {
     claim = files.claim(path).hold;
+    // After a power cut a folder's list may still tell of the time when the file was opened.
+    changed = files.lastChange(path).value_or(listed.changed);
     if (claim != nullptr) bytes = files.readWhole(path);
     if (bytes) copy = readRecoveryCopy(*bytes);
   }
@@ -33,7 +35,7 @@ struct FoundCopy {
   ~FoundCopy() = default;
 
   std::string path;
-  std::int64_t changed;
+  std::int64_t changed = 0;
   std::shared_ptr<void> claim;
   std::optional<std::string> bytes;  ///< nothing when it is in use or cannot be read
   RecoveryCopy copy;
@@ -57,7 +59,14 @@ void removeLeftovers(FileSystem& files) {
   }
 }
 
+// What is read of a damaged copy may be wrong, so it is kept as it is, too.
+void keepIfDamaged(FileSystem& files, const FoundCopy& found, const std::string& contestPath) {
+  if (found.copy.baseIsWhole) return;
+  keepEarlierSave(files, contestPath, *found.bytes, true, found.changed);
+}
+
 void moveToEarlierSaves(FileSystem& files, const FoundCopy& found, const std::string& contestPath) {
+  keepIfDamaged(files, found, contestPath);
   const auto contest = recoveredContest(found.copy);
   const std::string bytes = contest ? writeContest(*contest) : *found.bytes;
   if (keepEarlierSave(files, contestPath, bytes, true, found.changed) == Keeping::failed) return;
@@ -82,7 +91,10 @@ RecoveredWork workIn(const Contest& file, const Contest& recovered, const Recove
   if (file.classes.className == recovered.classes.className) {
     for (const auto& [number, records] : recovered.scores) {
       for (const auto& [classIndex, record] : records) {
-        if (record != scoreRecord(file, number, classIndex)) list(number, classIndex);
+        // A placing score alone was worked out anew and not typed.
+        ScoreRecord before = scoreRecord(file, number, classIndex);
+        before.placingScore = record.placingScore;
+        if (record != before) list(number, classIndex);
       }
     }
   }
@@ -167,9 +179,7 @@ std::optional<std::string> offer(Window& owner, const FoundCopy& found) {
   if (grewFromFile && recovered) {
     const RecoveredWork work = workIn(file, *recovered, found.copy);
     if (wantsBack(owner, work, clockTime(found.changed, files.now()))) {
-      if (!found.copy.baseIsWhole) {
-        keepEarlierSave(files, savedState().path, *found.bytes, true, found.changed);
-      }
+      keepIfDamaged(files, found, savedState().path);
       currentContest() = *recovered;
       adoptCopy(found.path, found.claim);
       saveCurrent(owner);
@@ -192,7 +202,7 @@ std::optional<std::string> offerRecovery(Window& owner) {
     return !status || !status->exists;
   };
   for (const ListedFile& file : listedCopies(files)) {
-    const FoundCopy found(files, recoveryFolder(files) + "/" + file.name, file.changed);
+    const FoundCopy found(files, file);
     if (!found.bytes || (!isCopyOf(file.name, key) && !movedHere(found.copy))) continue;
     if (auto report = offer(owner, found)) return report;
   }
@@ -203,7 +213,7 @@ void keepUntitledRests(FileSystem& files) {
   removeLeftovers(files);
   const std::string key = contestKey(files, "");
   for (const ListedFile& file : listedCopies(files)) {
-    const FoundCopy found(files, recoveryFolder(files) + "/" + file.name, file.changed);
+    const FoundCopy found(files, file);
     if (!found.bytes) continue;
     const bool hasFile =
         found.copy.grewFrom ? found.copy.grewFrom->exists : !isCopyOf(file.name, key);

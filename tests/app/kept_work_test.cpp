@@ -18,7 +18,7 @@ namespace scorvane {
 namespace {
 
 constexpr int kSetupTeams = 32789, kLookup = 32791, kPlacings = 32822, kReasons = 32823,
-              kQuestions = 32826;
+              kQuestions = 32826, kGenerateOrder = 32867;
 const std::string kPath = "fair.scv";
 
 std::string fair() {
@@ -144,6 +144,27 @@ TEST_F(KeptWork, IsThereAsFarAsItWasShownWhereverThePowerFailed) {
   }
   EXPECT_EQ(shown.size(), 5U);
   EXPECT_GT(broughtBack, 1000);
+}
+
+TEST_F(KeptWork, HasTheReasonsOrderThatCouldNotBeSaved) {
+  disk.files[kPath] = {fair(), true, fair(), 7};
+  start();
+  run(kReasons, [&](MemoryDialog& dialog) {
+    dialog.choose(IDC_ENTRY_CLASS, 0);
+    dialog.choose(IDC_ENTRY_GROUP, 0);
+    type(dialog, IDC_ENTRY_REASONS, "44", 1);
+    dialog.pressEscape();
+  });
+  disk.readOnlyPath = kPath;
+  window.desktop.answers = {Answer::ok, Answer::ok};
+  runCommand(kGenerateOrder, window);
+  const auto order = currentContest().reasonsPlace;
+  EXPECT_EQ(order.size(), 4U);
+  disk.readOnlyPath.clear();
+  disk.losePower(0);
+  start();
+  EXPECT_TRUE(currentContest().reasonsPlace == order);
+  expectEverythingShown(currentContest());
 }
 
 TEST_F(KeptWork, IsSaidToBeUnsafeOnceADialogHasClosed) {

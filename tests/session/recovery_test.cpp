@@ -141,15 +141,23 @@ TEST_F(Recovery, AsksAndReportsWhatCameBack) {
   EXPECT_EQ(copies().size(), 0U);
   ASSERT_EQ(earlierSaves(disk, kPath).size(), 1U);
 
+  // A change of cuts gives another score, but nobody typed it.
+  currentContest().scores[101][0].placingScore = 30;
+  contestChanged();
+  disk.losePower(0);
+  start(kPath, Answer::no);
+  EXPECT_NE(asked().find("\nChanges of the setup until"), std::string::npos) << asked();
+
   // Setup can make another class of the one that a score was typed for.
   type(103, 1, {'B', 0, 0, 9});
   currentContest().scores.find(103)->operator[](1) = {};
   addTeam("Avon");
   disk.losePower(0);
   disk.clock += 48 * 3600 * kTicksPerSecond;
+  disk.listsLate = true;  // the folder's entry was not brought up to date
   start(kPath, Answer::no);
   EXPECT_NE(asked().find("\nChanges of the setup until"), std::string::npos) << asked();
-  EXPECT_NE(asked().find("M on January"), std::string::npos) << asked();
+  EXPECT_NE(asked().find("M on January 12"), std::string::npos) << asked();
   EXPECT_FALSE(currentContest().teams.contains("Avon"));
   EXPECT_EQ(copies().size(), 0U);
   const auto rests = earlierSaves(disk, kPath);
@@ -203,6 +211,12 @@ TEST_F(Recovery, IsOfferedForTheVeryFileItGrewFromOnly) {
   ASSERT_EQ(earlierSaves(disk, kPath).size(), 2U);
   EXPECT_NE(readEarlierSave(disk, earlierSaves(disk, kPath)[1])->find('!'), std::string::npos);
 
+  disk.files = left;
+  disk.files[copy].content[200] = '!';
+  start(kPath, Answer::no);
+  ASSERT_EQ(earlierSaves(disk, kPath).size(), 2U);
+  EXPECT_NE(readEarlierSave(disk, earlierSaves(disk, kPath)[1])->find('!'), std::string::npos);
+
   // While another program works with the copy, this one uses its own.
   disk.files = left;
   {
@@ -242,6 +256,20 @@ TEST_F(Recovery, KeepsWhatAnOrderlyEndLeavesUnsaved) {
   disk.readOnlyPath.clear();
   start();
   EXPECT_NE(asked().find("1 score typed until"), std::string::npos);
+
+  // The last card, too, for which the disk had no room as it was typed.
+  type(101, 0, {'B', 40, 44, 0});
+  const std::size_t room = std::exchange(disk.room, 5);
+  for (const auto& [path, file] : disk.files) disk.room += file.content.size();
+  type(102, 0, {'C', 30, 0, 0});
+  disk.readOnlyPath = kPath;
+  saveCurrent(window);
+  disk.readOnlyPath.clear();
+  disk.room = room;
+  endKeepingWork();
+  start();
+  EXPECT_NE(asked().find("2 scores typed until"), std::string::npos);
+  EXPECT_EQ(scoreRecord(currentContest(), 102, 0).letter, 'C');
 
   // Nothing is left of a contest that is as it was, and a contest without a file is kept, too.
   addTeam("Avon");
