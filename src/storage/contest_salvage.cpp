@@ -62,7 +62,6 @@ bool belongs(Section section, std::string_view line) {
 }  // namespace
 
 std::optional<Contest> salvageContest(std::string_view bytes) {
-  constexpr std::size_t kMostSettings = 15;
   constexpr std::string_view kNobodysScore = "-1\t-1\t \t0\t0\t0";
   std::array<std::vector<std::string_view>, kSections> records;
   Section section = kSettings;
@@ -77,7 +76,6 @@ std::optional<Contest> salvageContest(std::string_view bytes) {
       records[section].push_back(line);
     }
   }
-  if (records[kSettings].size() > kMostSettings) records[kSettings].resize(kMostSettings);
   records[kScores].resize(records[kClasses].size() * records[kContestants].size(), kNobodysScore);
   std::string whole;
   for (std::size_t i = 0; i < kSections; ++i) {

@@ -68,7 +68,7 @@ TEST(EarlierSaves, AreThinnedByTheDaysOfWork) {
 const std::string kPath = "county.scv";
 
 struct KeptSaves : testing::Test {
-  KeptSaves() { disk.files[kPath] = {smallFile(), true, "", 60 * kTicksPerSecond}; }
+  KeptSaves() { disk.files[kPath] = {smallFile(), true, smallFile(), 60 * kTicksPerSecond}; }
   ~KeptSaves() override { stopKeepingWork(); }
 
   void open(const std::string& path = kPath) {
@@ -100,6 +100,8 @@ struct KeptSaves : testing::Test {
 TEST_F(KeptSaves, AreWhatSavesReplaced) {
   open();
   save("Two");
+  disk.losePower(0);
+  EXPECT_EQ(kept(), "County Fair;");
   disk.clock -= 100 * kHour * kTicksPerSecond;  // the clock is set back
   save("Three");
   save("Four");
@@ -168,6 +170,8 @@ TEST_F(KeptSaves, NeverStandInTheWayOfASave) {
 }
 
 TEST_F(KeptSaves, AreFoundUnderAContestsNewName) {
+  EXPECT_EQ(contestKey(disk, "C:\\Fairs\\a.scv"), contestKey(disk, "c:\\FAIRS\\a.scv"));
+  EXPECT_NE(contestKey(disk, "C:\\Fairs\\a.scv"), contestKey(disk, "C:\\Shows\\a.scv"));
   open();
   save("Two");
   save("Three");

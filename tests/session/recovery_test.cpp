@@ -114,6 +114,8 @@ TEST_F(Recovery, AsksAndReportsWhatCameBack) {
   type(102, 1, {'Z', 0, 0, 50});
   type(101, 0, {'A', 40, 44, 0});
   disk.losePower(0);
+  const std::string copy = copyPath(disk, contestKey(disk, kPath), 1);
+  const MemoryFiles::File left = disk.files.at(copy);
   start();
   const Message question = window.desktop.messages.at(0);
   EXPECT_EQ(question.text.substr(0, question.text.find(" until")),
@@ -132,9 +134,12 @@ TEST_F(Recovery, AsksAndReportsWhatCameBack) {
   expectEverythingShown();
   EXPECT_EQ(copies().size(), 0U);
   ASSERT_EQ(earlierSaves(disk, kPath).size(), 1U);  // what the save replaced
+  disk.files[copy] = left;                          // as if the power had failed before it went
   start();
   EXPECT_EQ(asked(), "");
   EXPECT_EQ(reportText(), kWelcomeText);
+  EXPECT_EQ(copies().size(), 0U);
+  ASSERT_EQ(earlierSaves(disk, kPath).size(), 1U);
 
   // Setup can make another class of the one that a score was typed for.
   type(103, 1, {'B', 0, 0, 9});
@@ -170,7 +175,7 @@ TEST_F(Recovery, IsOfferedForTheVeryFileItGrewFromOnly) {
   };
   disk.files[kPath].changed = 8;
   expectRestUnasked("another time of change");
-  disk.files[kPath].content = replaced(smallFile(), "County", "Baronial");
+  disk.files[kPath].content = replaced(smallFile(), "County", "Bounty");
   expectRestUnasked("other bytes");
 
   // Renamed or moved it is the very file; a copy of a file that is still there is another one.
@@ -320,6 +325,8 @@ TEST(RecoveryCopyBytes, GiveEveryWholeLineWhereverTheyAreDamagedOrCut) {
       const bool hit[] = {at >= added && at < second, at >= second};
       ASSERT_GE(copy.typed.size(), 2U - hit[0] - hit[1]);
       ASSERT_EQ(copy.baseIsWhole, at >= base.size() && copy.grewFrom);
+      const auto alone = recoveredContest(copy);
+      ASSERT_LE(alone ? alone->teams.size() : 0U, 1U) << "scores are no teams";
       // Added to the file they are there, whatever became of the rest; else the rest is told apart.
       const auto contest = recoveredOver(file, copy);
       ASSERT_TRUE(!contest || at < base.find("Market") || at >= base.find("\tYes"));

@@ -220,16 +220,32 @@ class Stage {
     }
   }
 
-  void write(const std::string& line) { played_ += "  " + escaped(line) + '\n'; }
+  // Puts a change behind the one before it, as long as the line stays readable.
+  void write(const std::string& change) {
+    constexpr std::size_t kLongest = 118;
+    const std::string text = escaped(change);
+    if (line_.empty() || line_.size() + text.size() > kLongest) {
+      endLine();
+      line_ = "  " + text;
+    } else {
+      line_ += "; " + text;
+    }
+  }
+
+  void endLine() {
+    if (!line_.empty()) played_ += std::exchange(line_, {}) + '\n';
+  }
 
   void writeChanges() {
     for (const Message& message : std::exchange(dialog_->desktop.messages, {})) {
       write("[" + message.caption + "] " + message.text + buttonsOf(message));
+      endLine();
     }
     for (const auto& [name, value] : shownNow()) {
       if (std::exchange(shown_[name], value) != value) write(name + ':' + value);
     }
     writeListChanges();
+    endLine();
     const auto now = storedNow();
     const auto writeOnlyIn = [this](const auto& some, const auto& others, const char* mark) {
       std::vector<std::string> lines;
@@ -238,7 +254,9 @@ class Stage {
       for (const std::string& line : lines) write(mark + line);
     };
     writeOnlyIn(stored_, now, "- ");
+    endLine();
     writeOnlyIn(now, stored_, "+ ");
+    endLine();
     stored_ = now;
   }
 
@@ -250,6 +268,7 @@ class Stage {
   std::map<ControlId, std::vector<std::string>> lists_;
   std::map<ControlId, std::string> selected_;
   std::multiset<std::string> stored_;
+  std::string line_;
   std::string played_;
 };
 
