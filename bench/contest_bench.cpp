@@ -6,6 +6,7 @@
 #include <string>
 
 #include "app/command_table.h"
+#include "model/contest_differences.h"
 #include "storage/contest_reader.h"
 #include "storage/contest_writer.h"
 #include "tools/contest_maker.h"
@@ -44,6 +45,23 @@ void save(benchmark::State& state) {
   state.SetComplexityN(state.range(0));
 }
 
+// Every hundredth card differs.
+void compare(benchmark::State& state) {
+  const Contest& here = contestOf(state.range(0));
+  Contest there = here;
+  std::size_t cards = 0;
+  for (auto& [number, records] : there.scores) {
+    for (auto& [judged, record] : records) {
+      if (++cards % 100 == 0) record.letter = record.letter == 'A' ? 'B' : 'A';
+    }
+  }
+  for ([[maybe_unused]] auto step : state) {
+    const auto differences = contestDifferences(here, there);
+    benchmark::DoNotOptimize(differences.scores.data());
+  }
+  state.SetComplexityN(state.range(0));
+}
+
 void report(benchmark::State& state, int commandId) {
   const Contest& contest = contestOf(state.range(0));
   const Command* command = findCommand(commandId);
@@ -60,6 +78,7 @@ void overSizes(benchmark::internal::Benchmark* bench) {
 
 BENCHMARK(load)->Apply(overSizes);
 BENCHMARK(save)->Apply(overSizes);
+BENCHMARK(compare)->Apply(overSizes);
 
 // Every results report.
 const bool kRegistered = [] {

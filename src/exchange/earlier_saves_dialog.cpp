@@ -22,7 +22,7 @@ namespace {
 // The lists that together are the table of saves, one line each per save.
 constexpr std::array kTable = {IDC_SAVE_TIMES, IDC_SAVE_CONTESTANTS, IDC_SAVE_SCORES,
                                IDC_SAVE_CHANGES};
-constexpr std::size_t kChangesWidth = 64;
+constexpr std::size_t kChangesWidth = 60;
 
 // Where the hour begins in a time's text.
 constexpr std::size_t kHour = 13;

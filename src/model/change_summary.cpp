@@ -15,10 +15,6 @@ namespace {
 // More than this many of a kind are only counted.
 constexpr std::size_t kMostNamed = 2;
 
-std::string counted(std::size_t count, const std::string& one, const std::string& several) {
-  return std::to_string(count) + ' ' + (count == 1 ? one : several);
-}
-
 // All that happened to the subjects of one kind.
 struct Changes {
   std::vector<const Difference*> added, removed;
@@ -87,20 +83,19 @@ class Summary {
 
  private:
   void listAll(const std::vector<const Difference*>& subjects, const std::string& several,
-               const char* sign, const std::string& one, const std::string& done) {
+               const char* sign, const char* one, const char* done) {
     if (subjects.size() > kMostNamed) {
       items_.push_back(sign + std::to_string(subjects.size()) + ' ' + several);
       return;
     }
     for (const Difference* subject : subjects) {
       const bool isClass = subject->kind == DifferenceKind::judgedClass;
-      const std::string& name = subject->sides.here + subject->sides.there;
-      items_.push_back(one + subject->subject + (isClass ? ' ' + name : "") + done);
+      const std::string name = isClass ? ' ' + subject->sides.here + subject->sides.there : "";
+      items_.push_back(formatText("%s%s%s%s", one, subject->subject.c_str(), name.c_str(), done));
     }
   }
 
-  void listChanges(const Changes& changes, const std::string& several,
-                   const std::string& one = "") {
+  void listChanges(const Changes& changes, const std::string& several, const char* one = "") {
     listAll(changes.removed, several, "-", one, " removed");
     listAll(changes.added, several, "+", one, " added");
     if (changes.values.size() > kMostNamed) {
@@ -108,7 +103,7 @@ class Summary {
       return;
     }
     for (const auto& [subject, values] : changes.values) {
-      items_.push_back(one + subject + values);
+      items_.push_back(formatText("%s%s%s", one, subject.c_str(), values.c_str()));
     }
   }
 
@@ -153,16 +148,18 @@ class Summary {
       sum.recomputed += count.recomputed;
     }
     for (const auto& [where, count] : shown) {
-      const auto list = [&](const char* sign, std::int64_t number, const char* what) {
-        if (number == 0) return;
-        items_.push_back(sign + counted(static_cast<std::size_t>(number), "score ", "scores ") +
-                         what + where);
-      };
-      list("-", count.removed, "");
-      list("+", count.added, "");
-      list("", count.changed, "changed ");
-      list("", count.recomputed, "computed anew ");
+      listScores("-", count.removed, "", where);
+      listScores("+", count.added, "", where);
+      listScores("", count.changed, "changed ", where);
+      listScores("", count.recomputed, "computed anew ", where);
     }
+  }
+
+  void listScores(const char* sign, std::int64_t number, const char* done,
+                  const std::string& where) {
+    if (number == 0) return;
+    items_.push_back(formatText("%s%lld %s %s%s", sign, static_cast<long long>(number),
+                                number == 1 ? "score" : "scores", done, where.c_str()));
   }
 
   const ContestDifferences& differences_;

@@ -147,9 +147,9 @@ class Comparison {
     for (const std::string& name : there) ++counts[name].there;
     const std::size_t before = found_.values.size();
     for (const auto& [name, count] : counts) {
-      const auto shown = [&](int times) { return times == 0 ? "" : name; };
       if (count.here == count.there) continue;
-      add(DifferenceKind::category, "category " + name, "", shown(count.here), shown(count.there));
+      add(DifferenceKind::category, "category " + name, "", count.here == 0 ? "" : name,
+          count.there == 0 ? "" : name);
     }
     if (found_.values.size() == before) {
       add(DifferenceKind::category, "categories", "order", joined(here), joined(there));

@@ -39,6 +39,9 @@ class Stage:
         self.app = None
 
     def start(self, sample="county.scv"):
+        # What the scene before left unsaved would be offered, or be among the earlier saves.
+        for kept in (self.desktop.prefix / "drive_c" / "users").glob("*/AppData/Local/Scorvane"):
+            shutil.rmtree(kept)
         if not sample:
             self.app = self.desktop.start()
             return self.app.main()
@@ -175,13 +178,17 @@ def lookup(stage):
     stage.take(dialog)
 
 
-def blank_scores(stage):
-    """The county contest before its cards are typed in."""
+def blank_scores(stage, judged=None):
+    """The county contest before its cards are typed in, all of them or those of one class."""
     file = stage.desktop.prefix / "drive_c" / "Contests" / "county fair.scv"
     head, mark, tail = file.read_bytes().partition(b"~~~~~Scores~~~~~\r\n")
     count, *lines = tail.split(b"\r\n")
-    blank = [b"\t".join([*line.split(b"\t")[:2], b" ", b"0", b"0", b"0"]) if line.count(b"\t") == 5 else line
-             for line in lines]
+
+    def blanked(line):
+        fields = line.split(b"\t")
+        is_score = len(fields) == 6 and judged in (None, int(fields[1]))
+        return b"\t".join([*fields[:2], b" ", b"0", b"0", b"0"]) if is_score else line
+    blank = map(blanked, lines)
     file.write_bytes(head + mark + b"\r\n".join([count, *blank]))
     stage.app.main().command(32772)
     stage.app.window().set_text(1148, CONTEST)
@@ -240,6 +247,28 @@ def round_verification(stage):
     dialog = stage.dialog(32862, "Round Verification Report")
     dialog.choose(1053, 1)
     dialog.choose(1016, 3)
+    stage.take(dialog)
+
+
+@scene
+def earlier_saves(stage):
+    main = stage.start()
+
+    def work(command, title, *steps):
+        main.command(command)
+        dialog = stage.app.window(title)
+        for step, *values in steps:
+            getattr(dialog, step)(*values)
+        dialog.close()
+        stage.app.wait_closed(dialog)
+    blank_scores(stage, 3)
+    work(32822, "Input Placings Scores By Group", ("choose", 1016, 3), ("choose", 1053, 0),
+         *[step for letter in "DCDBADCD" for step in (("set_text", 1027, letter), ("click", 1004))])
+    work(32788, "Setup Classes", ("choose", 1016, 3), ("set_text", 1010, "D"), ("click", 1007))
+    work(32789, "Setup Teams", ("choose", 1019, 3), ("click", 1005))
+    main.command(33023)
+    dialog = stage.app.window("Earlier Saves")
+    dialog.choose(1101, 1)
     stage.take(dialog)
 
 
