@@ -150,7 +150,8 @@ void EarlierSavesDialog::goBack(Dialog& dialog, const EarlierSave& save, Contest
     return;
   }
   currentContest() = std::move(contest);
-  contestChanged();
+  contestChanged();  // what is kept of the old one must not come back if this is not saved
+
   saveCurrent(dialog);
   dialog.end(IDC_GO_BACK);
 }

@@ -189,21 +189,28 @@ TEST(EarlierSaves, AreComparedWithTheOpenContestOnScreen) {
   expectApproved(window.log, "exchange/earlier_saves.txt");
 }
 
-// The new contest that is open meanwhile is nothing to be kept.
+// The new contest that is open meanwhile is nothing to be kept; what the second choice replaces is.
 TEST(EarlierSaves, OfContestsWithoutAFileStayWhenTheyAreBroughtBack) {
   Disk day;
+  const std::string rest = writeContest(daysWork()[1]);
   currentContest() = newContest();
   day.keep("", daysWork()[1], 0, true);
   for (const std::size_t kept : {1U, 2U}) {
+    currentContest().settings.contestName.append(kept - 1, '!');
+    contestChanged();
     EarlierSavesDialog behaviour(day.saves(""));
     MemoryDialog dialog(IDD_EARLIER_SAVES, behaviour);
     dialog.desktop.answers = {Answer::ok};
     dialog.click(IDC_GO_BACK);  // the choice of a file is cancelled
     EXPECT_EQ(dialog.result(), IDC_GO_BACK);
-    EXPECT_EQ(writeContest(currentContest()), writeContest(daysWork()[1]));
+    EXPECT_EQ(writeContest(currentContest()), rest);
     EXPECT_EQ(day.saves("").size(), kept);
-    currentContest().settings.contestName = "Changed";
   }
+  // The program is ended now: the recovery copy is of the contest that was brought back.
+  stopKeepingWork();
+  startKeepingWork(day.files);
+  ASSERT_EQ(day.saves("").size(), 3U);
+  EXPECT_EQ(readEarlierSave(day.files, day.saves("").front()), rest);
 }
 
 class ExchangeSession : public testing::TestWithParam<std::string> {

@@ -53,6 +53,11 @@ TEST(ChangeSummary, TellsWhatASaveChanged) {
            {[](Contest& x) { x.scores[104][1].placingScore = 9; },
             "1 score computed anew in class 2"},
            {[](Contest& x) {
+              x.classes.cut2[2] = 9;
+              recomputeAllPlacingScores(x);
+            },
+            "class 3 cuts"},
+           {[](Contest& x) {
               x.classes.officialLetter[2] = 'X';
               x.classes.cut2[2] = 9;
               recomputeAllPlacingScores(x);
@@ -95,7 +100,7 @@ TEST(ChangeSummary, TellsWhatASaveChanged) {
   }
   Contest after = fair();
   removeTeam(after, "Elm");
-  EXPECT_EQ(changeSummary(fair(), after, 60),
+  EXPECT_EQ(changeSummary(fair(), after, 80),
             "team Elm removed; contestant 101 Ann removed; and 3 more");
   EXPECT_EQ(changeSummary(fair(), after, 1), "team Elm removed; and 4 more");
 }
