@@ -199,7 +199,8 @@ TEST(ContestDifferences, AreEmptyExactlyWhenTheFilesAreEqual) {
     ASSERT_EQ(there.empty(), same) << writeContest(before) << writeContest(after);
     ASSERT_EQ(back.empty(), same);
     ASSERT_EQ(there.values.size(), back.values.size());
-    ASSERT_EQ(there.counts.onlyOn, (Sides{back.counts.onlyOn.there, back.counts.onlyOn.here}));
+    ASSERT_EQ(there.counts.onlyOn,
+              (decltype(back.counts.onlyOn){back.counts.onlyOn.there, back.counts.onlyOn.here}));
     ASSERT_EQ(there.counts.onBothSides, back.counts.onBothSides);
   }
   EXPECT_GT(equal, 100);
