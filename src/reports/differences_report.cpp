@@ -20,7 +20,7 @@ constexpr const char* kValueRow = "%-36.36s %-21.21s %.21s\n";
 constexpr const char* kScoreRow = "%-31.31s %-5.5s %-14.14s %-13.13s %.13s\n";
 constexpr const char* kWords[] = {"Placing", "Reasons", "Questions", "Placing score"};
 
-std::string orHyphen(std::string text) {
+std::string orHyphen(const std::string& text) {
   return text.empty() ? "-" : text;
 }
 
@@ -37,7 +37,7 @@ Sides<std::string> shownSides(Sides<std::string> sides) {
       side->replace(0, same - kBefore, kLeftOut);
     }
   }
-  return {orHyphen(std::move(sides.here)), orHyphen(std::move(sides.there))};
+  return {orHyphen(sides.here), orHyphen(sides.there)};
 }
 
 class DifferencesReport {

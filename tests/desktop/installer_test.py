@@ -70,7 +70,7 @@ class InstallerTest(DesktopTest):
         self.assertEqual(installed, {
             "scorvane.exe", "scorvane-report.exe", "ScorvaneUsersManual.htm", "LICENSE.txt",
             "ScorvaneUsersManual_files", "Uninstall.exe"})
-        self.assertLess((self.programs / "scorvane.exe").stat().st_size, 1_500_000)
+        self.assertLess((self.programs / "scorvane.exe").stat().st_size, 2_000_000)
         self.assertEqual({link.name for link in self.menu.iterdir()},
                          {"Scorvane.lnk", "Scorvane Help.lnk", "Scorvane Samples.lnk"})
         samples = self.documents / "Scorvane Samples"
