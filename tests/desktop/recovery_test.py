@@ -52,6 +52,16 @@ class Recovery(DesktopTest):
         app.main().command(command)
         return app.window(title)
 
+    def look_up_and_score(self, app):
+        """Stores a reasons score of 33 for 105 in the second class; returns the dialog, which stays open."""
+        dialog = self.open(app, LOOKUP, "Lookup/Edit Individual Scores")
+        dialog.choose(1016, 1)
+        dialog.set_text(1026, "105")
+        dialog.set_text(1028, "33")
+        dialog.command(1004)
+        wait_for(lambda: dialog.text(LAST_NUMBER) == "105", "the score")
+        return dialog
+
     def see(self, dialog, number, judged, field, typed, until):
         """Waits until the card is shown as the last one, or until the time is up, and then believes in it."""
         control = {"letter": LAST_LETTER, "reasons": LAST_REASONS, "questions": LAST_QUESTIONS}[field]
@@ -165,12 +175,7 @@ class Recovery(DesktopTest):
         self.assertEqual(len(self.copies("Earlier Saves")), 1)
 
         # Escape leaves the file alone, and the end of the program the work.
-        dialog = self.open(app, LOOKUP, "Lookup/Edit Individual Scores")
-        dialog.choose(1016, 1)
-        dialog.set_text(1026, "105")
-        dialog.set_text(1028, "33")
-        dialog.command(1004)
-        wait_for(lambda: dialog.text(LAST_NUMBER) == "105", "the score")
+        dialog = self.look_up_and_score(app)
         dialog.command(2)
         app.wait_closed(dialog)
         app.main().command(105)
@@ -182,12 +187,7 @@ class Recovery(DesktopTest):
     def test_the_end_of_the_session_amid_a_dialog_is_no_orderly_end(self):
         app = self.start(self.file)
         main = app.main()
-        dialog = self.open(app, LOOKUP, "Lookup/Edit Individual Scores")
-        dialog.choose(1016, 1)
-        dialog.set_text(1026, "105")
-        dialog.set_text(1028, "33")
-        dialog.command(1004)
-        wait_for(lambda: dialog.text(LAST_NUMBER) == "105", "the score")
+        dialog = self.look_up_and_score(app)
         main._tell("post", 0x0011, 0, 0)  # WM_QUERYENDSESSION
         main._tell("post", 0x0016, 1, 0)  # WM_ENDSESSION
         dialog.settle()
