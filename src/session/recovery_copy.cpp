@@ -106,7 +106,7 @@ RecoveryCopy readRecoveryCopy(std::string_view bytes) {
 std::optional<Contest> recoveredContest(const RecoveryCopy& copy) {
   std::optional<Contest> contest;
   auto reading = readContest(copy.base);
-  if (auto* read = std::get_if<Contest>(&reading)) {
+  if (auto* read = std::get_if<Contest>(&reading); read != nullptr && copy.baseIsWhole) {
     contest = std::move(*read);
   } else {
     contest = salvageContest(copy.base);
@@ -117,14 +117,13 @@ std::optional<Contest> recoveredContest(const RecoveryCopy& copy) {
 
 std::optional<Contest> recoveredOver(const Contest& file, const RecoveryCopy& copy) {
   if (copy.baseIsWhole) return recoveredContest(copy);
+  const auto rest = salvageContest(copy.base);
+  if (!rest || rest->classes.className != file.classes.className) return std::nullopt;
   std::optional<Contest> contest = file;
-  if (const auto rest = salvageContest(copy.base)) {
-    if (rest->classes.className != file.classes.className) return std::nullopt;
-    for (const auto& [number, records] : rest->scores) {
-      if (!file.contestantNames.contains(number)) continue;
-      for (const auto& [classIndex, record] : records) {
-        if (record != ScoreRecord{}) contest->scores[number][classIndex] = record;
-      }
+  for (const auto& [number, records] : rest->scores) {
+    if (!file.contestantNames.contains(number)) continue;
+    for (const auto& [classIndex, record] : records) {
+      if (record != ScoreRecord{}) contest->scores[number][classIndex] = record;
     }
   }
   addTyped(copy, *contest);

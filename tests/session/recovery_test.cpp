@@ -342,6 +342,11 @@ TEST(RecoveryCopyBytes, GiveEveryWholeLineWhereverTheyAreDamagedOrCut) {
   EXPECT_TRUE(whole.grewFrom->isSameFile({"", true, 5, 6, 7}));
   EXPECT_EQ(whole.grewFrom->path, "a\tb.scv");
   const Contest file = *recoveredContest(readRecoveryCopy(base));
+  // Another number in a line of the base leaves all counts right.
+  const std::string renumbered = replaced(bytes, "103\t0\t", "102\t0\t");
+  EXPECT_EQ(scoreRecord(*recoveredContest(readRecoveryCopy(renumbered)), 102, 0).letter, 'X');
+  // Of which classes the typed scores are is not known without the base's.
+  EXPECT_FALSE(recoveredOver(file, readRecoveryCopy("?\r\n" + bytes.substr(base.size()))));
 
   for (std::size_t at = 0; at < bytes.size(); ++at) {
     SCOPED_TRACE(at);
