@@ -29,8 +29,17 @@ struct FileState {
   }
 };
 
+/// Which scores of a card were typed.
+struct TypedFields {
+  bool letter = false;
+  bool reasons = false;
+  bool questions = false;
+};
+
 /// A contestant's record for a class after a score was typed.
-using TypedScore = ScoreLine;
+struct TypedScore : ScoreLine {
+  TypedFields fields{};
+};
 
 struct RecoveryCopy {
   std::optional<FileState> grewFrom;  ///< nothing when that line is damaged
@@ -41,7 +50,7 @@ struct RecoveryCopy {
 
 /// The line that follows the contest file `base`.
 [[nodiscard]] std::string originLine(const FileState& grewFrom, std::string_view base);
-/// A score line of the contest file with its check value.
+/// A score line of the contest file with what was typed and its check value.
 [[nodiscard]] std::string typedScoreLine(const TypedScore& score);
 
 /// Any bytes are safe; every added line that is whole is read.

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <ctime>
-#include <set>
+#include <map>
 #include <utility>
 #include <vector>
 
@@ -81,20 +81,26 @@ struct RecoveredWork {
 
 RecoveredWork workIn(const Contest& file, const Contest& recovered, const RecoveryCopy& copy) {
   RecoveredWork work;
-  std::set<std::pair<ContestantNumber, std::int32_t>> listed;
-  const auto list = [&](ContestantNumber number, std::int32_t classIndex) {
+  std::map<std::pair<ContestantNumber, std::int32_t>, std::size_t> listed;
+  const auto list = [&](ContestantNumber number, std::int32_t classIndex, TypedFields fields) {
     if (!recovered.contestantNames.contains(number)) return;
-    if (!listed.emplace(number, classIndex).second) return;
-    work.scores.push_back({number, classIndex, scoreRecord(recovered, number, classIndex)});
+    const ScoreRecord record = scoreRecord(recovered, number, classIndex);
+    const ScoreRecord before = scoreRecord(file, number, classIndex);
+    const auto [at, isNew] = listed.emplace(std::pair(number, classIndex), work.scores.size());
+    if (isNew) work.scores.push_back({{number, classIndex, record}, {}});
+    TypedFields& all = work.scores[at->second].fields;
+    all.letter |= fields.letter || record.letter != before.letter;
+    all.reasons |= fields.reasons || record.reasonsScore != before.reasonsScore;
+    all.questions |= fields.questions || record.questionsScore != before.questionsScore;
   };
-  for (const TypedScore& score : copy.typed) list(score.number, score.classIndex);
+  for (const TypedScore& score : copy.typed) list(score.number, score.classIndex, score.fields);
   if (file.classes.className == recovered.classes.className) {
     for (const auto& [number, records] : recovered.scores) {
       for (const auto& [classIndex, record] : records) {
         // A placing score alone was worked out anew and not typed.
         ScoreRecord before = scoreRecord(file, number, classIndex);
         before.placingScore = record.placingScore;
-        if (record != before) list(number, classIndex);
+        if (record != before) list(number, classIndex, {});
       }
     }
   }
@@ -143,8 +149,10 @@ bool wantsBack(Window& owner, const RecoveredWork& work, const std::string& unti
   return owner.ask(question) == Answer::yes;
 }
 
-std::string scoreOrDashes(bool carried, std::int32_t score) {
-  return carried ? std::to_string(score) : "---";
+// Nothing for a score that was not typed, as the card may not carry it yet.
+std::string typedText(bool carried, bool typed, std::int32_t score) {
+  if (!carried) return "---";
+  return typed ? std::to_string(score) : "";
 }
 
 std::string recoveredReport(const Contest& contest, const RecoveredWork& work) {
@@ -157,11 +165,13 @@ std::string recoveredReport(const Contest& contest, const RecoveredWork& work) {
   out += std::string(77, '-') + "\n";
   for (const TypedScore& score : work.scores) {
     const std::int32_t k = score.classIndex;
-    appendFormat(out, "%6d %-20.20s %2d. %-20.20s   %c    %7s %9s\n", score.number,
-                 contestantName(contest, score.number).c_str(), k + 1, classes.name(k).c_str(),
-                 score.record.letter,
-                 scoreOrDashes(classes.hasReasons(k), score.record.reasonsScore).c_str(),
-                 scoreOrDashes(classes.hasQuestions(k), score.record.questionsScore).c_str());
+    appendFormat(
+        out, "%6d %-20.20s %2d. %-20.20s   %c    %7s %9s\n", score.number,
+        contestantName(contest, score.number).c_str(), k + 1, classes.name(k).c_str(),
+        score.fields.letter ? score.record.letter : kNoLetter,
+        typedText(classes.hasReasons(k), score.fields.reasons, score.record.reasonsScore).c_str(),
+        typedText(classes.hasQuestions(k), score.fields.questions, score.record.questionsScore)
+            .c_str());
   }
   return out;
 }
