@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "model/contest.h"
+#include "storage/file.h"
 #include "storage/score_reader.h"
 
 namespace scorvane {
@@ -22,10 +23,12 @@ struct FileState {
   std::uint64_t hash = 0;
   std::int64_t changed = 0;
 
-  /// Whether a file is this very one, perhaps under another name.
+  /// Whether a file is this very one, perhaps under another name. Memory sticks round the time of
+  /// the last change to two seconds, and only show it when they are plugged in again.
   [[nodiscard]] bool isSameFile(const FileState& other) const {
+    constexpr std::int64_t kRounding = 2 * kTicksPerSecond;
     return exists && other.exists && size == other.size && hash == other.hash &&
-           changed == other.changed;
+           changed - other.changed <= kRounding && other.changed - changed <= kRounding;
   }
 };
 

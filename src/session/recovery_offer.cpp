@@ -24,9 +24,8 @@ namespace {
 struct FoundCopy {
   FoundCopy(FileSystem& files, const ListedFile& listed)
       : path(recoveryFolder(files) + "/" + listed.name) {
+    changed = listed.changed;
     claim = files.claim(path).hold;
-    // After a power cut a folder's list may still tell of the time when the file was opened.
-    changed = files.lastChange(path).value_or(listed.changed);
     if (claim != nullptr) bytes = files.readWhole(path);
     if (bytes) copy = readRecoveryCopy(*bytes);
   }
@@ -45,6 +44,10 @@ struct FoundCopy {
 std::vector<ListedFile> listedCopies(FileSystem& files) {
   std::vector<ListedFile> copies = files.list(recoveryFolder(files));
   std::erase_if(copies, [](const ListedFile& file) { return !file.name.ends_with(".scv"); });
+  // After a power cut a folder's list may still tell of the time when the file was opened.
+  for (ListedFile& copy : copies) {
+    copy.changed = files.lastChange(recoveryFolder(files) + "/" + copy.name).value_or(copy.changed);
+  }
   std::stable_sort(copies.begin(), copies.end(),
                    [](const ListedFile& a, const ListedFile& b) { return a.changed > b.changed; });
   return copies;
@@ -176,7 +179,8 @@ std::string recoveredReport(const Contest& contest, const RecoveredWork& work) {
   return out;
 }
 
-std::optional<std::string> offer(Window& owner, const FoundCopy& found) {
+/// One question at an opening is enough: what else was left goes to the earlier saves.
+std::optional<std::string> offer(Window& owner, const FoundCopy& found, bool& hasAsked) {
   FileSystem& files = sessionFiles();
   const Contest file = currentContest();
   const bool grewFromFile = found.copy.grewFrom && found.copy.grewFrom->isSameFile(savedState());
@@ -186,7 +190,7 @@ std::optional<std::string> offer(Window& owner, const FoundCopy& found) {
     files.remove(found.path);
     return std::nullopt;
   }
-  if (grewFromFile && recovered) {
+  if (grewFromFile && recovered && !std::exchange(hasAsked, true)) {
     const RecoveredWork work = workIn(file, *recovered, found.copy);
     if (wantsBack(owner, work, clockTime(found.changed, files.now()))) {
       keepIfDamaged(files, found, savedState().path);
@@ -206,28 +210,29 @@ std::optional<std::string> offerRecovery(Window& owner) {
   if (!isKeepingWork()) return std::nullopt;
   FileSystem& files = sessionFiles();
   const std::string key = contestKey(files, savedState().path);
-  const auto movedHere = [&files](const RecoveryCopy& copy) {
-    if (!copy.grewFrom || !copy.grewFrom->isSameFile(savedState())) return false;
+  const FileState opened = savedState();
+  const auto movedHere = [&](const RecoveryCopy& copy) {
+    if (!copy.grewFrom || !copy.grewFrom->isSameFile(opened)) return false;
     const auto status = files.status(copy.grewFrom->path);
     return !status || !status->exists;
   };
+  std::optional<std::string> report;
+  bool hasAsked = false;
   for (const ListedFile& file : listedCopies(files)) {
     const FoundCopy found(files, file);
     if (!found.bytes || (!isCopyOf(file.name, key) && !movedHere(found.copy))) continue;
-    if (auto report = offer(owner, found)) return report;
+    if (auto broughtBack = offer(owner, found, hasAsked)) report = std::move(broughtBack);
   }
-  return std::nullopt;
+  return report;
 }
 
 void keepUntitledRests(FileSystem& files) {
   removeLeftovers(files);
   const std::string key = contestKey(files, "");
   for (const ListedFile& file : listedCopies(files)) {
+    if (!isCopyOf(file.name, key)) continue;  // it may be large, and its contest comes later
     const FoundCopy found(files, file);
-    if (!found.bytes) continue;
-    const bool hasFile =
-        found.copy.grewFrom ? found.copy.grewFrom->exists : !isCopyOf(file.name, key);
-    if (!hasFile) moveToEarlierSaves(files, found, "");
+    if (found.bytes) moveToEarlierSaves(files, found, "");
   }
 }
 

@@ -187,10 +187,33 @@ TEST_F(Recovery, IsOfferedForTheVeryFileItGrewFromOnly) {
     EXPECT_EQ(earlierSaves(disk, kPath).size(), 1U) << why;
     disk.files = left;
   };
-  disk.files[kPath].changed = 8;
+  disk.files[kPath].changed = 7 + 2 * kTicksPerSecond + 1;
   expectRestUnasked("another time of change");
   disk.files[kPath].content = replaced(smallFile(), "County", "Bounty");
   expectRestUnasked("other bytes");
+
+  disk.files[kPath].changed = 7 + 2 * kTicksPerSecond;  // as a memory stick rounds it
+  start();
+  EXPECT_NE(asked(), "");
+
+  // Of what two programs left the newest is offered, whatever its name, and all is kept.
+  for (const Answer answer : {Answer::yes, Answer::no}) {
+    disk.files = left;
+    const auto busy = disk.claim(copyPath(disk, contestKey(disk, kPath), 1)).hold;
+    start();
+    disk.clock += kTicksPerSecond;
+    type(102, 0, {'B', 30, 0, 0});
+    disk.losePower(0);
+    start(kPath, answer);
+    EXPECT_EQ(window.desktop.messages.size(), 1U);
+    EXPECT_EQ(scoreRecord(currentContest(), 102, 0).letter, answer == Answer::yes ? 'B' : 'X');
+    EXPECT_EQ(reportText() != kWelcomeText, answer == Answer::yes);
+    EXPECT_EQ(copies().size(), 0U);
+    const auto saves = earlierSaves(disk, kPath);
+    ASSERT_EQ(saves.size(), 2U);
+    EXPECT_NE(readEarlierSave(disk, saves[0])->find("101\t0\tA\t40\t44"), std::string::npos);
+  }
+  disk.files = left;
 
   // Renamed or moved it is the very file; a copy of a file that is still there is another one.
   disk.files["moved.scv"] = disk.files[kPath];
@@ -278,6 +301,17 @@ TEST_F(Recovery, KeepsWhatAnOrderlyEndLeavesUnsaved) {
   EXPECT_NE(asked().find("2 scores typed until"), std::string::npos);
   EXPECT_EQ(scoreRecord(currentContest(), 102, 0).letter, 'C');
 
+  // A cancelled Save As leaves a contest without a file, whose work was done on one.
+  type(101, 0, {'D', 40, 44, 0});
+  window.desktop.files = {std::nullopt};
+  saveContestAs(window);
+  const std::size_t before = earlierSaves(disk, kPath).size();
+  endKeepingWork();
+  start();
+  EXPECT_EQ(asked(), "");
+  ASSERT_EQ(earlierSaves(disk, kPath).size(), before + 1);
+  EXPECT_TRUE(earlierSaves(disk, kPath)[0].isUnsavedRest);
+
   // Nothing is left of a contest that is as it was, and a contest without a file is kept, too.
   addTeam("Avon");
   disk.calls = 0;
@@ -286,8 +320,17 @@ TEST_F(Recovery, KeepsWhatAnOrderlyEndLeavesUnsaved) {
   currentContest().teams.erase("Avon");
   contestChanged();
   EXPECT_EQ(copies().size(), 0U);
+  put(recoveryFolder(disk) + "/other-1234.scv", smallFile());
+  disk.calls = 0;
   start("");
+  EXPECT_LT(disk.calls, 8) << "copies of contests with a file are not read before these are opened";
+  disk.files.erase(recoveryFolder(disk) + "/other-1234.scv");
+  stopKeepingWork();
   startNewContest();
+  currentContest().settings.contestDate = "yesterday, when the program was started";
+  startKeepingWork(disk);
+  startNewContest();
+  EXPECT_TRUE(earlierSaves(disk, "").empty());
   currentContest().teams["Brook"];
   window.desktop.files = {std::nullopt};
   saveContestAs(window);  // and thinks better of it
