@@ -138,7 +138,10 @@ void scoreStored(const TypedScore& score) {
   const std::string line = typedScoreLine(score);
   kept().typed += line;
   kept().copiedHash.reset();
-  if (!append(line)) rewriteCopy(writeContest(currentContest()));
+  if (append(line)) return;
+  kept().file.reset();
+  kept().isCopyWhole = false;
+  if (mayTryAgain(sessionFiles())) rewriteCopy(writeContest(currentContest()));
 }
 
 void contestChanged() {
