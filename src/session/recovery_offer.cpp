@@ -198,8 +198,9 @@ std::optional<std::string> offerRecovery(Window& owner) {
   const std::string key = contestKey(files, savedState().path);
   const auto movedHere = [&files](const RecoveryCopy& copy) {
     if (!copy.grewFrom || !copy.grewFrom->isSameFile(savedState())) return false;
-    const auto status = files.status(copy.grewFrom->path);
-    return !status || !status->exists;
+    const std::string& path = copy.grewFrom->path;
+    const auto status = files.status(path);
+    return !status || !status->exists || reachesSameFile(files, path, savedState().path);
   };
   for (const ListedFile& file : listedCopies(files)) {
     const FoundCopy found(files, file);
