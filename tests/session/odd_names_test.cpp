@@ -34,7 +34,7 @@ TEST(OddNames, ReachTheirOwnFiles) {
   const RawDisk disk{
       [](const std::string& path, const std::string& bytes) { makeFile(path, bytes); },
       [](const std::string& path) { return contentOf(path); }, bent};
-  EXPECT_EQ(OddNames(contests.path(), disk, smallFile()).faults(), std::vector<std::string>());
+  EXPECT_EQ(OddNames(contests.path(), disk, smallFile(), 2).faults(), std::vector<std::string>());
 }
 
 // A folder linked to, a file linked to, and a second name of the file.
