@@ -1,7 +1,5 @@
 #include <fcntl.h>
 #include <io.h>
-#include <windows.h>
-
 #include <cstdio>
 
 #include "cli/system.h"
@@ -12,10 +10,10 @@ void makeStandardOutputBinary() {
   _setmode(_fileno(stdout), _O_BINARY);
 }
 
-void expectMemory(std::size_t /*bytes*/) {}
-
-void makeFolder(const std::string& path) {
-  CreateDirectoryA(path.c_str(), nullptr);
+bool isOutputTerminal() {
+  return _isatty(_fileno(stdout)) != 0;
 }
+
+void expectMemory(std::size_t /*bytes*/) {}
 
 }  // namespace scorvane

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <string>
-#include <utility>
-#include <variant>
 #include <vector>
 
 #include "storage/contest_format.h"
@@ -85,10 +83,8 @@ std::optional<Contest> salvageContest(std::string_view bytes) {
     }
     for (const std::string_view record : records[i]) whole.append(record).append(kLineEnd);
   }
-  auto reading = readContest(std::string_view(whole));
-  auto* contest = std::get_if<Contest>(&reading);
-  if (contest == nullptr || records[kSettings].empty()) return std::nullopt;
-  return std::move(*contest);
+  if (records[kSettings].empty()) return std::nullopt;
+  return readRemains(whole);
 }
 
 }  // namespace scorvane
