@@ -160,7 +160,7 @@ struct ContestantLines {
   std::vector<std::pair<ContestantNumber, char>> groups;
   std::vector<std::pair<ContestantNumber, ReasonsPlace>> places;
   /// How many fields those with a name have behind it: a shorter one was cut off.
-  std::optional<int> placeFields;
+  int placeFields = -1;  ///< not known yet
 
   explicit ContestantLines(std::size_t room) {
     names.reserve(room);
@@ -185,8 +185,8 @@ struct ContestantLines {
     groups.emplace_back(number, groupOfNumber(settings, number));
     places.emplace_back(number, place);
     if (!name || name->empty()) return name.has_value();
-    if (!placeFields) placeFields = found;
-    return found == *placeFields;
+    if (placeFields < 0) placeFields = found;
+    return found == placeFields;
   }
 
   /// How many lines come after the first one whose number came before; nothing when all differ.
