@@ -130,7 +130,12 @@ CliResult printReports(const Contest& contest, const CliOptions& options) {
   CliResult result;
   for (const Command* command : options.commands) {
     // Whatever a report needs has been looked for by now.
-    result.output += command->report()->build(contest, request).value();
+    std::string report = command->report()->build(contest, request).value();
+    if (result.output.empty()) {
+      result.output = std::move(report);
+    } else {
+      result.output += report;
+    }
   }
   return result;
 }

@@ -4,6 +4,7 @@
 
 #include "results/total_summary_layout.h"
 #include "text/format.h"
+#include "text/report_marks.h"
 
 namespace scorvane {
 
@@ -105,7 +106,10 @@ std::string totalSummaryReport(const Contest& contest) {
   if (!table) return out += "This contest is too large for this report.\n";
   const SummaryLayout layout(*table);
   appendLegend(out, contest);
-  for (const SummaryTeam& team : table->teams()) appendTeam(out, *table, layout, team);
+  for (const SummaryTeam& team : table->teams()) {
+    appendTeam(out, *table, layout, team);
+    if (closeIfTooLong(out)) return out;
+  }
   appendStatistics(out, *table, layout);
   return out;
 }

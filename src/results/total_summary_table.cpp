@@ -26,8 +26,8 @@ std::vector<std::vector<std::int32_t>> classesByCategory(const Contest& contest)
   return members;
 }
 
-// A hundred thousand contestants judging thirty classes with everything need a third of this.
-constexpr std::size_t kMostCells = 32U << 20U;
+// A hundred thousand contestants judging thirty classes with everything need two thirds of this.
+constexpr std::size_t kMostCells = 16U << 20U;
 
 std::size_t linesNeeded(const Contest& contest) {
   std::size_t lines = contest.contestantNames.size() + contest.teams.size();

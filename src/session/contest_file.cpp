@@ -129,14 +129,15 @@ void finishSave(Window& owner, const std::string& path, const LoadedContest& loa
     knownContent().hash = contentHash(files.readWhole(path).value_or(""));
     contestWasNotSaved(NotSaved::failed);
   }
-  owner.show("Scorvane or the computer was stopped while it saved this contest, and the file was left "
-             "unfinished.\r\n\r\n"
-             "The contest as it was to be saved was found in this copy and is open now:\r\n" +
-                 loaded.copy + "\r\n\r\n" +
-                 (isSaved ? "It has been saved to its file again.\r\n"
-                          : "It could NOT be saved to its file again.  Use File->Save As to save it "
-                            "to another location.\r\n"),
-             "Information");
+  owner.show(
+      "Scorvane or the computer was stopped while it saved this contest, and the file was left "
+      "unfinished.\r\n\r\n"
+      "The contest as it was to be saved was found in this copy and is open now:\r\n" +
+          loaded.copy + "\r\n\r\n" +
+          (isSaved ? "It has been saved to its file again.\r\n"
+                   : "It could NOT be saved to its file again.  Use File->Save As to save it "
+                     "to another location.\r\n"),
+      "Information");
 }
 
 void showOddities(Window& owner, std::string oddities) {

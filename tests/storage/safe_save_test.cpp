@@ -129,7 +129,7 @@ TEST(SafeSave, InPlaceLeavesAWholeContestToOpenWheneverThePowerGoes) {
           EXPECT_TRUE(isNew || loaded->copy.empty());
         }
       }
-      EXPECT_GT(fromCopy, 200);
+      EXPECT_GT(fromCopy, 100);
     }
   }
 }
