@@ -1,12 +1,14 @@
 // scorvane-report: prints any report of a contest file without a window.
 #include <cstdio>
 #include <exception>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include "cli/options.h"
 #include "cli/runner.h"
 #include "cli/system.h"
+#include "text/characters.h"
 
 namespace scorvane {
 
@@ -19,11 +21,13 @@ CliResult answer(const std::vector<std::string_view>& arguments) {
   }
   if (options.title) options.title = contestText(*options.title);
   if (options.category) options.category = contestText(*options.category);
-  if (options.action == CliOptions::Action::allReports) makeFolder(options.folder);
   return runCli(options, systemFiles());
 }
 
+// A file or another program gets every byte; a terminal obeys some.
 bool print(std::string_view text) {
+  std::string shown;
+  if (isOutputTerminal()) text = shown = withoutCommands(text);
   const bool written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
   return std::fflush(stdout) == 0 && written;
 }

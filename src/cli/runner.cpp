@@ -1,12 +1,13 @@
 #include "cli/runner.h"
 
 #include <algorithm>
+#include <exception>
 #include <tuple>
 #include <utility>
 #include <variant>
 
 #include "cli/system.h"
-#include "storage/contest_reader.h"
+#include "storage/contest_loader.h"
 #include "storage/safe_save.h"
 #include "text/characters.h"
 
@@ -16,29 +17,54 @@ namespace {
 
 using Action = CliOptions::Action;
 
-CliResult failed(const std::string& reason) {
-  return {kFailed, "", "scorvane-report: " + reason + "\n"};
+/// A line for standard error. What it quotes of files and names must not end it.
+std::string remark(const std::string& text) {
+  return withoutCommands(withoutControlCharacters("scorvane-report: " + text)) + "\n";
 }
 
-const char* reasonOf(ContestFault fault) {
-  switch (fault) {
+CliResult failed(const std::string& reason) {
+  return {kFailed, "", remark(reason)};
+}
+
+std::string reasonOf(const ContestFault& fault) {
+  const std::string line = " (line " + std::to_string(fault.line) + ")";
+  switch (fault.kind) {
     case ContestFault::unreadable:
       return "it does not exist or cannot be opened";
     case ContestFault::scoreCountMismatch:
-      return "the number of scores in the file is not correct";
+      return "the number of scores in the file is not correct" + line;
     case ContestFault::notAContest:
       break;
   }
-  return "it is not a contest file, or is damaged";
+  return "it is not a contest file, or is damaged" + line;
+}
+
+/// A contest and what is to be said of its file.
+struct Opened {
+  Contest contest;
+  std::string remarks;
+};
+
+std::string remarksOn(const std::string& path, const LoadedContest& loaded) {
+  std::string remarks;
+  if (!loaded.copy.empty()) {
+    remarks +=
+        remark("'" + path + "' was never saved to its end; this is its copy '" + loaded.copy + "'");
+  }
+  if (loaded.oddities.empty()) return remarks;
+  remarks += remark("'" + path + "' may be damaged:");
+  return remarks + loaded.oddities;
 }
 
 // The contest, or why there is none.
-std::variant<Contest, std::string> openContest(const std::string& path, FileSystem& files) {
+std::variant<Opened, std::string> openContest(const std::string& path, FileSystem& files) {
   if (const auto file = files.openToRead(path)) {
     expectMemory(3 * static_cast<std::size_t>(file->size()));  // the bytes, and the contest of them
   }
   auto loading = loadContestFile(files, path);
-  if (auto* loaded = std::get_if<LoadedContest>(&loading)) return std::move(loaded->contest);
+  if (auto* loaded = std::get_if<LoadedContest>(&loading)) {
+    return Opened{std::move(loaded->contest), remarksOn(path, *loaded)};
+  }
   return "cannot read '" + contestText(path) + "': " + reasonOf(std::get<ContestFault>(loading));
 }
 
@@ -104,7 +130,12 @@ CliResult printReports(const Contest& contest, const CliOptions& options) {
   CliResult result;
   for (const Command* command : options.commands) {
     // Whatever a report needs has been looked for by now.
-    result.output += command->report()->build(contest, request).value();
+    std::string report = command->report()->build(contest, request).value();
+    if (result.output.empty()) {
+      result.output = std::move(report);
+    } else {
+      result.output += report;
+    }
   }
   return result;
 }
@@ -115,17 +146,29 @@ std::string fileNameOf(const Command& command) {
   return name + ".txt";
 }
 
+// A report that asks nothing needs nothing. Returns why it is not there.
+std::optional<std::string> writeReport(const Report& report, const Contest& contest,
+                                       const std::string& path, FileSystem& files) {
+  try {
+    const std::string text = withWindowsLineEnds(report.build(contest, {}).value());
+    if (saveSafely(files, path, text)) return std::nullopt;
+    return "cannot write '" + path + "'";
+  } catch (const std::exception& error) {
+    return "cannot make '" + path + "': " + error.what();
+  }
+}
+
 CliResult writeAllReports(const Contest& contest, const std::string& folder, FileSystem& files) {
   CliResult result;
+  // Should that fail, each report says so.
+  static_cast<void>(files.makeFolders(folder));
   for (const Command& command : commandTable()) {
     const Report* report = command.report();
     if (report == nullptr || report->ask != nullptr) continue;
-    // A report that asks nothing needs nothing.
-    const std::string text = report->build(contest, {}).value();
-    const std::string path = folder + "/" + fileNameOf(command);
-    if (!saveSafely(files, path, withWindowsLineEnds(text))) {
-      return failed("cannot write '" + contestText(path) + "'");
-    }
+    const auto why = writeReport(*report, contest, folder + "/" + fileNameOf(command), files);
+    if (!why) continue;
+    result.status = kFailed;
+    result.error += remark(*why);
   }
   return result;
 }
@@ -155,14 +198,16 @@ CliResult runCli(const CliOptions& options, FileSystem& files) {
   }
   const auto opened = openContest(options.contest, files);
   if (const auto* refusal = std::get_if<std::string>(&opened)) return failed(*refusal);
-  const auto& contest = std::get<Contest>(opened);
-  return options.action == Action::allReports ? writeAllReports(contest, options.folder, files)
-                                              : printReports(contest, options);
+  const auto& [contest, remarks] = std::get<Opened>(opened);
+  CliResult result = options.action == Action::allReports
+                         ? writeAllReports(contest, options.folder, files)
+                         : printReports(contest, options);
+  result.error.insert(0, remarks);
+  return result;
 }
 
 CliResult refuseUsage(const std::string& reason) {
-  return {kWrongUsage, "",
-          "scorvane-report: " + reason + "\nscorvane-report --help explains everything.\n"};
+  return {kWrongUsage, "", remark(reason) + "scorvane-report --help explains everything.\n"};
 }
 
 }  // namespace scorvane

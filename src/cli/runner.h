@@ -19,7 +19,7 @@ inline constexpr int kFailed = 1;
 inline constexpr int kWrongUsage = 2;
 
 /// Follows the options; contest files are read from, and --all writes to, `files`. The folder of
-/// --all must exist.
+/// --all is made once the contest was read; every report is tried.
 [[nodiscard]] CliResult runCli(const CliOptions& options, FileSystem& files);
 
 /// What a command line that cannot be followed comes to.
