@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <string_view>
 #include <utility>
 
 #include "model/contest_differences.h"
@@ -59,14 +60,13 @@ class RosterMatcher {
   std::vector<Member> membersOf(Side side, const std::string& team) const {
     std::vector<Member> members;
     const Contest& contest = *contests_[side];
-    const auto found = contest.teams.find(team);
-    for (const ContestantNumber number : found->second.members) {
+    std::size_t slot = 0;
+    for (const ContestantNumber number : contest.teams.at(team).members) {
       const std::size_t position = contest.contestantNames.positionOf(number);
-      if (position == contest.contestantNames.size()) continue;
-      members.push_back(
-          {static_cast<std::size_t>(&number - found->second.members.data()), number,
-           contest.contestantNames.begin()[static_cast<std::ptrdiff_t>(position)].second,
-           position});
+      if (position < contest.contestantNames.size()) {
+        members.push_back({slot, number, entryAt(side, position).second, position});
+      }
+      ++slot;
     }
     return members;
   }
@@ -99,12 +99,37 @@ class RosterMatcher {
       const std::size_t here = position++;
       const std::size_t there = contests_[from]->contestantNames.positionOf(number);
       if (!isFree(to, here) || !isFree(from, there, to)) continue;
-      const bool isNamed = !name.empty() && name == contestantName(*contests_[from], number);
-      const bool hasTeam = !teams_[to][here].empty() || !teams_[from][there].empty();
-      if (from == kBase ? isNamed || !hasTeam : isNamed && !hasTeam) {
+      const bool isSameName = name == contestantName(*contests_[from], number);
+      const bool isAlone = teams_[to][here].empty(), wasAlone = teams_[from][there].empty();
+      const bool isKnown = isAlone || (isSameName && (wasAlone || !name.empty()));
+      if (from == kBase ? isKnown : isSameName && isAlone && wasAlone) {
         link(from, there, to, here, number);
       }
     }
+    if (from != kBase) matchStrays(from, to);
+  }
+
+  // Somebody whom a full team had no room for has no team since; such people are known by name.
+  void matchStrays(Side from, Side to) {
+    std::map<std::string_view, std::vector<std::size_t>> added;
+    for (std::size_t there = personAt_[from].size(); there-- > 0;) {
+      if (isFree(from, there, to)) added[entryAt(from, there).second].push_back(there);
+    }
+    for (std::size_t here = 0; here < personAt_[to].size(); ++here) {
+      const auto& [number, name] = entryAt(to, here);
+      if (!isFree(to, here) || name.empty()) continue;
+      auto& same = added[name];
+      const auto found = std::find_if(same.rbegin(), same.rend(), [&](std::size_t there) {
+        return teams_[from][there].empty() || teams_[to][here].empty();
+      });
+      if (found == same.rend()) continue;
+      link(from, *found, to, here, number);
+      same.erase(std::next(found).base());
+    }
+  }
+
+  const decltype(Contest::contestantNames)::Entry& entryAt(Side side, std::size_t position) const {
+    return contests_[side]->contestantNames.begin()[static_cast<std::ptrdiff_t>(position)];
   }
 
   bool isFree(Side to, std::size_t position) const { return personAt_[to][position] == kUnknown; }
@@ -133,28 +158,61 @@ class RosterMatcher {
     return !team[to] && (from == kBase || !team[kBase]);
   }
 
-  // Of one name with a member in common, then with a member of one number and name, then of one
-  // name.
+  // Of one name with a member in common, then with a member of one number and name, then with the
+  // same people, then of one coach and the same numbers, then of one name.
   void matchTeams(Side from, Side to) {
-    for (int pass = 0; pass < 3; ++pass) {
-      for (const auto& entry : contests_[to]->teams) {
-        const std::string& name = entry.first;
-        if (same_.teamOf[to].contains(name)) continue;
-        if (pass == 1) {
-          matchRenamed(from, to, name);
-        } else if (isFreeTeam(from, name, to) && (pass == 2 || sharesName(from, to, name))) {
-          linkTeams(from, name, to, name);
-        }
-      }
+    const auto byName = [](Side, const std::string& name) { return name; };
+    matchTeamsBy(from, to, byName, true);
+    for (const auto& entry : contests_[to]->teams) {
+      if (!same_.teamOf[to].contains(entry.first)) matchRenamed(from, to, entry.first);
+    }
+    matchTeamsBy(
+        from, to,
+        [this](Side side, const std::string& name) {
+          std::string names, none;
+          for (const Member& member : membersOf(side, name)) {
+            names += member.name + '\n';
+            none += '\n';
+          }
+          return names == none ? "" : names;
+        },
+        false);
+    matchTeamsBy(
+        from, to,
+        [this](Side side, const std::string& name) {
+          const Team& team = contests_[side]->teams.at(name);
+          std::string key = team.coach;
+          if (key.empty()) return key;
+          for (const ContestantNumber number : team.members) key += '\n' + std::to_string(number);
+          return key;
+        },
+        false);
+    matchTeamsBy(from, to, byName, false);
+  }
+
+  // Of the same key, which is not empty.
+  template <typename Key>
+  void matchTeamsBy(Side from, Side to, Key keyOf, bool needsCommonMember) {
+    std::map<std::string, std::string> known;
+    for (const auto& entry : contests_[from]->teams) {
+      if (isFreeTeam(from, entry.first, to)) known[keyOf(from, entry.first)] = entry.first;
+    }
+    for (const auto& entry : contests_[to]->teams) {
+      if (same_.teamOf[to].contains(entry.first)) continue;
+      const std::string key = keyOf(to, entry.first);
+      const auto found = known.find(key);
+      if (key.empty() || found == known.end() || !isFreeTeam(from, found->second, to)) continue;
+      if (needsCommonMember && !sharesName(from, found->second, to, entry.first)) continue;
+      linkTeams(from, found->second, to, entry.first);
     }
   }
 
-  bool sharesName(Side from, Side to, const std::string& team) const {
-    const std::vector<Member> there = membersOf(from, team);
+  bool sharesName(Side from, const std::string& other, Side to, const std::string& team) const {
+    const std::vector<Member> there = membersOf(from, other);
     const std::vector<Member> here = membersOf(to, team);
     return std::any_of(here.begin(), here.end(), [&](const Member& member) {
-      return std::any_of(there.begin(), there.end(), [&](const Member& other) {
-        return !member.name.empty() && other.name == member.name;
+      return std::any_of(there.begin(), there.end(), [&](const Member& known) {
+        return !member.name.empty() && known.name == member.name;
       });
     });
   }
@@ -204,7 +262,7 @@ class RosterMatcher {
     };
     matchBy([&](const Member& a, const Member& b) {
       const bool isPlausible = !isNew || named > 0 || a.name.empty() || b.name.empty();
-      return a.number == b.number && isPlausible && isOnePlace(a, b);
+      return a.number == b.number && isPlausible && (a.name == b.name || isOnePlace(a, b));
     });
     if (moved > 0) {
       matchBy([](const Member& a, const Member& b) { return a.slot == b.slot; });
@@ -221,6 +279,21 @@ class RosterMatcher {
   std::array<std::vector<std::vector<const std::string*>>, 3> teams_;  // likewise
 };
 
+// Whether what only its position makes the ancestor's has the name of something else on the other
+// side, which the ancestor lacks.
+bool isRatherAdded(const std::array<const std::vector<std::string>*, 3>& lists,
+                   const std::array<std::vector<ClassMatch>, 3>& matches, Side side,
+                   std::int32_t base, std::int32_t index) {
+  const Side other = side == kOurs ? kTheirs : kOurs;
+  const std::string& name = (*lists[side])[static_cast<std::size_t>(index)];
+  if (name == (*lists[kBase])[static_cast<std::size_t>(base)]) return false;
+  return std::any_of(matches[other].begin(), matches[other].end(), [&](const ClassMatch& match) {
+    return match.there && match.here != base &&
+           (*lists[other])[static_cast<std::size_t>(*match.there)] == name &&
+           (!match.here || (*lists[kBase])[static_cast<std::size_t>(*match.here)] != name);
+  });
+}
+
 }  // namespace
 
 std::vector<Three<std::int32_t>> sameNames(
@@ -229,13 +302,17 @@ std::vector<Three<std::int32_t>> sameNames(
   for (std::size_t k = 0; k < lists[kBase]->size(); ++k) {
     same.emplace_back()[kBase] = static_cast<std::int32_t>(k);
   }
+  std::array<std::vector<ClassMatch>, 3> matches;
+  for (const Side side : {kOurs, kTheirs}) {
+    matches[side] = matchNames(*lists[kBase], *lists[side], true);
+  }
   std::array<std::vector<std::int32_t>, 3> added;
   std::array<std::vector<std::string>, 3> addedNames;
   for (const Side side : {kOurs, kTheirs}) {
-    for (const auto& [base, index] : matchNames(*lists[kBase], *lists[side], true)) {
-      if (base) {
+    for (const auto& [base, index] : matches[side]) {
+      if (base && (!index || !isRatherAdded(lists, matches, side, *base, *index))) {
         same[static_cast<std::size_t>(*base)][side] = index;
-      } else {
+      } else if (index) {
         added[side].push_back(*index);
         addedNames[side].push_back((*lists[side])[static_cast<std::size_t>(*index)]);
       }

@@ -82,14 +82,21 @@ class ReasonsMerge {
     return before == now;
   }
 
+  // Whether a side only removed people, of whom somebody stays.
+  [[nodiscard]] bool hasLost(Side side) const {
+    return isAsBefore(side) && std::any_of(speakers_[kBase].begin(), speakers_[kBase].end(),
+                                           [&](const Speaker& speaker) {
+                                             return stays(speaker.person) &&
+                                                    !isOn(speaker.person, side);
+                                           });
+  }
+
   Side chosenSide() {
-    if (isEqual(kOurs, kBase)) return kTheirs;
-    if (isEqual(kTheirs, kBase) || isEqual(kOurs, kTheirs)) return kOurs;
+    if (isEqual(kOurs, kBase)) return hasLost(kTheirs) ? kBase : kTheirs;
+    if (isEqual(kTheirs, kBase)) return hasLost(kOurs) ? kBase : kOurs;
+    if (isEqual(kOurs, kTheirs)) return kOurs;
     const bool isOursAsBefore = isAsBefore(kOurs), isTheirsAsBefore = isAsBefore(kTheirs);
-    if (isOursAsBefore && isTheirsAsBefore) {
-      isCompacted_ = true;
-      return kBase;
-    }
+    if (isOursAsBefore && isTheirsAsBefore) return kBase;
     if (isOursAsBefore) return kTheirs;
     if (isTheirsAsBefore) return kOurs;
     if (takers(kOurs) == takers(kTheirs)) {

@@ -140,6 +140,7 @@ class RosterMerge {
       if (!isOnlyTheirs(person)) continue;
       state_.numberOf[person] = *roster_.people[person][kTheirs];
       moves[person] = used_.contains(state_.numberOf[person]);
+      if (moves[person] && isNobody(person)) state_.staysPerson[person] = moves[person] = false;
       clashes = clashes || moves[person];
     }
     std::vector<Person> order;
@@ -164,6 +165,17 @@ class RosterMerge {
       isFine = used_.insert(state_.numberOf[person]).second && isFine;
     }
     return isFine;
+  }
+
+  // A reserved number of no team, and without scores.
+  [[nodiscard]] bool isNobody(Person person) const {
+    const auto& teams = in(kTheirs).teams;
+    const ContestantNumber number = *roster_.people[person][kTheirs];
+    return state_.nameOn(kTheirs, person).empty() && !state_.isChanged(kTheirs, person) &&
+           std::none_of(teams.begin(), teams.end(), [&](const auto& team) {
+             const auto& members = team.second.members;
+             return std::find(members.begin(), members.end(), number) != members.end();
+           });
   }
 
   // Everybody who needs another number, team by team in the order of their slots.
@@ -266,15 +278,19 @@ class RosterMerge {
   }
 
   void mergeTeams() {
-    std::vector<std::size_t> teams;  // those of both sides first: they keep what is theirs alone
-    for (const bool isKept : {false, true}) {
-      for (std::size_t team = 0; team < roster_.teams.size(); ++team) {
-        const bool isLost = keeperOf(roster_.teams[team]).has_value();
-        if (staysTeam_[team] && isLost == isKept) teams.push_back(team);
+    std::map<std::string, std::size_t> named;
+    std::vector<std::pair<std::size_t, std::string>> renamed;
+    for (std::size_t team = 0; team < roster_.teams.size(); ++team) {
+      if (!staysTeam_[team]) continue;
+      const std::string name = mergedTeamName(team);
+      const auto& base = roster_.teams[team][kBase];
+      if (base && *base != name) {
+        renamed.emplace_back(team, name);
+      } else {
+        named[name] = team;
       }
     }
-    std::map<std::string, std::size_t> named;
-    for (const std::size_t team : teams) named[nameFor(team)] = team;
+    for (const auto& [team, name] : renamed) named[freeTeamName(named, team, name)] = team;
     for (const auto& [name, team] : named) {
       if (!keeperOf(roster_.teams[team])) addTeamSlots(name, team);
     }
@@ -284,21 +300,24 @@ class RosterMerge {
     fillSlots();
   }
 
-  // A team's name; one that another team has by now is not taken over.
-  std::string nameFor(std::size_t team) {
-    const Three<std::string>& names = roster_.teams[team];
-    std::string name = names[kOurs] ? *names[kOurs] : *names[kTheirs];
-    if (names[kOurs] && names[kTheirs]) {
-      name = mergedValue(names[kBase] ? &*names[kBase] : nullptr, *names[kOurs], *names[kTheirs],
-                         [&] { listTeam(*names[kOurs], "name", *names[kOurs], *names[kTheirs]); });
+  std::string mergedTeamName(std::size_t team) {
+    const auto& [base, ours, theirs] = roster_.teams[team];
+    if (!ours || !theirs) return ours ? *ours : *theirs;
+    return mergedValue(base ? &*base : nullptr, *ours, *theirs,
+                       [&] { listTeam(*ours, "name", *ours, *theirs); });
+  }
+
+  // A team is not renamed to what another one is called by now.
+  std::string freeTeamName(const std::map<std::string, std::size_t>& named, std::size_t team,
+                           const std::string& wanted) {
+    if (!named.contains(wanted)) return wanted;
+    const auto& [base, ours, theirs] = roster_.teams[team];
+    std::string name = *base;
+    for (int count = 2; named.contains(name); ++count) {
+      name = *base + " (" + std::to_string(count) + ')';
     }
-    if (usedNames_.insert(name).second) return name;
-    std::string other = names[kBase] ? *names[kBase] : name;
-    for (int count = 2; !usedNames_.insert(other).second; ++count) {
-      other = name + " (" + std::to_string(count) + ')';
-    }
-    listTeam(other, "name", names[kOurs].value_or(""), names[kTheirs].value_or(""));
-    return other;
+    listTeam(name, "name", ours.value_or(""), theirs.value_or(""));
+    return name;
   }
 
   void listTeam(const std::string& name, std::string value, std::string ours, std::string theirs) {
@@ -380,7 +399,6 @@ class RosterMerge {
   std::set<Person> isListed_;
   std::set<ContestantNumber> used_;
   std::set<ContestantNumber> dangling_;
-  std::set<std::string> usedNames_;
   std::set<std::int64_t> hasTeam_;
   std::map<std::string, std::vector<Slot>> slotsOf_;
 };

@@ -47,7 +47,9 @@ TEST(ContestMerge, KeepsItsLaws) {
         << writeContest(base) << "\nours\n"
         << writeContest(ours) << "\ntheirs\n"
         << writeContest(theirs) << "\nmerged\n"
-        << writeContest(merge.contest);
+        << writeContest(merge.contest) << "\ntwice\n"
+        << writeContest(mergeContests(base, merge.contest, theirs).contest) << "\nunchanged\n"
+        << writeContest(mergeContests(base, base, theirs).contest);
   }
   for (const int count : {smooth, differing, lost, renumbered, joined}) {
     EXPECT_GT(count, triples / 20);

@@ -67,8 +67,9 @@ class Editor {
       case 4:
         s.numToScore = 1 + number(3);
         s.numPerTeam = s.numToScore + number(2);
-        s.totalNumPerTeam = std::max(s.totalNumPerTeam, s.numPerTeam);
         if (c_.teams.empty()) s.totalNumPerTeam = s.numPerTeam + number(3);
+        s.numPerTeam = std::min(s.numPerTeam, s.totalNumPerTeam);
+        s.numToScore = std::min(s.numToScore, s.numPerTeam);
         break;
       case 5:
         if (c_.teams.empty()) s.startNum = 101 + 100 * number(3);
@@ -122,7 +123,7 @@ class Editor {
     for (std::uint32_t i = below_(static_cast<std::uint32_t>(teamSlots(c_.settings)) + 1); i > 0; --i) {
       updateNextContestant(c_);
       members.push_back(c_.settings.nextContestantNum);
-      addContestant(c_, members.back(), name("Person", 30));
+      addContestant(c_, members.back(), name("Person", 2000));
     }
     addTeam(c_, team, {name("Coach", 9), fillTeamSlots(c_, members)});
   }
@@ -138,13 +139,15 @@ class Editor {
   }
 
   void editPeople() {
+    if (c_.contestantNames.empty()) return;
+    const ContestantNumber person = someone();
     switch (below_(4)) {
       case 0:
-        return vacateNumber(c_, someone());
+        return vacateNumber(c_, person);
       case 1:
-        return removeContestant(c_, someone());
+        return removeContestant(c_, person);
       default:
-        if (!c_.contestantNames.empty()) setContestant(c_, someone(), name("Person", 30));
+        setContestant(c_, person, name("Person", 2000));
     }
   }
 
@@ -166,9 +169,10 @@ class Editor {
   }
 
   void score() {
-    if (c_.contestantNames.empty() || c_.classes.count() == 0) return;
+    const ContestantNumber scored = someone();
+    if (contestantName(c_, scored).empty() || c_.classes.count() == 0) return;
     ScoreRecord& record =
-        c_.scores[someone()][number(static_cast<std::uint32_t>(c_.classes.count()))];
+        c_.scores[scored][number(static_cast<std::uint32_t>(c_.classes.count()))];
     const std::uint32_t kind = below_(4);
     if (kind < 2) record.letter = "ABCDEFGHIJKLMNOPQRSTUVWXZ "[below_(26)];
     if (kind == 2) record.reasonsScore = number(51);
@@ -232,6 +236,23 @@ bool hasEveryScoreOf(const Contest& base, const Contest& side, const Merge& merg
   return true;
 }
 
+// Renamed classes and categories are known by their position only while there are as many.
+bool isKnownByName(const Contest& base, const Contest& side, const Contest& merged) {
+  const auto isKnown = [](const std::vector<std::string>& before,
+                          const std::vector<std::string>& now,
+                          const std::vector<std::string>& after) {
+    if (after.size() == before.size()) return true;
+    const std::vector<ClassMatch> matches = matchNames(before, now, true);
+    return std::all_of(matches.begin(), matches.end(), [&](const ClassMatch& match) {
+      return !match.here || !match.there ||
+             before[static_cast<std::size_t>(*match.here)] ==
+                 now[static_cast<std::size_t>(*match.there)];
+    });
+  };
+  return isKnown(base.classes.className, side.classes.className, merged.classes.className) &&
+         isKnown(base.categories, side.categories, merged.categories);
+}
+
 }  // namespace
 
 void editAtRandom(Contest& contest, const Choose& choose) {
@@ -255,7 +276,10 @@ std::string brokenMergeLaw(const Contest& base, const Contest& ours, const Conte
   };
   if (isClear(merge) != isClear(back)) return "both sides find the same to differ";
   if (isClear(merge) && merge.contest != back.contest) return "both sides merge alike";
-  if (mergeContests(base, merge.contest, theirs).contest != merge.contest) {
+  const bool areClassesKnown = isKnownByName(base, ours, merge.contest) &&
+                               isKnownByName(base, theirs, merge.contest);
+  if (areClassesKnown &&
+      mergeContests(base, merge.contest, theirs).contest != merge.contest) {
     return "merging twice changes nothing";
   }
   if (mergeContests(theirs, merge.contest, theirs).contest != merge.contest) {
