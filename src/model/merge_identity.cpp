@@ -40,8 +40,10 @@ class RosterMatcher {
   SameRoster run() {
     addUnmatched(kBase);
     match(kBase, kOurs);
-    addUnmatched(kOurs);
     match(kBase, kTheirs);
+    matchRenumbered(kOurs, kTheirs);
+    matchRenumbered(kTheirs, kOurs);
+    addUnmatched(kOurs);
     match(kOurs, kTheirs);
     addUnmatched(kTheirs);
     for (const Side side : kSides) {
@@ -107,6 +109,24 @@ class RosterMatcher {
       }
     }
     if (from != kBase) matchStrays(from, to);
+  }
+
+  // Whoever has another name and another number than in the ancestor can still be known by what the
+  // other side calls the member.
+  void matchRenumbered(Side known, Side side) {
+    for (const auto& [name, id] : same_.teamOf[side]) {
+      if (!same_.teams[id][known]) continue;
+      const std::vector<Member> there = membersOf(known, *same_.teams[id][known]);
+      for (const Member& member : membersOf(side, name)) {
+        for (const Member& other : there) {
+          if (!isFree(side, member.position)) break;
+          const std::size_t person = personAt_[known][other.position];
+          if (person == kUnknown || same_.people[person][side] || member.name.empty()) continue;
+          if (member.name == other.name)
+            link(known, other.position, side, member.position, member.number);
+        }
+      }
+    }
   }
 
   // Somebody whom a full team had no room for has no team since; such people are known by name.
@@ -265,7 +285,8 @@ class RosterMatcher {
       return a.number == b.number && isPlausible && (a.name == b.name || isOnePlace(a, b));
     });
     if (moved > 0) {
-      matchBy([](const Member& a, const Member& b) { return a.slot == b.slot; });
+      matchBy(
+          [&](const Member& a, const Member& b) { return a.slot == b.slot && isOnePlace(a, b); });
     }
     if (isNew) {
       matchBy([](const Member& a, const Member& b) { return a.name.empty() != b.name.empty(); });

@@ -338,8 +338,12 @@ class RosterMerge {
     slots.resize(std::min(slots.size(), teamSlots(contest_.settings)));
     // A removed team that stays leaves to other teams whom they have taken over.
     if (keeperOf(names)) {
-      std::erase_if(
-          slots, [&](const Slot& slot) { return slot.isPerson && hasTeam_.contains(slot.value); });
+      std::erase_if(slots, [this](const Slot& slot) {
+        if (!slot.isPerson) return false;
+        const bool isGone = !state_.staysPerson[static_cast<Person>(slot.value)];
+        return isGone ? contest_.contestantNames.contains(numberIn(slot))
+                      : hasTeam_.contains(slot.value);
+      });
     }
     for (const Slot& slot : slots) {
       if (slot.isPerson) hasTeam_.insert(slot.value);
