@@ -1,11 +1,11 @@
 #include "cli/options.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
 #include <limits>
 
-#include "cli/suggestion.h"
+#include "cli/arguments.h"
+#include "cli/program.h"
 #include "text/number.h"
 
 namespace scorvane {
@@ -33,10 +33,6 @@ constexpr const char* kPurpose =
 constexpr const char* kExitStatus =
     "Exit status: 0 done; 1 the contest cannot be read, or lacks what the report needs, or the\n"
     "report cannot be written; 2 wrong usage.";
-
-std::string inQuotes(std::string_view text) {
-  return "'" + std::string(text) + "'";
-}
 
 bool sameWord(const std::string& a, std::string_view b) {
   return CLI::detail::to_lower(a) == CLI::detail::to_lower(std::string(b));
@@ -108,22 +104,6 @@ void declare(CLI::App& app, CliOptions& o, Words& words) {
   app.footer(kExitStatus);
 }
 
-std::string suggested(std::string_view typed, const std::vector<std::string>& names,
-                      const char* otherwise) {
-  const std::string nearest = nearestName(typed, names);
-  return nearest.empty() ? otherwise : "; did you mean " + nearest + "?";
-}
-
-Refusal refuseUnknown(const CLI::App& app) {
-  const std::vector<std::string> unknown = app.remaining();
-  std::vector<std::string> names;
-  for (const CLI::Option* option : app.get_options()) {
-    if (!option->get_lnames().empty()) names.push_back(option->get_name());
-  }
-  const std::string typed = unknown.empty() ? "" : unknown[0].substr(0, unknown[0].find('='));
-  return "there is no option " + inQuotes(typed) + suggested(typed, names, "");
-}
-
 Refusal findReport(const std::string& word, CliOptions& options) {
   const std::optional<std::int32_t> id = exactNumber(word);
   std::vector<std::string> captions;
@@ -182,30 +162,14 @@ Refusal checkWords(const CLI::App& app, const Words& words, CliOptions& options)
   return checkUse(app, options);
 }
 
-// The arguments with "--title=" in two: the library would take the next argument for its value.
-std::vector<std::string> separated(std::span<const std::string_view> arguments) {
-  std::vector<std::string> separate;
-  bool onlyWords = false;
-  for (const std::string_view argument : arguments) {
-    onlyWords = onlyWords || argument == "--";
-    const bool isEmptyValue =
-        !onlyWords && argument.starts_with("--") && argument.find('=') == argument.size() - 1;
-    separate.emplace_back(argument.substr(0, argument.size() - (isEmptyValue ? 1 : 0)));
-    if (isEmptyValue) separate.emplace_back();
-  }
-  return separate;
-}
-
 }  // namespace
 
 Refusal readOptions(std::span<const std::string_view> arguments, CliOptions& options) {
-  CLI::App app(kPurpose, "scorvane-report");
+  CLI::App app(kPurpose, kReportProgram);
   Words words;
   declare(app, options, words);
-  std::vector<std::string> reversed = separated(arguments);
-  std::reverse(reversed.begin(), reversed.end());
   try {
-    app.parse(reversed);
+    app.parse(libraryArguments(arguments));
   } catch (const CLI::CallForHelp&) {
     options.action = Action::help;
     return std::nullopt;
@@ -221,7 +185,7 @@ Refusal readOptions(std::span<const std::string_view> arguments, CliOptions& opt
 }
 
 std::string usageText() {
-  CLI::App app(kPurpose, "scorvane-report");
+  CLI::App app(kPurpose, kReportProgram);
   CliOptions options;
   Words words;
   declare(app, options, words);

@@ -5,8 +5,7 @@
 #include <utility>
 #include <variant>
 
-#include "cli/system.h"
-#include "storage/contest_reader.h"
+#include "cli/contest_input.h"
 #include "storage/safe_save.h"
 #include "text/characters.h"
 
@@ -17,29 +16,7 @@ namespace {
 using Action = CliOptions::Action;
 
 CliResult failed(const std::string& reason) {
-  return {kFailed, "", "scorvane-report: " + reason + "\n"};
-}
-
-const char* reasonOf(ContestFault fault) {
-  switch (fault) {
-    case ContestFault::unreadable:
-      return "it does not exist or cannot be opened";
-    case ContestFault::scoreCountMismatch:
-      return "the number of scores in the file is not correct";
-    case ContestFault::notAContest:
-      break;
-  }
-  return "it is not a contest file, or is damaged";
-}
-
-// The contest, or why there is none.
-std::variant<Contest, std::string> openContest(const std::string& path, FileSystem& files) {
-  if (const auto file = files.openToRead(path)) {
-    expectMemory(3 * static_cast<std::size_t>(file->size()));  // the bytes, and the contest of them
-  }
-  auto loading = loadContestFile(files, path);
-  if (auto* loaded = std::get_if<LoadedContest>(&loading)) return std::move(loaded->contest);
-  return "cannot read '" + path + "': " + reasonOf(std::get<ContestFault>(loading));
+  return {kFailed, "", std::string(kReportProgram) + ": " + reason + "\n"};
 }
 
 // Why the contest cannot follow the options: it lacks the class, round or category asked for.
@@ -155,14 +132,9 @@ CliResult runCli(const CliOptions& options, FileSystem& files) {
   }
   const auto opened = openContest(options.contest, files);
   if (const auto* refusal = std::get_if<std::string>(&opened)) return failed(*refusal);
-  const auto& contest = std::get<Contest>(opened);
+  const Contest& contest = std::get<LoadedContest>(opened).contest;
   return options.action == Action::allReports ? writeAllReports(contest, options.folder, files)
                                               : printReports(contest, options);
-}
-
-CliResult refuseUsage(const std::string& reason) {
-  return {kWrongUsage, "",
-          "scorvane-report: " + reason + "\nscorvane-report --help explains everything.\n"};
 }
 
 }  // namespace scorvane
