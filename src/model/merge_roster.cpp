@@ -25,6 +25,7 @@ class RosterMerge {
   void run() {
     decideWhoStays();
     decideTeams();
+    dropNobodies();
     giveNumbers();
     mergeNames();
     mergeTeams();
@@ -77,6 +78,24 @@ class RosterMerge {
       const auto keeper = keeperOf(roster_.people[person]);
       if (!keeper || !state_.staysPerson[person] || isListed_.contains(person)) continue;
       addLost(DifferenceKind::contestant, subjectOf(*keeper, person), *keeper);
+    }
+  }
+
+  // New numbers that are merely reserved, by no team and without scores, give way to people.
+  void dropNobodies() {
+    for (Person person = 0; person < roster_.people.size(); ++person) {
+      const Three<ContestantNumber>& numbers = roster_.people[person];
+      if (numbers[kBase] || (numbers[kOurs] && numbers[kTheirs])) continue;
+      const Side side = numbers[kOurs] ? kOurs : kTheirs;
+      const Person* other = roster_.personOf[otherSide(side)].find(*numbers[side]);
+      if (other == nullptr || !state_.staysPerson[*other]) continue;
+      if (!state_.nameOn(side, person).empty() || state_.isChanged(side, person)) continue;
+      const auto& teams = in(side).teams;
+      const bool hasTeam = std::any_of(teams.begin(), teams.end(), [&](const auto& team) {
+        const auto& members = team.second.members;
+        return std::find(members.begin(), members.end(), *numbers[side]) != members.end();
+      });
+      if (!hasTeam) state_.staysPerson[person] = false;
     }
   }
 
@@ -140,7 +159,6 @@ class RosterMerge {
       if (!isOnlyTheirs(person)) continue;
       state_.numberOf[person] = *roster_.people[person][kTheirs];
       moves[person] = used_.contains(state_.numberOf[person]);
-      if (moves[person] && isNobody(person)) state_.staysPerson[person] = moves[person] = false;
       clashes = clashes || moves[person];
     }
     std::vector<Person> order;
@@ -165,17 +183,6 @@ class RosterMerge {
       isFine = used_.insert(state_.numberOf[person]).second && isFine;
     }
     return isFine;
-  }
-
-  // A reserved number of no team, and without scores.
-  [[nodiscard]] bool isNobody(Person person) const {
-    const auto& teams = in(kTheirs).teams;
-    const ContestantNumber number = *roster_.people[person][kTheirs];
-    return state_.nameOn(kTheirs, person).empty() && !state_.isChanged(kTheirs, person) &&
-           std::none_of(teams.begin(), teams.end(), [&](const auto& team) {
-             const auto& members = team.second.members;
-             return std::find(members.begin(), members.end(), number) != members.end();
-           });
   }
 
   // Everybody who needs another number, team by team in the order of their slots.
