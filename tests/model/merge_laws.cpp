@@ -223,7 +223,7 @@ bool hasEveryScoreOf(const Contest& base, const Contest& side, const Merge& merg
             return valueOf(scoreRecord(merge.contest, n, place), value) == typed;
           });
         };
-        const auto isListed = [&](const DifferingScore& score) {
+        const auto isListed = [&](const ContestantScore& score) {
           return score.value == value && valueOf(score.records.*own, value) == typed &&
                  std::find(numbers.begin(), numbers.end(), score.number) != numbers.end();
         };
@@ -237,7 +237,8 @@ bool hasEveryScoreOf(const Contest& base, const Contest& side, const Merge& merg
   return true;
 }
 
-// Renamed classes and categories are known by their position only while there are as many.
+// Renamed classes and categories are known by their position only while there are as many; a team
+// that was renamed, by people who may have been renamed too.
 bool isKnownByName(const Contest& base, const Contest& side, const Contest& merged) {
   const auto isKnown = [](const std::vector<std::string>& before,
                           const std::vector<std::string>& now,
@@ -250,6 +251,11 @@ bool isKnownByName(const Contest& base, const Contest& side, const Contest& merg
                  now[static_cast<std::size_t>(*match.there)];
     });
   };
+  const auto hasAll = [](const Contest& in, const Contest& of) {
+    return std::all_of(of.teams.begin(), of.teams.end(),
+                       [&](const auto& team) { return in.teams.contains(team.first); });
+  };
+  if (!hasAll(merged, base) && !hasAll(base, merged)) return false;
   return isKnown(base.classes.className, side.classes.className, merged.classes.className) &&
          isKnown(base.categories, side.categories, merged.categories);
 }
