@@ -75,9 +75,16 @@ ReportRequest requestOf(const Contest& contest, const CliOptions& options) {
   return request;
 }
 
-CliResult printReports(const Contest& contest, const CliOptions& options) {
+CliResult printReports(const Contest& contest, const CliOptions& options, FileSystem& files) {
   if (const auto missing = missingPart(contest, options)) return failed(*missing);
-  const ReportRequest request = requestOf(contest, options);
+  ReportRequest request = requestOf(contest, options);
+  if (options.other) {
+    auto opened = openContest(*options.other, files);
+    if (const auto* refusal = std::get_if<std::string>(&opened)) return failed(*refusal);
+    request.other =
+        std::make_shared<const Contest>(std::move(std::get<LoadedContest>(opened).contest));
+    request.otherName = options.other->substr(options.other->find_last_of("/\\") + 1);
+  }
   CliResult result;
   for (const Command* command : options.commands) {
     // Whatever a report needs has been looked for by now.
@@ -87,7 +94,7 @@ CliResult printReports(const Contest& contest, const CliOptions& options) {
 }
 
 std::string fileNameOf(const Command& command) {
-  std::string name(command.caption);
+  std::string name(command.name());
   std::replace(name.begin(), name.end(), '/', '-');
   return name + ".txt";
 }
@@ -111,7 +118,7 @@ std::string reportList() {
   std::string list;
   for (const Command& command : commandTable()) {
     if (command.report() == nullptr) continue;
-    list += std::to_string(command.id) + "\t" + std::string(command.caption) + "\n";
+    list += std::to_string(command.id) + "\t" + std::string(command.name()) + "\n";
   }
   return list;
 }
@@ -134,7 +141,7 @@ CliResult runCli(const CliOptions& options, FileSystem& files) {
   if (const auto* refusal = std::get_if<std::string>(&opened)) return failed(*refusal);
   const Contest& contest = std::get<LoadedContest>(opened).contest;
   return options.action == Action::allReports ? writeAllReports(contest, options.folder, files)
-                                              : printReports(contest, options);
+                                              : printReports(contest, options, files);
 }
 
 }  // namespace scorvane
