@@ -183,6 +183,11 @@ class RosterMatcher {
   void matchTeams(Side from, Side to) {
     const auto byName = [](Side, const std::string& name) { return name; };
     matchTeamsBy(from, to, byName, true);
+    if (from == kBase) matchRenamedTeams(from, to);
+    matchTeamsBy(from, to, byName, false);
+  }
+
+  void matchRenamedTeams(Side from, Side to) {
     for (const auto& entry : contests_[to]->teams) {
       if (!same_.teamOf[to].contains(entry.first)) matchRenamed(from, to, entry.first);
     }
@@ -207,7 +212,6 @@ class RosterMatcher {
           return key;
         },
         false);
-    matchTeamsBy(from, to, byName, false);
   }
 
   // Of the same key, which is not empty.
