@@ -47,10 +47,11 @@ void runBringInScores(MainWindow& window) {
   BroughtScores brought = bringInScores(currentContest(), *request->other);
   const std::string report = broughtScoresReport(brought);
   if (!brought.broughtIn.empty()) {
-    if (!window.confirm(formatText("%zu scores that are missing here will be brought in from %s.  "
-                                   "%zu scores differ and stay as they are.  Continue?",
-                                   brought.broughtIn.size(), request->otherName.c_str(),
-                                   brought.differing.size()))) {
+    if (!window.confirm(formatText("%d scores that are missing here will be brought in from %s.  "
+                                   "%d scores differ and stay as they are.  Continue?",
+                                   static_cast<int>(brought.broughtIn.size()),
+                                   request->otherName.c_str(),
+                                   static_cast<int>(brought.differing.size())))) {
       return;
     }
     currentContest() = std::move(brought.contest);
