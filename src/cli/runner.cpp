@@ -6,8 +6,8 @@
 #include <utility>
 #include <variant>
 
+#include "cli/contest_input.h"
 #include "cli/system.h"
-#include "storage/contest_loader.h"
 #include "storage/safe_save.h"
 #include "text/characters.h"
 
@@ -17,55 +17,8 @@ namespace {
 
 using Action = CliOptions::Action;
 
-/// A line for standard error. What it quotes of files and names must not end it.
-std::string remark(const std::string& text) {
-  return withoutCommands(withoutControlCharacters("scorvane-report: " + text)) + "\n";
-}
-
 CliResult failed(const std::string& reason) {
-  return {kFailed, "", remark(reason)};
-}
-
-std::string reasonOf(const ContestFault& fault) {
-  const std::string line = " (line " + std::to_string(fault.line) + ")";
-  switch (fault.kind) {
-    case ContestFault::unreadable:
-      return "it does not exist or cannot be opened";
-    case ContestFault::scoreCountMismatch:
-      return "the number of scores in the file is not correct" + line;
-    case ContestFault::notAContest:
-      break;
-  }
-  return "it is not a contest file, or is damaged" + line;
-}
-
-/// A contest and what is to be said of its file.
-struct Opened {
-  Contest contest;
-  std::string remarks;
-};
-
-std::string remarksOn(const std::string& path, const LoadedContest& loaded) {
-  std::string remarks;
-  if (!loaded.copy.empty()) {
-    remarks +=
-        remark("'" + path + "' was never saved to its end; this is its copy '" + loaded.copy + "'");
-  }
-  if (loaded.oddities.empty()) return remarks;
-  remarks += remark("'" + path + "' may be damaged:");
-  return remarks + loaded.oddities;
-}
-
-// The contest, or why there is none.
-std::variant<Opened, std::string> openContest(const std::string& path, FileSystem& files) {
-  if (const auto file = files.openToRead(path)) {
-    expectMemory(3 * static_cast<std::size_t>(file->size()));  // the bytes, and the contest of them
-  }
-  auto loading = loadContestFile(files, path);
-  if (auto* loaded = std::get_if<LoadedContest>(&loading)) {
-    return Opened{std::move(loaded->contest), remarksOn(path, *loaded)};
-  }
-  return "cannot read '" + contestText(path) + "': " + reasonOf(std::get<ContestFault>(loading));
+  return {kFailed, "", remark(kReportProgram, reason)};
 }
 
 // Why the contest cannot follow the options: it lacks the class, round or category asked for.
@@ -124,10 +77,17 @@ ReportRequest requestOf(const Contest& contest, const CliOptions& options) {
   return request;
 }
 
-CliResult printReports(const Contest& contest, const CliOptions& options) {
+CliResult printReports(const Contest& contest, const CliOptions& options, FileSystem& files) {
   if (const auto missing = missingPart(contest, options)) return failed(*missing);
-  const ReportRequest request = requestOf(contest, options);
+  ReportRequest request = requestOf(contest, options);
   CliResult result;
+  if (options.other) {
+    auto opened = openContest(*options.other, files, kReportProgram, result.error);
+    if (const auto* refusal = std::get_if<std::string>(&opened)) return failed(*refusal);
+    request.other =
+        std::make_shared<const Contest>(std::move(std::get<LoadedContest>(opened).contest));
+    request.otherName = contestText(options.other->substr(options.other->find_last_of("/\\") + 1));
+  }
   for (const Command* command : options.commands) {
     // Whatever a report needs has been looked for by now.
     std::string report = command->report()->build(contest, request).value();
@@ -141,7 +101,7 @@ CliResult printReports(const Contest& contest, const CliOptions& options) {
 }
 
 std::string fileNameOf(const Command& command) {
-  std::string name(command.caption);
+  std::string name(command.name());
   std::replace(name.begin(), name.end(), '/', '-');
   return name + ".txt";
 }
@@ -152,9 +112,9 @@ std::optional<std::string> writeReport(const Report& report, const Contest& cont
   try {
     const std::string text = withWindowsLineEnds(report.build(contest, {}).value());
     if (saveSafely(files, path, text)) return std::nullopt;
-    return "cannot write '" + path + "'";
+    return "cannot write '" + contestText(path) + "'";
   } catch (const std::exception& error) {
-    return "cannot make '" + path + "': " + error.what();
+    return "cannot make '" + contestText(path) + "': " + error.what();
   }
 }
 
@@ -168,7 +128,7 @@ CliResult writeAllReports(const Contest& contest, const std::string& folder, Fil
     const auto why = writeReport(*report, contest, folder + "/" + fileNameOf(command), files);
     if (!why) continue;
     result.status = kFailed;
-    result.error += remark(*why);
+    result.error += remark(kReportProgram, *why);
   }
   return result;
 }
@@ -177,7 +137,7 @@ std::string reportList() {
   std::string list;
   for (const Command& command : commandTable()) {
     if (command.report() == nullptr) continue;
-    list += std::to_string(command.id) + "\t" + std::string(command.caption) + "\n";
+    list += std::to_string(command.id) + "\t" + std::string(command.name()) + "\n";
   }
   return list;
 }
@@ -196,18 +156,15 @@ CliResult runCli(const CliOptions& options, FileSystem& files) {
     case Action::allReports:
       break;
   }
-  const auto opened = openContest(options.contest, files);
+  std::string remarks;
+  const auto opened = openContest(options.contest, files, kReportProgram, remarks);
   if (const auto* refusal = std::get_if<std::string>(&opened)) return failed(*refusal);
-  const auto& [contest, remarks] = std::get<Opened>(opened);
+  const Contest& contest = std::get<LoadedContest>(opened).contest;
   CliResult result = options.action == Action::allReports
                          ? writeAllReports(contest, options.folder, files)
-                         : printReports(contest, options);
+                         : printReports(contest, options, files);
   result.error.insert(0, remarks);
   return result;
-}
-
-CliResult refuseUsage(const std::string& reason) {
-  return {kWrongUsage, "", remark(reason) + "scorvane-report --help explains everything.\n"};
 }
 
 }  // namespace scorvane
