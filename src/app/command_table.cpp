@@ -146,6 +146,7 @@ constexpr std::array kCommands = {
     Command{32851, "Verification Reports", "Zero Questions Report",
             Report{plain<zeroQuestionsReport>}},
 
+    Command{33001, "Tools", "Import Roster ...", runImportRoster},
     Command{33023, "Tools", "Earlier Saves ...", runEarlierSaves},
 
     Command{32857, "Help", "Scorvane Help (F1)", helpCommand},

@@ -27,6 +27,7 @@ class KeptBehaviour : public DialogBehaviour {
     // Nothing is stored while somebody types.
     if (event == ControlEvent::clicked || event == ControlEvent::selectionChanged) contestChanged();
   }
+  [[nodiscard]] bool usesUnicode() const override { return behaviour_.usesUnicode(); }
   void onClose(Dialog& dialog) override {
     behaviour_.onClose(dialog);
     contestChanged();

@@ -6,12 +6,21 @@
 #include "app/file_menu.h"
 #include "app/shown_report.h"
 #include "exchange/earlier_saves_dialog.h"
+#include "exchange/import_roster_dialog.h"
 #include "reports/differences_report.h"
+#include "reports/listing_reports.h"
 #include "session/open_contest.h"
 #include "session/recovery.h"
 #include "text/report_marks.h"
 
 namespace scorvane {
+
+void runImportRoster(MainWindow& window) {
+  ImportRosterDialog dialog;
+  runSetupOverWelcome(window, IDD_IMPORT_ROSTER, dialog);
+  if (dialog.hasImported()) showReport(window, teamReport(currentContest()));
+  showContestTitle(window);
+}
 
 void runEarlierSaves(MainWindow& window) {
   std::vector<EarlierSave> saves;

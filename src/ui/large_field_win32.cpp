@@ -1,0 +1,62 @@
+#include "ui/large_field_win32.h"
+
+#include <windows.h>
+// The common controls need windows.h before them.
+#include <commctrl.h>
+
+#include <algorithm>
+
+#include "ui/control_kind_win32.h"
+
+namespace scorvane {
+
+namespace {
+
+LRESULT CALLBACK largeFieldProcedure(HWND field, UINT message, WPARAM wParam, LPARAM lParam,
+                                     UINT_PTR /*id*/, DWORD_PTR /*data*/) {
+  constexpr WPARAM kControlA = 1;
+  if (message == WM_CHAR && wParam == kControlA) return SendMessageW(field, EM_SETSEL, 0, -1);
+  return DefSubclassProc(field, message, wParam, lParam);
+}
+
+}  // namespace
+
+bool isLargeField(NativeWindow control) {
+  return controlKind(control) == ControlKind::edit &&
+         (GetWindowLongA(control, GWL_STYLE) & ES_MULTILINE) != 0;
+}
+
+void prepareLargeFields(NativeWindow dialog) {
+  constexpr WPARAM kMostCharacters = WPARAM{32} << 20U;
+  for (HWND child = GetWindow(dialog, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    if (!isLargeField(child)) continue;
+    SendMessageW(child, EM_SETLIMITTEXT, kMostCharacters, 0);
+    SetWindowSubclass(child, largeFieldProcedure, 1, 0);
+  }
+}
+
+std::string unicodeTextOf(NativeWindow field) {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(field)), L'\0');
+  text.resize(static_cast<std::size_t>(
+      std::max(GetWindowTextW(field, text.data(), static_cast<int>(text.size()) + 1), 0)));
+  const auto convert = [&text](char* to, int room) {
+    return WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), to, room,
+                               nullptr, nullptr);
+  };
+  std::string utf8(text.empty() ? 0 : static_cast<std::size_t>(convert(nullptr, 0)), '\0');
+  if (!utf8.empty()) convert(utf8.data(), static_cast<int>(utf8.size()));
+  return utf8;
+}
+
+void setUnicodeTextOf(NativeWindow field, std::string_view utf8) {
+  std::wstring text(utf8.size(), L'\0');  // no character takes more units than bytes
+  const int length =
+      utf8.empty() ? 0
+                   : MultiByteToWideChar(CP_UTF8, 0, utf8.data(), static_cast<int>(utf8.size()),
+                                         text.data(), static_cast<int>(text.size()));
+  text.resize(static_cast<std::size_t>(length));
+  SetWindowTextW(field, text.c_str());
+}
+
+}  // namespace scorvane
