@@ -73,8 +73,7 @@ class NativeDialog final : public Dialog {
   [[nodiscard]] bool hasLine(ControlId id, int index) const;
   void keepKey(ControlId id, LRESULT index, const LineKey& key);
   void useColumnFont();
-  /// Lets a list that scrolls sideways scroll to the end of a line.
-  void widen(ControlId id, const std::string& line);
+  void widenFor(ControlId id, const std::string& line);
   void drawDefaultButtons();
 
   DialogBehaviour& behaviour_;
@@ -83,11 +82,9 @@ class NativeDialog final : public Dialog {
   bool ended_ = false;
   GraphicsObject columnFont_;
   std::vector<std::vector<HWND>> linkedLists_;
-  /// The keys of all lines of a list since it was last cleared; each line holds the position of its
-  /// own.
+  /// Of all lines of a list since it was cleared; each line holds the position of its own.
   std::map<ControlId, std::vector<LineKey>> keys_;
-  /// Lists that scroll sideways: the longest line so far, in characters.
-  std::map<ControlId, std::size_t> longest_;
+  std::map<ControlId, std::size_t> longest_;  ///< the longest line so far, in characters
 };
 
 // The timer by which a list scrolls while the mouse is dragged out of it.
@@ -241,7 +238,7 @@ void NativeDialog::keepKey(ControlId id, LRESULT index, const LineKey& key) {
   keys.push_back(key);
 }
 
-void NativeDialog::widen(ControlId id, const std::string& line) {
+void NativeDialog::widenFor(ControlId id, const std::string& line) {
   std::size_t& longest = longest_[id];
   if (line.size() <= longest || (GetWindowLongA(control(id), GWL_STYLE) & WS_HSCROLL) == 0) return;
   longest = line.size();
@@ -252,7 +249,7 @@ void NativeDialog::widen(ControlId id, const std::string& line) {
 int NativeDialog::addLine(ControlId id, const ListLine& line) {
   const LRESULT index = send(id, lineMessages(id).add, 0, textParameter(line.text));
   keepKey(id, index, line.key);
-  widen(id, line.text);
+  widenFor(id, line.text);
   return static_cast<int>(index);
 }
 
@@ -261,7 +258,7 @@ void NativeDialog::insertLine(ControlId id, int index, const ListLine& line) {
   keepKey(id,
           send(id, lineMessages(id).insert, static_cast<WPARAM>(index), textParameter(line.text)),
           line.key);
-  widen(id, line.text);
+  widenFor(id, line.text);
 }
 
 void NativeDialog::removeLine(ControlId id, int index) {

@@ -184,7 +184,7 @@ TEST(ImportRoster, EndsWithTheTeamReport) {
     dialog.click(kOkId);
   };
   runImportRoster(window);
-  EXPECT_NE(reportText().find("     Yew                     103B  Dee\n"), std::string::npos)
+  EXPECT_NE(reportText().find("     Yew                     103C  Dee  "), std::string::npos)
       << reportText();
   EXPECT_EQ(day.files.files[kFile].content, writeContest(currentContest()));
 }
