@@ -33,12 +33,17 @@ bool isLineEnd(char c) {
 
 void appendTidied(std::string& out, std::string_view text) {
   const std::size_t start = out.size();
+  out.resize(start + text.size());
+  char* to = out.data() + start;
+  char before = ' ';
   for (const char c : text) {
     const char tidy = tidyCharacter(c);
-    if (tidy == ' ' && (out.size() == start || out.back() == ' ')) continue;
-    out += tidy;
+    *to = tidy;
+    to += tidy == ' ' && before == ' ' ? 0 : 1;
+    before = tidy;
   }
-  if (out.size() > start && out.back() == ' ') out.pop_back();
+  if (before == ' ' && to > out.data() + start) --to;
+  out.resize(static_cast<std::size_t>(to - out.data()));
 }
 
 std::string tidied(std::string_view text) {
@@ -50,7 +55,9 @@ std::string tidied(std::string_view text) {
 class SheetReader {
  public:
   SheetReader(Sheet& sheet, const DecodedText& decoded, char separator)
-      : sheet_(sheet), text_(decoded.text), changed_(decoded.changed), separator_(separator) {}
+      : sheet_(sheet), text_(decoded.text), changed_(decoded.changed), separator_(separator) {
+    for (const char c : {separator, '\r', '\n'}) endsCell_[static_cast<unsigned char>(c)] = true;
+  }
 
   void read(std::size_t mostRows) {
     while (at_ < text_.size() && sheet_.rows_.size() < mostRows) readRow();
@@ -78,13 +85,13 @@ class SheetReader {
 
   void readCell(bool& isQuoteOpen) {
     std::size_t quote = at_;
-    while (quote < text_.size() && text_[quote] == ' ' && text_[quote] != separator_) ++quote;
+    while (quote < text_.size() && text_[quote] == ' ') ++quote;
     if (quote < text_.size() && text_[quote] == '"' && !isQuoteOpen) {
       const std::optional<std::size_t> end = endOfQuoted(quote + 1, isQuoteOpen);
       if (end) return takeQuoted(quote + 1, *end);
     }
     std::size_t end = at_;
-    while (end < text_.size() && text_[end] != separator_ && !isLineEnd(text_[end])) ++end;
+    while (end < text_.size() && !endsCell_[static_cast<unsigned char>(text_[end])]) ++end;
     keep(text_.substr(at_, end - at_), at_, end);
     at_ = end;
   }
@@ -102,7 +109,7 @@ class SheetReader {
         continue;
       }
       std::size_t after = i + 1;
-      while (after < text_.size() && text_[after] == ' ' && separator_ != ' ') ++after;
+      while (after < text_.size() && text_[after] == ' ') ++after;
       if (after == text_.size() || text_[after] == separator_ || isLineEnd(text_[after])) return i;
       isOpen = !isOnLine;
       return std::nullopt;
@@ -161,6 +168,7 @@ class SheetReader {
   std::string_view text_;
   const std::vector<std::size_t>& changed_;
   char separator_;
+  std::array<bool, kCharacters> endsCell_{};
   std::size_t at_ = 0;
   std::size_t nextChange_ = 0;
   std::int32_t line_ = 1;

@@ -56,7 +56,14 @@ bool isUtf8(std::string_view bytes) {
   return true;
 }
 
-// Hands every character of the file to `take`.
+// How many characters from `i` on are ASCII.
+std::size_t asciiRun(std::string_view bytes, std::size_t i) {
+  std::size_t end = i;
+  while (end < bytes.size() && byteAt(bytes, end) < 0x80) ++end;
+  return end - i;
+}
+
+// Hands every character of the file to `take`, runs of ASCII as such.
 template <typename Take>
 void eachOfUtf16(std::string_view bytes, std::size_t high, Take take) {
   const auto unitAt = [&](std::size_t i) {
@@ -78,14 +85,18 @@ template <typename Take>
 void eachCharacter(std::string_view bytes, Take take) {
   if (bytes.starts_with("\xFF\xFE")) return eachOfUtf16(bytes.substr(2), 1, take);
   if (bytes.starts_with("\xFE\xFF")) return eachOfUtf16(bytes.substr(2), 0, take);
-  if (bytes.starts_with("\xEF\xBB\xBF")) bytes.remove_prefix(3);
-  if (isUtf8(bytes)) {
-    for (std::size_t i = 0; i < bytes.size();) take(nextOfUtf8(bytes, i).value_or(kNoCharacter));
-    return;
-  }
-  for (const char byte : bytes) {
-    const auto c = static_cast<unsigned char>(byte);
-    take(c >= 0x80 && c < 0xA0 ? char32_t{kOwnCharacters.at(c - 0x80U)} : char32_t{c});
+  const std::string_view unmarked = bytes.substr(bytes.starts_with("\xEF\xBB\xBF") ? 3 : 0);
+  const bool isEncoded = isUtf8(unmarked);
+  for (std::size_t i = 0; i < unmarked.size();) {
+    if (const std::size_t run = asciiRun(unmarked, i); run > 0) {
+      take.ascii(unmarked.substr(i, run));
+      i += run;
+    } else if (isEncoded) {
+      take(nextOfUtf8(unmarked, i).value_or(kNoCharacter));
+    } else {
+      const unsigned c = byteAt(unmarked, i++);
+      take(c < 0xA0 ? char32_t{kOwnCharacters.at(c - 0x80U)} : char32_t{c});
+    }
   }
 }
 
@@ -172,6 +183,8 @@ class Writer {
  public:
   explicit Writer(DecodedText& out) : out_(out) {}
 
+  void ascii(std::string_view run) { out_.text += run; }
+
   void operator()(char32_t c) {
     if (c < 0x80 || isBetween(c, 0xA1, 0xFF)) {
       out_.text += byteOf(c);
@@ -213,7 +226,14 @@ class Writer {
   DecodedText& out_;
 };
 
-void appendUtf8(std::string& out, char32_t c) {
+struct Utf8Writer {
+  std::string& out;
+
+  void ascii(std::string_view run) const { out += run; }
+  void operator()(char32_t c) const;
+};
+
+void Utf8Writer::operator()(char32_t c) const {
   if (c < 0x80) {
     out += byteOf(c);
     return;
@@ -240,7 +260,7 @@ DecodedText decodeText(std::string_view bytes) {
 std::string utf8OfFile(std::string_view bytes) {
   std::string utf8;
   utf8.reserve(bytes.size());
-  eachCharacter(bytes, [&utf8](char32_t c) { appendUtf8(utf8, c); });
+  eachCharacter(bytes, Utf8Writer{utf8});
   return utf8;
 }
 

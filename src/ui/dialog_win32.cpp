@@ -240,7 +240,7 @@ void NativeDialog::keepKey(ControlId id, LRESULT index, const LineKey& key) {
 
 void NativeDialog::widenFor(ControlId id, const std::string& line) {
   std::size_t& longest = longest_[id];
-  if (line.size() <= longest || (GetWindowLongA(control(id), GWL_STYLE) & WS_HSCROLL) == 0) return;
+  if (line.size() <= longest) return;
   longest = line.size();
   const auto width = static_cast<std::size_t>(characterWidth(columnFont_));
   send(id, LB_SETHORIZONTALEXTENT, (longest + 1) * width);

@@ -27,11 +27,13 @@ bool isLargeField(NativeWindow control) {
 }
 
 void prepareLargeFields(NativeWindow dialog) {
+  static constexpr UINT kCellWidth = 72;  // dialog units from TAB to TAB
   constexpr WPARAM kMostCharacters = WPARAM{32} << 20U;
   for (HWND child = GetWindow(dialog, GW_CHILD); child != nullptr;
        child = GetWindow(child, GW_HWNDNEXT)) {
     if (!isLargeField(child)) continue;
     SendMessageW(child, EM_SETLIMITTEXT, kMostCharacters, 0);
+    SendMessageW(child, EM_SETTABSTOPS, 1, reinterpret_cast<LPARAM>(&kCellWidth));
     SetWindowSubclass(child, largeFieldProcedure, 1, 0);
   }
 }

@@ -27,7 +27,7 @@ class RosterTest(DesktopTest):
         self.assertEqual(self.dialog.lines(LIST), [
             "Yew Grove, coach Pat:  149A Lukasz O'Day, 150B Ann Lee",
             "Remark on line 2: A character of \"Lukasz O'Day\" that contests cannot hold became \"L\"."])
-        self.dialog.click(IMPORT)
+        self.dialog.command(IMPORT)
         self.app.wait_closed(self.dialog)
         self.assertIn("     Yew Grove               149A  Lukasz O'Day", self.app.report())
         self.assertIn(b"149\tLukasz O'Day\t", self.file.read_bytes())
