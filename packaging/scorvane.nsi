@@ -98,6 +98,7 @@ Section "Install"
   SetOutPath "$DOCUMENTS\Scorvane Samples"
   File "${SAMPLES}/county.scv"
   File "${SAMPLES}/state.scv"
+  File "${SAMPLES}/roster.csv"
   SetOverwrite on
 
   SetOutPath "$INSTDIR"
@@ -179,8 +180,10 @@ Section "Uninstall"
   InitPluginsDir
   File "/oname=$PLUGINSDIR\county.scv" "${SAMPLES}/county.scv"
   File "/oname=$PLUGINSDIR\state.scv" "${SAMPLES}/state.scv"
+  File "/oname=$PLUGINSDIR\roster.csv" "${SAMPLES}/roster.csv"
   !insertmacro RemoveUntouchedSample "county.scv"
   !insertmacro RemoveUntouchedSample "state.scv"
+  !insertmacro RemoveUntouchedSample "roster.csv"
   RMDir "$DOCUMENTS\Scorvane Samples"
 
   Delete "$SMPROGRAMS\${PROGRAM}\${PROGRAM}.lnk"

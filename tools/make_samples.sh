@@ -15,6 +15,6 @@ mkdir -p "$folder"
   --name "State Livestock Judging Championship" --division "Senior Division" \
   --date "October 03, 2026"
 if [ "${2:-}" = --check ]; then
-  diff -r "$folder" samples
+  diff -r --exclude="*.csv" "$folder" samples
   rm -r "$folder"
 fi

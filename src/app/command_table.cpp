@@ -157,6 +157,7 @@ constexpr std::array kCommands = {
     Command{32851, "Verification Reports", "Zero Questions Report",
             Report{plain<zeroQuestionsReport>}},
 
+    Command{33001, "Tools", "Import Roster ...", runImportRoster},
     Command{33013, "Tools", "Announcer's List", Report{plain<announcersList>}},
     Command{33011, "Tools", "Score Cards By Team", Report{plain<scoreCardsReport>}},
     Command{33012, "Tools", "Class Analysis", Report{plain<classAnalysisReport>}},

@@ -31,6 +31,7 @@ class KeptBehaviour : public DialogBehaviour {
     // Nothing is stored while somebody types.
     if (event == ControlEvent::clicked || event == ControlEvent::selectionChanged) contestChanged();
   }
+  [[nodiscard]] bool usesUnicode() const override { return behaviour_.usesUnicode(); }
   void onClose(Dialog& dialog) override {
     behaviour_.onClose(dialog);
     contestChanged();
@@ -66,7 +67,8 @@ std::optional<ReportRequest> askOtherContest(MainWindow& window) {
   auto loading = loadContestFile(sessionFiles(), *path);
   auto* loaded = std::get_if<LoadedContest>(&loading);
   if (loaded == nullptr) {
-    window.show("The file\n" + shownPath(*path) + "\nis missing, damaged or not a contest.", "Error");
+    window.show("The file\n" + shownPath(*path) + "\nis missing, damaged or not a contest.",
+                "Error");
     return std::nullopt;
   }
   ReportRequest request;

@@ -7,8 +7,10 @@
 #include "app/shown_report.h"
 #include "entry/move_cards_dialog.h"
 #include "exchange/earlier_saves_dialog.h"
+#include "exchange/import_roster_dialog.h"
 #include "model/bring_in_scores.h"
 #include "reports/differences_report.h"
+#include "reports/listing_reports.h"
 #include "reports/merge_report.h"
 #include "session/contest_file.h"
 #include "session/open_contest.h"
@@ -17,6 +19,13 @@
 #include "text/report_marks.h"
 
 namespace scorvane {
+
+void runImportRoster(MainWindow& window) {
+  ImportRosterDialog dialog;
+  runSetupOverWelcome(window, IDD_IMPORT_ROSTER, dialog);
+  if (dialog.hasImported()) showReport(window, teamReport(currentContest()));
+  showContestTitle(window);
+}
 
 void runMoveCards(MainWindow& window) {
   const Contest before = currentContest();

@@ -5,6 +5,9 @@
 
 namespace scorvane {
 
+/// Runs the Import Roster dialog; after an import the Team Report is shown.
+void runImportRoster(MainWindow& window);
+
 /// Runs the dialog and shows what it moved, exchanged or cleared.
 void runMoveCards(MainWindow& window);
 

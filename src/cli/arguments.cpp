@@ -16,14 +16,13 @@ std::string suggested(std::string_view typed, const std::vector<std::string>& na
   return nearest.empty() ? otherwise : "; did you mean " + nearest + "?";
 }
 
-std::string refuseUnknown(const CLI::App& app) {
-  const std::vector<std::string> unknown = app.remaining(true);
+std::string refuseUnknown(const CLI::App& app, std::string argument) {
   std::vector<std::string> names;
   for (const CLI::Option* option : app.get_options()) {
     if (!option->get_lnames().empty()) names.push_back(option->get_name());
   }
-  const std::string typed = unknown.empty() ? "" : unknown[0].substr(0, unknown[0].find('='));
-  return "there is no option " + inQuotes(typed) + suggested(typed, names, "");
+  argument.erase(std::min(argument.find('='), argument.size()));
+  return "there is no option " + inQuotes(argument) + suggested(argument, names, "");
 }
 
 std::vector<std::string> libraryArguments(std::span<const std::string_view> arguments) {

@@ -15,8 +15,8 @@ namespace scorvane {
 [[nodiscard]] std::string suggested(std::string_view typed, const std::vector<std::string>& names,
                                     const char* otherwise);
 
-/// Why arguments that the library could not use are refused: an option of this name is unknown.
-[[nodiscard]] std::string refuseUnknown(const CLI::App& app);
+/// Why an argument that is none of the options of `app` is refused.
+[[nodiscard]] std::string refuseUnknown(const CLI::App& app, std::string argument);
 
 /// The arguments in the order that the library takes them, the last one first, with "--title=" in
 /// two: it would take the next argument for its value.

@@ -66,7 +66,8 @@ void declareMerge(CLI::App& app, MergeOptions& o) {
 Refusal refuseRest(const CLI::App& app) {
   const std::string first = app.remaining(true).at(0);
   const std::vector<CLI::App*> given = app.get_subcommands();
-  if (first.starts_with('-') && first != "-") return refuseUnknown(given.empty() ? app : *given[0]);
+  if (first.starts_with('-') && first != "-")
+    return refuseUnknown(given.empty() ? app : *given[0], first);
   if (!given.empty()) return inQuotes(first) + " is too much";
   std::vector<std::string> names;
   for (const CLI::App* command : app.get_subcommands(nullptr)) names.push_back(command->get_name());

@@ -182,7 +182,7 @@ Refusal readOptions(std::span<const std::string_view> arguments, CliOptions& opt
     options.action = Action::version;
     return std::nullopt;
   } catch (const CLI::ExtrasError&) {
-    return refuseUnknown(app);
+    return refuseUnknown(app, app.remaining().at(0));
   } catch (const CLI::ParseError& error) {
     return error.what();
   }

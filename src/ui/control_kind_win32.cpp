@@ -2,6 +2,9 @@
 
 #include <windows.h>
 
+#include <algorithm>
+#include <iterator>
+
 namespace scorvane {
 
 namespace {
@@ -34,6 +37,27 @@ bool isPushButton(NativeWindow control) {
 bool isMultipleSelection(NativeWindow control) {
   if (controlKind(control) != ControlKind::list) return false;
   return (GetWindowLongA(control, GWL_STYLE) & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) != 0;
+}
+
+void drawDefaultButtons(NativeWindow dialog) {
+  HWND focus = GetFocus();
+  const bool onButton = isPushButton(focus) && IsChild(dialog, focus) != FALSE;
+  const int defaultId = LOWORD(SendMessageA(dialog, DM_GETDEFID, 0, 0));
+  HWND marked = onButton ? focus : GetDlgItem(dialog, defaultId);
+  for (HWND child = GetWindow(dialog, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    if (!isPushButton(child)) continue;
+    const bool drawn = (GetWindowLongA(child, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
+    if (drawn == (child == marked)) continue;
+    SendMessageA(child, BM_SETSTYLE, drawn ? BS_PUSHBUTTON : BS_DEFPUSHBUTTON, TRUE);
+  }
+}
+
+bool isMovedByKeys(NativeWindow control) {
+  if (control == nullptr || controlKind(control) != ControlKind::list) return false;
+  constexpr int kMovingKeys[] = {VK_UP, VK_DOWN, VK_PRIOR, VK_NEXT, VK_HOME, VK_END};
+  return std::any_of(std::begin(kMovingKeys), std::end(kMovingKeys),
+                     [](int key) { return GetKeyState(key) < 0; });
 }
 
 const LineMessages& lineMessagesOf(NativeWindow control) {

@@ -15,6 +15,13 @@ enum class ControlKind { button, edit, list, combo, other };
 /// Whether the control is a button that can be the default one; false for null.
 [[nodiscard]] bool isPushButton(NativeWindow control);
 
+/// Marks the button of a dialog that Enter presses: the push button that has the focus, else the
+/// default one.
+void drawDefaultButtons(NativeWindow dialog);
+
+/// Whether a control is a list, and a key is down that moves through it.
+[[nodiscard]] bool isMovedByKeys(NativeWindow control);
+
 /// Whether several lines of the control can be selected at once.
 [[nodiscard]] bool isMultipleSelection(NativeWindow control);
 

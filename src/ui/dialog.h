@@ -47,6 +47,9 @@ class Dialog : public Window {
   [[nodiscard]] virtual std::string text(ControlId id) const = 0;
   /// Sets an edit field's or static's text. An edit field reports textChanged.
   virtual void setText(ControlId id, std::string_view text) = 0;
+  /// The same with all characters, in UTF-8; for dialogs whose behaviour uses Unicode.
+  [[nodiscard]] virtual std::string unicodeText(ControlId id) const { return text(id); }
+  virtual void setUnicodeText(ControlId id, std::string_view utf8) { setText(id, utf8); }
   /// The field's text as an unsigned number; nothing when it is empty, holds anything but digits,
   /// with or without blanks around them, or is too large for 32 bits.
   [[nodiscard]] std::optional<std::uint32_t> number(ControlId id) const {
@@ -139,6 +142,8 @@ class DialogBehaviour {
   /// A control reports something. Escape and a missing default button report kCancelId and kOkId
   /// clicked; ids that a dialog does not act on are to be ignored.
   virtual void onEvent(Dialog& dialog, ControlId id, ControlEvent event) = 0;
+  /// Whether the fields of the dialog take characters that 8-bit text lacks.
+  [[nodiscard]] virtual bool usesUnicode() const { return false; }
   /// The operator pressed the close box; the behaviour ends the dialog, or not.
   virtual void onClose(Dialog& dialog) = 0;
 };

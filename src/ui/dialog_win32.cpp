@@ -6,11 +6,12 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <iterator>
+#include <map>
 #include <utility>
 
 #include "ui/control_kind_win32.h"
 #include "ui/fixed_font_win32.h"
+#include "ui/large_field_win32.h"
 #include "ui/typed_choice_win32.h"
 
 namespace scorvane {
@@ -42,6 +43,8 @@ class NativeDialog final : public Dialog {
   }
   [[nodiscard]] std::string text(ControlId id) const override;
   void setText(ControlId id, std::string_view text) override;
+  [[nodiscard]] std::string unicodeText(ControlId id) const override;
+  void setUnicodeText(ControlId id, std::string_view utf8) override;
   [[nodiscard]] bool isChecked(ControlId id) const override;
   void setChecked(ControlId id, bool checked) override;
   [[nodiscard]] int lineCount(ControlId id) const override;
@@ -71,7 +74,7 @@ class NativeDialog final : public Dialog {
   [[nodiscard]] bool hasLine(ControlId id, int index) const;
   void keepKey(ControlId id, LRESULT index, const LineKey& key);
   void useColumnFont();
-  void drawDefaultButtons();
+  void widenFor(ControlId id, const std::string& line);
 
   DialogBehaviour& behaviour_;
   HWND window_ = nullptr;
@@ -79,8 +82,9 @@ class NativeDialog final : public Dialog {
   bool ended_ = false;
   GraphicsObject columnFont_;
   std::vector<std::vector<HWND>> linkedLists_;
-  /// The keys of all lines ever added; each line holds the position of its own.
-  std::vector<LineKey> keys_;
+  /// Of all lines of a list since it was cleared; each line holds the position of its own.
+  std::map<ControlId, std::vector<LineKey>> keys_;
+  std::map<ControlId, std::size_t> longest_;  ///< the longest line so far, in characters
 };
 
 // The timer by which a list scrolls while the mouse is dragged out of it.
@@ -116,9 +120,10 @@ LRESULT CALLBACK linkedListProcedure(HWND list, UINT message, WPARAM wParam, LPA
 INT_PTR NativeDialog::initialize(HWND window) {
   window_ = window;
   useColumnFont();
+  prepareLargeFields(window);
   enableTypeAhead(window);
   behaviour_.onOpen(*this);
-  drawDefaultButtons();
+  drawDefaultButtons(window_);
   // FALSE keeps the focus where the behaviour put it.
   return focused_ ? FALSE : TRUE;
 }
@@ -156,21 +161,6 @@ void NativeDialog::useColumnFont() {
   }
 }
 
-// Marks the button that Enter presses: the push button that has the focus, else the default one.
-void NativeDialog::drawDefaultButtons() {
-  HWND focus = GetFocus();
-  const bool onButton = isPushButton(focus) && IsChild(window_, focus) != FALSE;
-  const int defaultId = LOWORD(SendMessageA(window_, DM_GETDEFID, 0, 0));
-  HWND marked = onButton ? focus : control(defaultId);
-  for (HWND child = GetWindow(window_, GW_CHILD); child != nullptr;
-       child = GetWindow(child, GW_HWNDNEXT)) {
-    if (!isPushButton(child)) continue;
-    const bool drawn = (GetWindowLongA(child, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
-    if (drawn == (child == marked)) continue;
-    SendMessageA(child, BM_SETSTYLE, drawn ? BS_PUSHBUTTON : BS_DEFPUSHBUTTON, TRUE);
-  }
-}
-
 LRESULT NativeDialog::send(ControlId id, UINT message, WPARAM wParam, LPARAM lParam) const {
   return SendDlgItemMessageA(window_, id, message, wParam, lParam);
 }
@@ -198,6 +188,16 @@ void NativeDialog::setText(ControlId id, std::string_view text) {
   SetWindowTextA(field, std::string(text).c_str());
 }
 
+std::string NativeDialog::unicodeText(ControlId id) const {
+  return unicodeTextOf(control(id));
+}
+
+void NativeDialog::setUnicodeText(ControlId id, std::string_view utf8) {
+  setUnicodeTextOf(control(id), utf8);
+  // Fields of several lines do not tell of this.
+  if (isLargeField(control(id))) behaviour_.onEvent(*this, id, ControlEvent::textChanged);
+}
+
 bool NativeDialog::isChecked(ControlId id) const {
   return send(id, BM_GETCHECK) == BST_CHECKED;
 }
@@ -212,19 +212,29 @@ int NativeDialog::lineCount(ControlId id) const {
 
 std::optional<LineKey> NativeDialog::lineKey(ControlId id, int index) const {
   if (!hasLine(id, index)) return std::nullopt;
-  return keys_.at(
+  return keys_.at(id).at(
       static_cast<std::size_t>(send(id, lineMessages(id).key, static_cast<WPARAM>(index))));
 }
 
 void NativeDialog::keepKey(ControlId id, LRESULT index, const LineKey& key) {
   if (index < 0) return;
-  send(id, lineMessages(id).setKey, static_cast<WPARAM>(index), static_cast<LPARAM>(keys_.size()));
-  keys_.push_back(key);
+  std::vector<LineKey>& keys = keys_[id];
+  send(id, lineMessages(id).setKey, static_cast<WPARAM>(index), static_cast<LPARAM>(keys.size()));
+  keys.push_back(key);
+}
+
+void NativeDialog::widenFor(ControlId id, const std::string& line) {
+  std::size_t& longest = longest_[id];
+  if (line.size() <= longest) return;
+  longest = line.size();
+  const auto width = static_cast<std::size_t>(characterWidth(columnFont_));
+  send(id, LB_SETHORIZONTALEXTENT, (longest + 1) * width);
 }
 
 int NativeDialog::addLine(ControlId id, const ListLine& line) {
   const LRESULT index = send(id, lineMessages(id).add, 0, textParameter(line.text));
   keepKey(id, index, line.key);
+  widenFor(id, line.text);
   return static_cast<int>(index);
 }
 
@@ -233,6 +243,7 @@ void NativeDialog::insertLine(ControlId id, int index, const ListLine& line) {
   keepKey(id,
           send(id, lineMessages(id).insert, static_cast<WPARAM>(index), textParameter(line.text)),
           line.key);
+  widenFor(id, line.text);
 }
 
 void NativeDialog::removeLine(ControlId id, int index) {
@@ -241,6 +252,8 @@ void NativeDialog::removeLine(ControlId id, int index) {
 
 void NativeDialog::clearLines(ControlId id) {
   send(id, lineMessages(id).clear);
+  keys_[id].clear();
+  longest_[id] = 0;
 }
 
 void NativeDialog::setLines(ControlId id, const std::vector<ListLine>& lines) {
@@ -248,7 +261,7 @@ void NativeDialog::setLines(ControlId id, const std::vector<ListLine>& lines) {
   std::size_t bytes = 0;
   for (const ListLine& line : lines) bytes += line.text.size() + 1;
   send(id, WM_SETREDRAW, FALSE);
-  send(id, messages.clear);
+  clearLines(id);
   send(id, messages.reserve, lines.size(), static_cast<LPARAM>(bytes));
   for (const ListLine& line : lines) addLine(id, line);
   send(id, WM_SETREDRAW, TRUE);
@@ -267,11 +280,7 @@ void NativeDialog::select(ControlId id, std::optional<int> index) {
 }
 
 bool NativeDialog::isMovingThroughLines() const {
-  HWND focus = GetFocus();
-  if (focus == nullptr || controlKind(focus) != ControlKind::list) return false;
-  constexpr int kMovingKeys[] = {VK_UP, VK_DOWN, VK_PRIOR, VK_NEXT, VK_HOME, VK_END};
-  return std::any_of(std::begin(kMovingKeys), std::end(kMovingKeys),
-                     [](int key) { return GetKeyState(key) < 0; });
+  return isMovedByKeys(GetFocus());
 }
 
 std::vector<int> NativeDialog::selections(ControlId id) const {
@@ -333,7 +342,7 @@ void NativeDialog::focus(ControlId id) {
   if (target == nullptr) return;
   focused_ = true;
   SetFocus(target);
-  drawDefaultButtons();
+  drawDefaultButtons(window_);
 }
 
 void NativeDialog::selectText(ControlId id) {
@@ -343,7 +352,7 @@ void NativeDialog::selectText(ControlId id) {
 void NativeDialog::setDefaultButton(ControlId id) {
   if (control(id) == nullptr) return;
   SendMessageA(window_, DM_SETDEFID, static_cast<WPARAM>(id), 0);
-  drawDefaultButtons();
+  drawDefaultButtons(window_);
 }
 
 void NativeDialog::end(int result) {
@@ -368,8 +377,12 @@ INT_PTR CALLBACK dialogProcedure(HWND window, UINT message, WPARAM wParam, LPARA
 
 int runDialogOver(NativeWindow owner, int resourceId, DialogBehaviour& behaviour) {
   NativeDialog dialog(behaviour);
-  const INT_PTR result = DialogBoxParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(resourceId),
-                                         owner, dialogProcedure, reinterpret_cast<LPARAM>(&dialog));
+  HINSTANCE program = GetModuleHandleA(nullptr);
+  const auto data = reinterpret_cast<LPARAM>(&dialog);
+  const INT_PTR result =
+      behaviour.usesUnicode()
+          ? DialogBoxParamW(program, MAKEINTRESOURCEW(resourceId), owner, dialogProcedure, data)
+          : DialogBoxParamA(program, MAKEINTRESOURCEA(resourceId), owner, dialogProcedure, data);
   return static_cast<int>(result);
 }
 

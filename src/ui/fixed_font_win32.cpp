@@ -15,16 +15,19 @@ GraphicsObject fontNamed(const char* face, int height) {
                                     FIXED_PITCH | FF_MODERN, face));
 }
 
-bool isFixedPitch(HGDIOBJ font) {
+int textWidth(HGDIOBJ font, const char* text) {
   HDC screen = GetDC(nullptr);
   const HGDIOBJ previous = SelectObject(screen, font);
-  SIZE narrow{};
-  SIZE wide{};
-  const bool measured = GetTextExtentPoint32A(screen, "iiii", 4, &narrow) != FALSE &&
-                        GetTextExtentPoint32A(screen, "WWWW", 4, &wide) != FALSE;
+  SIZE size{};
+  const BOOL measured = GetTextExtentPoint32A(screen, text, lstrlenA(text), &size);
   SelectObject(screen, previous);
   ReleaseDC(nullptr, screen);
-  return measured && narrow.cx == wide.cx;
+  return measured != FALSE ? size.cx : 0;
+}
+
+bool isFixedPitch(HGDIOBJ font) {
+  const int narrow = textWidth(font, "iiii");
+  return narrow > 0 && narrow == textWidth(font, "WWWW");
 }
 
 }  // namespace
@@ -40,6 +43,10 @@ GraphicsObject makeFixedFont(int height) {
   }
   // A stock object; deleting it does nothing.
   return GraphicsObject(GetStockObject(ANSI_FIXED_FONT));
+}
+
+int characterWidth(const GraphicsObject& fixedFont) {
+  return textWidth(fixedFont.get(), "W");
 }
 
 }  // namespace scorvane

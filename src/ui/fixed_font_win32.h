@@ -15,4 +15,7 @@ using GraphicsObject = std::unique_ptr<void, GraphicsObjectDeleter>;
 /// character equally wide.
 [[nodiscard]] GraphicsObject makeFixedFont(int height);
 
+/// How wide such a font's characters are, in pixels.
+[[nodiscard]] int characterWidth(const GraphicsObject& fixedFont);
+
 }  // namespace scorvane

@@ -7,6 +7,7 @@
 #include <ctime>
 
 #include "app/tools_menu.h"
+#include "exchange/import_roster_dialog.h"
 #include "model/new_contest.h"
 #include "model/roster.h"
 #include "session/contest_file.h"
@@ -93,7 +94,8 @@ Behaviour earlierSavesOf(const std::string& path) {
 }
 
 const SessionWorld kWorld = {
-    {{"Earlier Saves", [] { return earlierSavesOf(currentFileName()); }}},
+    {{"Earlier Saves", [] { return earlierSavesOf(currentFileName()); }},
+     {"Import Roster", [] { return std::make_unique<ImportRosterDialog>(); }}},
     {{"a day",
       [] {
         disk.reset();
@@ -118,6 +120,11 @@ const SessionWorld kWorld = {
         return newContest();
       }}},
     {{"a card", [](Contest& c) { c.scores[101][0].letter = 'T'; }},
+     {"a sheet on the disk",
+      [](Contest&) {
+        disk->files.files["sheet.csv"].content =
+            "Club,Name\rYew,Dee\nYew,\xC5\x81ukasz\r\nYew,Fay\r\n" + std::string(1, '\0');
+      }},
      {"its saves are gone",
       [](Contest&) {
         std::erase_if(disk->files.files, [](const auto& file) { return file.first != kFile; });
@@ -164,6 +171,43 @@ TEST(EarlierSaves, AreWrittenIntoFilesOfTheirOwn) {
   EXPECT_EQ(dialog.result(), std::nullopt);
   EXPECT_EQ(dialog.desktop.messages.size(), 0U);
   EXPECT_EQ(currentFileName(), kFile);
+}
+
+TEST(ImportRoster, EndsWithTheTeamReport) {
+  Disk day;
+  day.playDay();
+  MemoryMainWindow window;
+  runImportRoster(window);
+  EXPECT_EQ(reportText(), kWelcomeText);
+  window.operate = [](MemoryDialog& dialog) {
+    dialog.paste(IDC_ROSTER_TEXT, "Yew\tDee\tPat");
+    dialog.click(kOkId);
+  };
+  runImportRoster(window);
+  EXPECT_NE(reportText().find("     Yew                     103C  Dee  "), std::string::npos)
+      << reportText();
+  EXPECT_EQ(day.files.files[kFile].content, writeContest(currentContest()));
+}
+
+// What is left of the old lines is not shown anew.
+TEST(ImportRoster, KeepsTheListInStepWithTheField) {
+  Disk day;
+  day.playDay();
+  ImportRosterDialog behaviour;
+  MemoryDialog dialog(IDD_IMPORT_ROSTER, behaviour);
+  std::string sheet = "Team,Name\n";
+  for (int i = 0; i < 600; ++i) sheet += "Team " + std::to_string(i) + ",Ann,\n";
+  for (const std::size_t cut :
+       {sheet.size(), sheet.find("Team 300"), std::size_t{0}, sheet.size() / 4}) {
+    std::string text = sheet;
+    for (const char* added : {"", "x", ",x", "Elm,Bob,x\n"}) {
+      text.insert(std::min(cut, text.size()), added);
+      dialog.paste(IDC_ROSTER_TEXT, text);
+      const RosterPlan plan = planRoster(text, currentContest());
+      ASSERT_EQ(dialog.lines(IDC_ROSTER_PLAN), planLines(plan, currentContest())) << cut << added;
+      ASSERT_EQ(dialog.text(IDC_ROSTER_SUMMARY), planSummary(plan));
+    }
+  }
 }
 
 TEST(EarlierSaves, AreComparedWithTheOpenContestOnScreen) {

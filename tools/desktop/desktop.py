@@ -311,6 +311,13 @@ class Window:
             self._tell("key", "char", ord(character))
             self.settle()
 
+    def paste(self, control, text):
+        """Pastes over all that a field holds, by the keys for it."""
+        units = text.encode("utf-16-le")
+        self.app.tell("clipboard", "set", *(units[i] + 256 * units[i + 1] for i in range(0, len(units), 2)))
+        wait_for(lambda: self.focused() == control, "the focus in the field")
+        self.app.desktop.keys("ctrl+a", "ctrl+v")
+
     def press(self, *names):
         """Presses keys by name (Tab, Return, Escape, ...) in the control that has the focus."""
         for name in names:

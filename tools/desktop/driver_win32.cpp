@@ -416,11 +416,30 @@ Fields key(const Fields& f) {
   return {};
 }
 
+// Puts a text on the clipboard: UTF-16, a field for each unit.
+void fillClipboard(const Fields& f) {
+  EmptyClipboard();
+  HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, (f.size() - 1) * sizeof(wchar_t));
+  auto* units = static_cast<wchar_t*>(GlobalLock(block));
+  for (std::size_t i = 2; i < f.size(); ++i) {
+    units[i - 2] = static_cast<wchar_t>(std::stoul(f[i]));
+  }
+  units[f.size() - 2] = L'\0';
+  GlobalUnlock(block);
+  if (SetClipboardData(CF_UNICODETEXT, block) == nullptr)
+    throw Failure{"the clipboard takes nothing"};
+}
+
 Fields clipboard(const Fields& f) {
-  if (OpenClipboard(nullptr) == 0) throw Failure{"the clipboard is in use"};
+  // Without a window of its own a program can put nothing on the clipboard.
+  static HWND owner =
+      CreateWindowA("STATIC", "", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+  if (OpenClipboard(owner) == 0) throw Failure{"the clipboard is in use"};
   std::string content;
   if (f.size() > 1 && f.at(1) == "clear") {
     EmptyClipboard();
+  } else if (f.size() > 1 && f.at(1) == "set") {
+    fillClipboard(f);
   } else if (HANDLE data = GetClipboardData(CF_TEXT)) {
     if (const char* bytes = static_cast<const char*>(GlobalLock(data))) content = bytes;
     GlobalUnlock(data);

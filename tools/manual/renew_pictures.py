@@ -281,6 +281,15 @@ def earlier_saves(stage):
 
 
 @scene
+def import_roster(stage):
+    dialog = stage.dialog(33001, "Import Roster")
+    dialog.paste(1181, "Team\tContestant\tAlternate\tCoach\r\nElm Grove 4-H\tDee Fox\t\tJos\u00e9 Ruiz\r\n"
+                 "\tEd Gray\r\n\tMae Novak\r\nWillow\tHope Lang\t\tPat Miller\r\n\tSeth Cole\tyes\r\n")
+    wait_for(lambda: dialog.lines(1183), "the list")
+    stage.take(dialog)
+
+
+@scene
 def about(stage):
     stage.take(stage.dialog(104, "About Scorvane"), colours=128)
 

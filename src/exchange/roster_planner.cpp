@@ -1,0 +1,256 @@
+#include "exchange/roster_planner.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "exchange/roster_names.h"
+#include "exchange/sheet.h"
+#include "storage/contest_format.h"
+#include "text/format.h"
+#include "text/number.h"
+
+namespace scorvane {
+
+namespace {
+
+/// How much of a team's name the award lists show.
+constexpr std::size_t kShownTeamName = 21;
+
+std::size_t digitsOf(std::int64_t number) {
+  std::string digits;
+  appendNumber(digits, number);
+  return digits.size();
+}
+
+}  // namespace
+
+RosterPlanner::RosterPlanner(const Contest& contest, RosterPlan& plan)
+    : contest_(contest), plan_(plan) {
+  firstNew_ = contest.settings.startNum;
+  if (!contest.contestantNames.empty()) {
+    firstNew_ = std::int64_t{std::max(contest.contestantNames.back().first, 0)} + 1;
+  }
+  next_ = firstNew_;
+  const auto regular = static_cast<std::size_t>(std::max(contest.settings.numPerTeam, 0));
+  regularSlots_ = std::min(regular, teamSlots(contest.settings));
+  for (const auto& [name, team] : contest.teams) present_.try_emplace(keyOfName(name), &name);
+}
+
+void RosterPlanner::openSlots(OpenTeam& team, const Team* present) const {
+  team.slots.resize(teamSlots(contest_.settings));
+  const std::size_t filled = present == nullptr ? 0 : present->members.size();
+  for (std::size_t i = 0; i < std::min(filled, team.slots.size()); ++i) {
+    Slot& slot = team.slots[i];
+    slot.number = present->members[i];
+    const std::string* name = contest_.contestantNames.find(slot.number);
+    slot.hasNumber = name != nullptr || (slot.number > 0 && slot.number < firstNew_);
+    const auto isSame = [&](const Slot& other) {
+      return slot.hasNumber && other.number == slot.number;
+    };
+    slot.isFree =
+        (name == nullptr || name->empty()) && std::none_of(team.slots.data(), &slot, isSame);
+    if (name != nullptr && !name->empty()) {
+      const std::string tidy = tidied(*name);
+      team.known.push_back({hashOfName(tidy), tidy, i});
+    }
+  }
+}
+
+RosterPlanner::OpenTeam RosterPlanner::openTeam(const RosterRow& row,
+                                                const std::string& key) const {
+  OpenTeam team;
+  team.line = row.line;
+  auto present = contest_.teams.find(std::string(row.team));
+  if (present == contest_.teams.end()) {
+    const auto alike = present_.find(key);
+    if (alike != present_.end()) present = contest_.teams.find(*alike->second);
+  }
+  team.planned.isNew = present == contest_.teams.end();
+  team.planned.name = team.planned.isNew ? std::string(row.team) : present->first;
+  if (!team.planned.isNew) team.planned.coach = present->second.coach;
+  openSlots(team, team.planned.isNew ? nullptr : &present->second);
+  std::int64_t next = next_;
+  for (const Slot& slot : team.slots) {
+    team.numberFields += 1 + digitsOf(slot.hasNumber ? slot.number : next++);
+  }
+  return team;
+}
+
+void RosterPlanner::add(const RosterRow& row) {
+  std::optional<OpenTeam> fresh;
+  std::string key;
+  if (!last_ || row.team != lastName_) {
+    key = keyOfName(row.team);
+    const auto known = opened_.find(key);
+    lastName_ = row.team;
+    last_.reset();
+    if (known != opened_.end()) last_ = known->second;
+  }
+  if (!last_) fresh = openTeam(row, key);
+  OpenTeam& team = fresh ? *fresh : teams_[*last_];
+  if (auto problem = problemOfNames(row, team)) return refuse(row.line, std::move(*problem));
+  Places places = placesFor(row, team);
+  if (places.problem) return refuse(row.line, std::move(*places.problem));
+  join(row, team, places);
+  if (!fresh) return;
+  last_ = teams_.size();
+  opened_.emplace(std::move(key), teams_.size());
+  teams_.push_back(std::move(*fresh));
+}
+
+std::optional<std::string> RosterPlanner::problemOfNames(const RosterRow& row,
+                                                         const OpenTeam& team) const {
+  // Behind the name are the places in the reasons order, which may be any numbers.
+  constexpr std::size_t kLongestNumber = 11;
+  constexpr std::size_t kMostName = kLineRoom - 3 * (kLongestNumber + 1);
+  for (const auto& [name, isAlternate] : row.people) {
+    if (name.size() <= kMostName) continue;
+    return formatText("The name %s is too long.  Shorten it to %d characters.",
+                      quotedName(name).c_str(), static_cast<int>(kMostName));
+  }
+  if (team.planned.isNew && next_ + static_cast<std::int64_t>(team.slots.size()) >
+                                std::numeric_limits<ContestantNumber>::max()) {
+    return "There are no contestant numbers left.  Let the contest's numbers start lower.";
+  }
+  const std::string_view coach =
+      team.planned.coach.empty() ? row.coach : std::string_view(team.planned.coach);
+  if (team.planned.name.size() + 1 + std::max<std::size_t>(coach.size(), 1) + team.numberFields <=
+      kLineRoom) {
+    return std::nullopt;
+  }
+  return "The names of the team " + quotedName(team.planned.name) +
+         " and of its coach are too long together.  Shorten them.";
+}
+
+RosterPlanner::Places RosterPlanner::placesFor(const RosterRow& row, const OpenTeam& team) const {
+  Places places;
+  std::vector<std::size_t> used;
+  const auto freeSlot = [&](std::size_t from, std::size_t to) {
+    while (from < to &&
+           (!isFree(team.slots[from]) || std::count(used.begin(), used.end(), from) > 0)) {
+      ++from;
+    }
+    return from;
+  };
+  for (std::size_t i = 0; i < row.people.size(); ++i) {
+    const auto& [name, isAlternate] = row.people[i];
+    const std::uint32_t hash = hashOfName(name);
+    const auto known =
+        std::find_if(team.known.begin(), team.known.end(), [&, wanted = name](const auto& member) {
+          return member.hash == hash && isSameName(member.name, wanted);
+        });
+    const bool isInRow =
+        std::any_of(row.people.begin(), row.people.begin() + static_cast<std::ptrdiff_t>(i),
+                    [wanted = name](const auto& other) { return isSameName(other.name, wanted); });
+    if (isInRow || (known != team.known.end() && known->line > 0)) {
+      places.problem = formatText(
+          "%s is in the team %s twice, also in line %d.  Take one out, or tell the two apart.",
+          quotedName(name).c_str(), quotedName(team.planned.name).c_str(),
+          isInRow ? row.line : known->line);
+      return places;
+    }
+    if (known != team.known.end()) {
+      places.slots.emplace_back(known->slot, false);
+      continue;
+    }
+    std::size_t slot = isAlternate ? regularSlots_ : freeSlot(0, regularSlots_);
+    if (slot == regularSlots_) slot = freeSlot(regularSlots_, team.slots.size());
+    if (slot == team.slots.size()) {
+      places.problem = formatText(
+          "The team %s has no %s left for %s.  Take somebody out, or raise the members of a team "
+          "in Setup Contest.",
+          quotedName(team.planned.name).c_str(), isAlternate ? "alternate's place" : "place",
+          quotedName(name).c_str());
+      return places;
+    }
+    used.push_back(slot);
+    places.slots.emplace_back(slot, true);
+  }
+  return places;
+}
+
+// All numberless slots get theirs together, as when a team is added.
+void RosterPlanner::giveNumbers(OpenTeam& team) {
+  for (Slot& slot : team.slots) {
+    if (slot.hasNumber) continue;
+    slot.number = static_cast<ContestantNumber>(next_++);
+    slot.hasNumber = true;
+  }
+}
+
+void RosterPlanner::join(const RosterRow& row, OpenTeam& team, const Places& places) {
+  const bool needsNumbers =
+      team.planned.isNew || std::any_of(places.slots.begin(), places.slots.end(), [&](auto& place) {
+        return !team.slots[place.first].hasNumber;
+      });
+  if (needsNumbers) giveNumbers(team);
+  takeCoach(row, team);
+  for (std::size_t i = 0; i < row.people.size(); ++i) {
+    const auto [index, isNew] = places.slots[i];
+    Slot& slot = team.slots[index];
+    const std::string name =
+        isNew ? std::string(row.people[i].name) : contestantName(contest_, slot.number);
+    team.planned.members.push_back({name, slot.number, index, isNew});
+    ++(index < regularSlots_ ? plan_.contestants : plan_.alternates);
+    if (!isNew) {
+      for (KnownMember& member : team.known) {
+        if (member.slot == index) member.line = row.line;
+      }
+      continue;
+    }
+    slot.isFree = false;
+    if (slot.number < firstNew_) taken_.insert(slot.number);
+    team.known.push_back(
+        {hashOfName(row.people[i].name), std::string(row.people[i].name), index, row.line});
+    plan_.changesNothing = false;
+  }
+}
+
+void RosterPlanner::takeCoach(const RosterRow& row, OpenTeam& team) {
+  PlannedTeam& planned = team.planned;
+  if (planned.isNew) plan_.changesNothing = false;
+  if (row.coach.empty()) return;
+  if (planned.coach.empty()) {
+    planned.coach = row.coach;
+    planned.isCoachNew = !planned.isNew;
+    plan_.changesNothing = false;
+  } else if (keyOfName(row.coach) != keyOfName(planned.coach) && row.coach != team.otherCoach) {
+    team.otherCoach = row.coach;
+    remark(row.line, "The team " + quotedName(planned.name) + " has the coach " +
+                         quotedName(planned.coach) + " already; " + quotedName(row.coach) +
+                         " is left out.");
+  }
+}
+
+void RosterPlanner::checkShownNames() {
+  std::map<std::string_view, const std::string*> shown;
+  const auto startOf = [](const std::string& name) {
+    return std::string_view(name).substr(0, kShownTeamName);
+  };
+  for (const auto& [name, team] : contest_.teams) {
+    if (name.size() >= kShownTeamName) shown.try_emplace(startOf(name), &name);
+  }
+  for (const OpenTeam& team : teams_) {
+    const std::string& name = team.planned.name;
+    if (name.size() < kShownTeamName) continue;
+    const auto [other, isFirst] = shown.try_emplace(startOf(name), &name);
+    if (isFirst || *other->second == name) continue;
+    remark(team.line, "The teams " + quotedName(*other->second) + " and " + quotedName(name) +
+                          " read the same in the award lists, which show 21 characters.");
+  }
+}
+
+void RosterPlanner::finish() {
+  checkShownNames();
+  for (OpenTeam& team : teams_) {
+    for (const Slot& slot : team.slots) team.planned.numbers.push_back(slot.number);
+    if (team.known.empty()) {
+      remark(team.line, "The team " + quotedName(team.planned.name) + " has no members.");
+    }
+    plan_.teams.push_back(std::move(team.planned));
+  }
+  std::stable_sort(plan_.remarks.begin(), plan_.remarks.end(),
+                   [](const SheetNote& a, const SheetNote& b) { return a.line < b.line; });
+}
+
+}  // namespace scorvane

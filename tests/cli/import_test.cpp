@@ -1,0 +1,100 @@
+// What scorvane-contest import answers to its command lines, as approved.
+#include <gtest/gtest.h>
+
+#include "cli/contest_options.h"
+#include "cli/contest_runner.h"
+#include "storage/contest_writer.h"
+#include "tests/storage/memory_files.h"
+#include "tests/support/approved.h"
+#include "tests/support/contest_builder.h"
+
+namespace scorvane {
+
+namespace {
+
+struct ImportFiles : MemoryFiles {
+  ImportFiles() {
+    ContestBuilder fair;
+    fair.addClass({}).team("Elm", "", {"Ann", "Bob", "", ""}).placings(101, "B");
+    files["fair.scv"].content = writeContest(fair.contest);
+    files["damaged.scv"].content = "not a contest\r\n";
+    files["sheet.csv"].content = "Team,Name,Coach\nElm,Cy,Pat\nYew,Dee,\nYew,dee,\n";
+    files["there.csv"].content = "Team,Name\nElm,ann\n";
+    files["empty.csv"].content = "Team,Name\n\n";
+  }
+};
+
+CliResult run(std::string_view line, FileSystem& files) {
+  CommandLine words;
+  for (std::size_t bar = 0; bar != std::string_view::npos && !line.empty();) {
+    bar = line.find('|');
+    words.push_back(line.substr(0, bar));
+    line.remove_prefix(bar == std::string_view::npos ? 0 : bar + 1);
+  }
+  ContestOptions options;
+  if (const auto refusal = readContestOptions(words, options)) {
+    return refuseUsage(kContestProgram, *refusal);
+  }
+  return runContestTool(options, files);
+}
+
+TEST(Import, AnswersAsApproved) {
+  std::string log;
+  for (const char* line :
+       {"import|sheet.csv|fair.scv", "import|sheet.csv|fair.scv|--skip-problems",
+        "import|sheet.csv|fair.scv|--skip-problems|--dry-run", "import|there.csv|fair.scv",
+        "import|there.csv|fair.scv|--into|out.scv", "import|sheet.csv|new.scv|--skip-problems",
+        "import|empty.csv|fair.scv", "import|none.csv|fair.scv", "import|sheet.csv|damaged.scv", "",
+        "imort", "import", "import|a", "import|a|b|c", "import|a|b|--drry-run", "import|a|b|--into",
+        "import|a|b|--dry-run=no", "--dry-run|import|a|b"}) {
+    ImportFiles disk;
+    const auto before = disk.files;
+    const CliResult result = run(line, disk);
+    log.append("> ").append(line).append("\n").append(result.output);
+    log.append(result.error.substr(0, result.error.find('\n'))).append("\n");
+    for (const auto& [path, file] : disk.files) {
+      const auto old = before.find(path);
+      if (old == before.end() || old->second.content != file.content)
+        log += "written: " + path + "\n";
+    }
+    log.append("status ").append(std::to_string(result.status)).append("\n\n");
+  }
+  expectApproved(log, "cli/imports.txt");
+  ImportFiles disk;
+  EXPECT_EQ(run("--version", disk).output, "scorvane-contest " SCORVANE_VERSION "\n");
+  EXPECT_NE(run("import|--help", disk).output.find("--skip-problems"), std::string::npos);
+}
+
+// A disk that breaks at any step leaves the old contest or the new one, and a status that tells.
+TEST(Import, WritesAllOrNothing) {
+  ImportFiles fine;
+  const std::string old = fine.files["fair.scv"].content;
+  EXPECT_EQ(run("import|sheet.csv|fair.scv|--skip-problems", fine).status, kDoneWithoutProblems);
+  const std::string imported = fine.files["fair.scv"].content;
+  EXPECT_NE(imported, old);
+  for (int call = 1; call <= fine.calls; ++call) {
+    ImportFiles disk;
+    disk.failingCall = call;
+    disk.stayBroken = true;
+    const CliResult result = run("import|sheet.csv|fair.scv|--skip-problems", disk);
+    EXPECT_EQ(disk.files["fair.scv"].content, result.status == kFailed ? old : imported) << call;
+  }
+}
+
+// What somebody else saved meanwhile is not written over.
+TEST(Import, RespectsWhatOthersSaved) {
+  struct SharedFiles : ImportFiles {
+    std::shared_ptr<void> lockForSaving(const std::string& path) override {
+      files[path].content = "saved meanwhile";
+      return nullptr;
+    }
+  } disk;
+  const CliResult result = run("import|there.csv|fair.scv|--into|out.scv", disk);
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(run("import|sheet.csv|fair.scv|--skip-problems", disk).status, kFailed);
+  EXPECT_EQ(disk.files["fair.scv"].content, "saved meanwhile");
+}
+
+}  // namespace
+
+}  // namespace scorvane
