@@ -146,6 +146,9 @@ constexpr std::array kCommands = {
     Command{32851, "Verification Reports", "Zero Questions Report",
             Report{plain<zeroQuestionsReport>}},
 
+    Command{33002, "Tools", "Publish Results ...", runPublishResults},
+    Command{33003, "Tools", "Export Scores To Spreadsheet ...", runExportScores},
+
     Command{33023, "Tools", "Earlier Saves ...", runEarlierSaves},
 
     Command{32857, "Help", "Scorvane Help (F1)", helpCommand},

@@ -6,6 +6,8 @@
 #include "app/file_menu.h"
 #include "app/shown_report.h"
 #include "exchange/earlier_saves_dialog.h"
+#include "exchange/exports.h"
+#include "exchange/publish_dialog.h"
 #include "reports/differences_report.h"
 #include "session/open_contest.h"
 #include "session/recovery.h"
@@ -35,6 +37,15 @@ void runEarlierSaves(MainWindow& window) {
   }
   showContestTitle(window);
   sayIfWorkIsNotKept(window);
+}
+
+void runPublishResults(MainWindow& window) {
+  PublishDialog dialog;
+  window.runDialog(IDD_PUBLISH, dialog);
+}
+
+void runExportScores(MainWindow& window) {
+  exportScores(window, sessionFiles());
 }
 
 }  // namespace scorvane

@@ -9,4 +9,9 @@ namespace scorvane {
 /// back the welcome text is shown, as the old report told of another contest.
 void runEarlierSaves(MainWindow& window);
 
+/// Runs the Publish Results dialog.
+void runPublishResults(MainWindow& window);
+/// Exports the scores to a file that the operator chooses.
+void runExportScores(MainWindow& window);
+
 }  // namespace scorvane

@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "cli/system.h"
+#include "exchange/exports.h"
 #include "storage/contest_reader.h"
 #include "storage/safe_save.h"
 #include "text/characters.h"
@@ -130,6 +131,22 @@ CliResult writeAllReports(const Contest& contest, const std::string& folder, Fil
   return result;
 }
 
+// The page and the spreadsheet that are wanted; nothing when all is well.
+std::optional<std::string> writeExports(const Contest& contest, const CliOptions& options,
+                                        FileSystem& files) {
+  const auto write = [&](const std::string& path, const std::string& bytes) {
+    return exportFile(files, path, options.contest, bytes);
+  };
+  const auto& [page, spreadsheet] = std::tie(options.page, options.spreadsheet);
+  if (!page.empty() && !write(page, resultsPage(contest, options.pageContent))) {
+    return "cannot write '" + page + "'";
+  }
+  if (!spreadsheet.empty() && !write(spreadsheet, spreadsheetBytes(contest, spreadsheet))) {
+    return "cannot write '" + spreadsheet + "'";
+  }
+  return std::nullopt;
+}
+
 std::string reportList() {
   std::string list;
   for (const Command& command : commandTable()) {
@@ -156,8 +173,15 @@ CliResult runCli(const CliOptions& options, FileSystem& files) {
   const auto opened = openContest(options.contest, files);
   if (const auto* refusal = std::get_if<std::string>(&opened)) return failed(*refusal);
   const auto& contest = std::get<Contest>(opened);
-  return options.action == Action::allReports ? writeAllReports(contest, options.folder, files)
-                                              : printReports(contest, options);
+  CliResult result = options.action == Action::allReports
+                         ? writeAllReports(contest, options.folder, files)
+                         : printReports(contest, options);
+  if (result.status != 0) return result;
+  if (const auto refusal = writeExports(contest, options, files)) {
+    result.status = kFailed;
+    result.error = failed(*refusal).error;
+  }
+  return result;
 }
 
 CliResult refuseUsage(const std::string& reason) {

@@ -1,0 +1,109 @@
+#include "exchange/page_cards.h"
+
+#include "exchange/people.h"
+#include "model/class_lists.h"
+#include "model/record_cursor.h"
+
+namespace scorvane {
+
+namespace {
+
+class CardWriter {
+ public:
+  CardWriter(PageWriter& page, const Contest& contest, const ScoreCards& cards)
+      : page_(page),
+        contest_(contest),
+        cards_(cards),
+        named_(countNamed(contest)),
+        hasReasons_(!reasonsClasses(contest.classes).empty()),
+        hasQuestions_(!questionsClasses(contest.classes).empty()) {
+    for (std::int32_t k = 0; k < contest.classes.count(); ++k) {
+      appendNumber(rowStarts_.emplace_back("<tr><th scope=\"row\">"), k + 1);
+      appendMarkup(rowStarts_.back().append(" "), contest.classes.name(k));
+      rowStarts_.back() += "<td>";
+    }
+  }
+
+  void add(const Person& person) {
+    const CardRow& card = person.card;
+    const std::vector<CardTotal> totals = cards_.totalsOf(card);
+    page_.raw("<details open><summary><h3>").number(card.number).raw(" ").text(*card.name);
+    page_.raw("</h3> ").text(*person.team).raw("</summary>\n<table><caption>Overall ");
+    page_.number(totals.back().total);
+    if (card.place > 0) {
+      page_.raw(", place ")
+          .number(card.place)
+          .raw(" of ")
+          .number(static_cast<std::int64_t>(named_));
+    }
+    if (card.isAlternate) page_.raw(", alternate");
+    if (card.counts) page_.raw(", counts for the team");
+    page_.raw(
+        "</caption>\n<thead><tr><th scope=\"col\">Class<th scope=\"col\">Placing<th "
+        "scope=\"col\">Score");
+    if (hasReasons_) page_.raw("<th scope=\"col\">Reasons");
+    if (hasQuestions_) page_.raw("<th scope=\"col\">Questions");
+    page_.raw("<th scope=\"col\">Total</thead>\n<tbody>\n");
+    addClasses(card);
+    for (const CardTotal& total : totals) addTotal(total);
+    page_.raw("</table></details>\n");
+  }
+
+ private:
+  void addClasses(const CardRow& card) {
+    RecordCursor records(card.scores);
+    for (std::int32_t k = 0; k < contest_.classes.count(); ++k) {
+      const ScoreRecord& record = records.at(k);
+      page_.raw(rowStarts_[static_cast<std::size_t>(k)]);
+      if (record.letter != kNoLetter) {
+        page_.placing(record.letter).raw("<td>").number(record.placingScore);
+      } else {
+        page_.raw("<td>");
+      }
+      if (hasReasons_) addEntered(record.reasonsScore);
+      if (hasQuestions_) addEntered(record.questionsScore);
+      page_.raw("<td>\n");
+    }
+  }
+  // A 0 was not entered.
+  void addEntered(std::int32_t score) {
+    page_.raw("<td>");
+    if (score != 0) page_.number(score);
+  }
+  void addTotal(const CardTotal& total) {
+    page_.raw("<tr class=\"t\"><th scope=\"row\">");
+    page_.text(total.category == nullptr ? "All classes" : *total.category);
+    page_.raw("<td><td>").number(total.placings);
+    if (hasReasons_) page_.raw("<td>");
+    if (hasReasons_ && total.hasReasons) page_.number(total.reasons);
+    if (hasQuestions_) page_.raw("<td>");
+    if (hasQuestions_ && total.hasQuestions) page_.number(total.questions);
+    page_.raw("<td>").number(total.total).raw("\n");
+  }
+
+  PageWriter& page_;
+  const Contest& contest_;
+  const ScoreCards& cards_;
+  std::size_t named_;
+  bool hasReasons_;
+  bool hasQuestions_;
+  std::vector<std::string> rowStarts_;  ///< by class: what every card's row begins with
+};
+
+}  // namespace
+
+void addScoreCards(PageWriter& page, const Contest& contest, const ScoreCards& cards) {
+  page.raw(
+      "<section id=\"cards\">\n<h2>Score cards</h2>\n"
+      "<p id=\"search\" hidden><label for=\"find\">Find by number, name or team</label><br>"
+      "<input id=\"find\" type=\"search\" autocomplete=\"off\"><output id=\"found\" "
+      "for=\"find\"></output></p>\n");
+  CardWriter writer(page, contest, cards);
+  for (const Person& person : peopleByNumber(contest, cards)) {
+    if (page.isTooLong()) break;
+    writer.add(person);
+  }
+  page.raw("</section>\n");
+}
+
+}  // namespace scorvane
