@@ -30,14 +30,12 @@ void appendField(std::string& out, std::string_view text) {
 }  // namespace
 
 void appendNumeral(std::string& out, const Cell& number) {
-  if (number.decimals == 0) return appendNumber(out, number.value);
-  constexpr std::int64_t kHundred = 100;
-  const std::int64_t value = number.value < 0 ? -number.value : number.value;
+  if (!number.hasDecimal) return appendNumber(out, number.value);
   if (number.value < 0) out += '-';
-  appendNumber(out, value / kHundred);
+  const std::int64_t value = number.value < 0 ? -number.value : number.value;
+  appendNumber(out, value / 10);
   out += '.';
-  out += static_cast<char>('0' + value % kHundred / 10);
-  out += static_cast<char>('0' + value % 10);
+  appendNumber(out, value % 10);
 }
 
 std::string csvText(const Sheet& sheet) {

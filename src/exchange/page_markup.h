@@ -16,12 +16,13 @@ inline constexpr std::string_view kPageStyle =
     "table{width:100%;border-collapse:collapse;margin-bottom:1.5rem}"
     "caption{text-align:left;padding:.2rem 0}"
     "th,td{text-align:left;vertical-align:top;padding:.25rem .4rem;"
-    "border-bottom:1px solid #8888;overflow-wrap:anywhere}"
-    "tbody th{font-weight:600}"
-    "td:first-child,.s{text-align:right;width:3.5rem}"
-    "small{display:block;font-size:.85rem}"
+    "border-bottom:1px solid #8888}"
+    "tbody th,td{overflow-wrap:anywhere}"
+    "tbody th,.t td{font-weight:600}"
+    "td:first-child,.s{text-align:right;width:3.2rem}"
+    "small{display:block;font-weight:400;font-size:.85rem}"
     "td ul{margin:0;padding:0;list-style:none}"
-    "#cards td,#cards thead th+th{text-align:right;width:auto}"
+    "#cards td,#cards thead th+th{text-align:right;width:auto;overflow-wrap:normal}"
     "summary{padding:.5rem 0;cursor:pointer}"
     "summary h3{display:inline;font-size:1rem}"
     "summary:focus-visible,input:focus-visible,a:focus-visible{outline:3px solid #4a90d9}"
@@ -31,6 +32,7 @@ inline constexpr std::string_view kPageStyle =
     "text{font-size:9px;text-anchor:middle;fill:currentColor}"
     "input{font:inherit;width:100%;max-width:24rem;box-sizing:border-box;padding:.5rem}"
     "output{display:block;min-height:1.5rem}"
+    "@media(max-width:30rem){#cards table{font-size:.8rem}}"
     "@media print{:root{color-scheme:light;font-size:10pt}body{max-width:none;padding:0}"
     "nav,#search{display:none}tr,article,details{break-inside:avoid}h2,h3{break-after:avoid}}";
 
@@ -48,13 +50,15 @@ inline constexpr std::string_view kPageScript =
     "w.length&&h[0]};"
     "$('search').hidden=false;go();"
     "f.addEventListener('input',go);"
-    "f.addEventListener('keydown',e=>{if(e.key=='Enter'){const d=go();"
+    "f.addEventListener('keydown',e=>{if(e.key=='Enter'){e.preventDefault();const d=go();"
     "if(d){d.open=true;d.firstElementChild.focus();d.scrollIntoView()}}});"
     "addEventListener('beforeprint',()=>c.forEach(d=>{d.was=d.open;d.open=true}));"
     "addEventListener('afterprint',()=>c.forEach(d=>d.open=d.was))})()";
 
 // What the browser may apply and run: these very texts and nothing that a name could smuggle in.
-inline constexpr std::string_view kPageStyleHash = "sha256-pWDB2jfQj13NJn3bsxkALXHbYiO5B44xAIniEnxUqMQ=";
-inline constexpr std::string_view kPageScriptHash = "sha256-joUk5l8ihsDjnbrnLzM+dXDX9AuOzkUKNr8BYYGrLkc=";
+inline constexpr std::string_view kPageStyleHash =
+    "sha256-yldP+XB30CAh0PMJm6qHYVS4ukvnwOJzmMZauoxXAnc=";
+inline constexpr std::string_view kPageScriptHash =
+    "sha256-y5+/hdT+elnB3rx9VE9CMg8S/hfHrBODiM7McV2W9NM=";
 
 }  // namespace scorvane

@@ -8,9 +8,9 @@
 #include "exchange/page_cards.h"
 #include "exchange/page_markup.h"
 #include "exchange/page_writer.h"
+#include "exchange/sheet.h"
 #include "model/class_lists.h"
 #include "results/award_lists.h"
-#include "text/format.h"
 
 namespace scorvane {
 
@@ -47,30 +47,35 @@ void addTableStart(PageWriter& page, std::string_view name, std::string_view who
   page.raw("<th scope=\"col\" class=\"s\">Score</thead>\n<tbody>\n");
 }
 
-void addPlace(PageWriter& page, int place, const std::string& name) {
+void addPlace(PageWriter& page, int place, const std::string& name,
+              const std::vector<std::string>& ties) {
   page.raw("<tr><td>").number(place).raw("<th scope=\"row\">").text(name);
+  for (const std::string& words : ties) page.raw("<small>").text(words).raw("</small>");
 }
 
-void addScore(PageWriter& page, std::int32_t score, const std::string& tie) {
-  page.raw("<td class=\"s\">").number(score);
-  if (!tie.empty()) page.raw("<small>").text(tie).raw("</small>");
-  page.raw("\n");
+void addScore(PageWriter& page, std::int32_t score) {
+  page.raw("<td class=\"s\">").number(score).raw("\n");
 }
 
-void addAward(PageWriter& page, const Contest& contest, const ReportRequest& request) {
+void addIndividuals(PageWriter& page, const ReportRequest& request,
+                    const std::vector<IndividualRow>& rows) {
+  if (rows.empty()) return;
   addTableStart(page, awardName(request), ": individuals",
                 "<th scope=\"col\">Name<th scope=\"col\">Team");
-  for (const IndividualRow& row : individualRows(contest, request)) {
-    addPlace(page, row.place, *row.name);
+  for (const IndividualRow& row : rows) {
+    addPlace(page, row.place, *row.name, tieInWords(request, row));
     page.raw("<td>").text(*row.team);
-    addScore(page, row.score, tieInWords(request, row));
+    addScore(page, row.score);
   }
   page.raw("</tbody></table>\n");
-  if (contest.teams.empty()) return;
+}
+
+void addTeams(PageWriter& page, const ReportRequest& request, const std::vector<TeamRow>& rows) {
+  if (rows.empty()) return;
   addTableStart(page, awardName(request), ": teams", "<th scope=\"col\">Team");
-  for (const TeamRow& row : teamRows(contest, request)) {
-    addPlace(page, row.place, *row.name);
-    addScore(page, row.score, tieInWords(request, row));
+  for (const TeamRow& row : rows) {
+    addPlace(page, row.place, *row.name, tieInWords(request, row));
+    addScore(page, row.score);
   }
   page.raw("</tbody></table>\n");
 }
@@ -80,7 +85,11 @@ void addAwards(PageWriter& page, const Contest& contest) {
   if (auto requests = awardRequests(contest)) {
     // On the stage the overall award comes last; who reads wants it first.
     std::rotate(requests->begin(), requests->end() - 1, requests->end());
-    for (const ReportRequest& request : *requests) addAward(page, contest, request);
+    for (const ReportRequest& request : *requests) {
+      if (page.isTooLong()) break;
+      addIndividuals(page, request, individualRows(contest, request));
+      addTeams(page, request, teamRows(contest, request));
+    }
   } else {
     page.raw("<p>There are too many categories to rank.</p>\n");
   }
@@ -96,8 +105,8 @@ void addClass(PageWriter& page, const JudgingClasses& classes, const ClassStatis
   const ScoreSum& cards = statistics.placings;
   page.number(cards.count).raw(cards.count == 1 ? " card" : " cards");
   if (cards.count > 0) {
-    const double average = static_cast<double>(cards.sum) / cards.count;
-    page.raw(formatText(", average %.1f, %d perfect", average, statistics.perfect));
+    appendNumeral(page.raw(", average ").out(), Cell::ofTenths(cards.averageInTenths()));
+    page.raw(", ").number(statistics.perfect).raw(" perfect");
   }
   page.raw("</p>\n");
   appendClassChart(page.out(), statistics);
@@ -113,19 +122,19 @@ void addClasses(PageWriter& page, const Contest& contest) {
   page.raw("</div>\n</section>\n");
 }
 
-void addTeams(PageWriter& page, const Contest& contest) {
+void addAllTeams(PageWriter& page, const Contest& contest) {
   page.raw("<section id=\"teams\">\n<h2>Teams</h2>\n");
   const ReportRequest request = everybodyRequest(contest, ScoreKind::overall);
   addTableStart(page, "Overall", ": all teams", "<th scope=\"col\">Team<th scope=\"col\">Members");
   for (const TeamRow& row : teamRows(contest, request)) {
     if (page.isTooLong()) break;
-    addPlace(page, row.place, *row.name);
+    addPlace(page, row.place, *row.name, tieInWords(request, row));
     page.raw("<td><ul>");
     for (const MemberRow& member : row.members) {
       if (!member.name->empty()) page.raw("<li>").text(*member.name).raw(" ").number(member.score);
     }
     page.raw("</ul>");
-    addScore(page, row.score, tieInWords(request, row));
+    addScore(page, row.score);
   }
   page.raw("</tbody></table>\n</section>\n");
 }
@@ -138,7 +147,7 @@ std::string resultsPage(const Contest& contest, PageContent content) {
   addContents(page, content);
   addAwards(page, contest);
   addClasses(page, contest);
-  if (content != PageContent::awards) addTeams(page, contest);
+  if (content != PageContent::awards) addAllTeams(page, contest);
   if (content == PageContent::cards) addScoreCards(page, contest, ScoreCards(contest));
   if (page.isTooLong()) page.raw("<p>This page is too long; it ends here.</p>\n");
   page.raw("</main>\n");

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <initializer_list>
 #include <memory>
 #include <utility>
@@ -70,12 +69,6 @@ Cell orderCell(PlacingLetter letter) {
 
 Cell placingScoreCell(const ScoreRecord& record) {
   return record.letter == kNoLetter ? Cell{} : Cell::ofNumber(record.placingScore);
-}
-
-// Rounded to the nearest.
-std::int64_t hundredths(const ScoreSum& scores) {
-  const auto hundred = static_cast<double>(scores.sum) * 100;
-  return std::llround(hundred / scores.count);
 }
 
 // A reasons or questions score; a 0 was not entered.
@@ -175,7 +168,7 @@ Sheet classesSheet(const SharedBook& book) {
                      Cell::ofText(categoryName(contest, contest.classes.category(k))),
                      letterCell(official[0]), orderCell(official[0]), Cell::ofNumber(cut1),
                      Cell::ofNumber(cut2), Cell::ofNumber(cut3), Cell::ofNumber(cards.count),
-                     cards.count == 0 ? Cell{} : Cell::ofHundredths(hundredths(cards)),
+                     cards.count == 0 ? Cell{} : Cell::ofTenths(cards.averageInTenths()),
                      Cell::ofNumber(statistics.perfect)});
   };
   return sheet;

@@ -13,18 +13,18 @@ namespace scorvane {
 struct Cell {
   enum class Kind { blank, text, number };
   Kind kind = Kind::blank;
-  std::uint8_t decimals = 0;
+  bool hasDecimal = false;
   std::int64_t value = 0;  ///< of a number, without its decimal point
   std::string_view text;   ///< 8-bit text
 
   [[nodiscard]] static Cell ofText(std::string_view text) {
-    return text.empty() ? Cell{} : Cell{Kind::text, 0, 0, text};
+    return text.empty() ? Cell{} : Cell{Kind::text, false, 0, text};
   }
-  [[nodiscard]] static Cell ofNumber(std::int64_t value) { return {Kind::number, 0, value, {}}; }
-  /// A number that is given in hundredths.
-  [[nodiscard]] static Cell ofHundredths(std::int64_t value) {
-    return {Kind::number, 2, value, {}};
+  [[nodiscard]] static Cell ofNumber(std::int64_t value) {
+    return {Kind::number, false, value, {}};
   }
+  /// A number that is given in tenths.
+  [[nodiscard]] static Cell ofTenths(std::int64_t value) { return {Kind::number, true, value, {}}; }
 };
 
 /// Appends a number's digits and decimal point.
@@ -42,13 +42,17 @@ struct Sheet {
 /// that spreadsheets would run as a formula gets an apostrophe before it.
 [[nodiscard]] std::string csvText(const Sheet& sheet);
 
+/// What a sheet of a workbook has room for.
+struct SheetLimits {
+  std::size_t rows = 1'048'576;  ///< the headings included
+  std::size_t columns = 16'384;
+  std::size_t text = 32'767;  ///< characters of a cell
+};
+
 /// The sheets as a workbook (Office Open XML): headings in bold that stay in sight, columns as wide
 /// as their texts. What a sheet has no room for goes on in another one, or, beyond the last column,
 /// is left out.
-[[nodiscard]] std::string workbookBytes(const std::vector<Sheet>& sheets);
-
-inline constexpr std::size_t kMostSheetRows = 1'048'576;  ///< the headings included
-inline constexpr std::size_t kMostSheetColumns = 16'384;
-inline constexpr std::size_t kLongestCellText = 32'767;
+[[nodiscard]] std::string workbookBytes(const std::vector<Sheet>& sheets,
+                                        const SheetLimits& limits = {});
 
 }  // namespace scorvane

@@ -38,14 +38,13 @@ struct Part {
   std::size_t rows = 0;
 };
 
-std::vector<Part> partsOf(const std::vector<Sheet>& sheets) {
-  constexpr std::size_t kRoom = kMostSheetRows - 1;
+std::vector<Part> partsOf(const std::vector<Sheet>& sheets, std::size_t room) {
   std::vector<Part> parts;
   for (const Sheet& sheet : sheets) {
-    for (std::size_t first = 0; first == 0 || first < sheet.rows; first += kRoom) {
+    for (std::size_t first = 0; first == 0 || first < sheet.rows; first += room) {
       std::string name = sheet.name;
-      if (first > 0) name << " " << first / kRoom + 1;
-      parts.push_back({&sheet, std::move(name), first, std::min(kRoom, sheet.rows - first)});
+      if (first > 0) name << " " << first / room + 1;
+      parts.push_back({&sheet, std::move(name), first, std::min(room, sheet.rows - first)});
     }
   }
   return parts;
@@ -54,11 +53,13 @@ std::vector<Part> partsOf(const std::vector<Sheet>& sheets) {
 // Every text is kept once for the whole workbook, and cells name it by its number.
 class SharedTexts {
  public:
+  explicit SharedTexts(std::size_t longest) : longest_(longest) {}
+
   std::size_t numberOf(std::string_view text) {
-    const auto found = numbers_.find(text.substr(0, kLongestCellText));
+    const auto found = numbers_.find(text.substr(0, longest_));
     if (found != numbers_.end()) return found->second;
     const std::size_t number = texts_.size();
-    numbers_.emplace(texts_.emplace_back(text.substr(0, kLongestCellText)), number);
+    numbers_.emplace(texts_.emplace_back(text.substr(0, longest_)), number);
     return number;
   }
   void writeTo(std::string& out) const {
@@ -88,6 +89,7 @@ class SharedTexts {
     appendMarkup(out, text);
   }
 
+  std::size_t longest_;
   std::deque<std::string> texts_;
   std::unordered_map<std::string_view, std::size_t> numbers_;
 };
@@ -108,11 +110,11 @@ std::vector<std::string> columnNames(std::size_t count) {
 
 class SheetWriter {
  public:
-  SheetWriter(std::string& out, SharedTexts& texts, const Part& part)
+  SheetWriter(std::string& out, SharedTexts& texts, const Part& part, std::size_t columns)
       : out_(out),
         texts_(texts),
         part_(part),
-        columns_(columnNames(std::min(part.sheet->headings.size(), kMostSheetColumns))) {}
+        columns_(columnNames(std::min(part.sheet->headings.size(), columns))) {}
 
   void write() {
     out_ << kDeclaration << "<worksheet xmlns=\"" << kMain << "\"><sheetViews><sheetView "
@@ -222,7 +224,9 @@ constexpr std::string_view kStyles =
     "patternType=\"none\"/></fill><fill><patternFill patternType=\"gray125\"/></fill></fills>"
     "<borders count=\"1\"><border><left/><right/><top/><bottom/><diagonal/></border></borders>"
     "<cellStyleXfs count=\"1\"><xf/></cellStyleXfs><cellXfs count=\"2\"><xf xfId=\"0\"/><xf "
-    "fontId=\"1\" xfId=\"0\" applyFont=\"1\"/></cellXfs></styleSheet>";
+    "fontId=\"1\" xfId=\"0\" applyFont=\"1\"/></cellXfs><cellStyles count=\"1\"><cellStyle "
+    "name=\"Normal\" xfId=\"0\" "
+    "builtinId=\"0\"/></cellStyles></styleSheet>";
 
 void addRelations(ZipArchive& archive, std::string_view name, std::string_view relations) {
   archive.beginFile(name) << kDeclaration << "<Relationships xmlns=\"" << kPackage
@@ -260,16 +264,16 @@ std::size_t expectedSize(const std::vector<Part>& parts) {
 
 }  // namespace
 
-std::string workbookBytes(const std::vector<Sheet>& sheets) {
-  const std::vector<Part> parts = partsOf(sheets);
+std::string workbookBytes(const std::vector<Sheet>& sheets, const SheetLimits& limits) {
+  const std::vector<Part> parts = partsOf(sheets, limits.rows - 1);
   ZipArchive archive(expectedSize(parts));
   addDirectory(archive, parts);
-  SharedTexts texts;
+  SharedTexts texts(limits.text);
   std::size_t number = 0;
   for (const Part& part : parts) {
     std::string name = "xl/worksheets/sheet";
     name << ++number << ".xml";
-    SheetWriter(archive.beginFile(name), texts, part).write();
+    SheetWriter(archive.beginFile(name), texts, part, limits.columns).write();
     archive.endFile();
   }
   texts.writeTo(archive.beginFile("xl/sharedStrings.xml"));

@@ -35,6 +35,12 @@ struct ScoreSum {
     ++count;
     sum += score;
   }
+  /// The average in tenths, rounded half away from 0; 0 when there is none.
+  [[nodiscard]] std::int64_t averageInTenths() const {
+    if (count == 0) return 0;
+    const std::int64_t half = sum < 0 ? -count : count;
+    return (20 * sum + half) / (std::int64_t{2} * count);
+  }
 };
 
 struct ClassStatistics {

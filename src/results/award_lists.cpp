@@ -36,11 +36,11 @@ const char* decider(ScoreKind kind, TieOrder order, int rule) {
   const bool first = rule == 1;
   switch (order) {
     case TieOrder::overall:
-      return first ? "reasons" : "lower placings in the reasons classes";
+      return first ? "reasons" : "lower placings in reasons classes";
     case TieOrder::reasons:
       if (!first) return "the overall score";
-      return kind == ScoreKind::questions ? "lower placings in the questions classes"
-                                          : "lower placings in the reasons classes";
+      return kind == ScoreKind::questions ? "lower placings in questions classes"
+                                          : "lower placings in reasons classes";
     case TieOrder::category:
       break;
   }
@@ -48,18 +48,19 @@ const char* decider(ScoreKind kind, TieOrder order, int rule) {
   return rule == 2 ? "reasons in all classes" : "the overall score";
 }
 
-std::string inWords(ScoreKind kind, TieOrder order, int place, const TieOutcome& outcome) {
-  std::string words;
+std::vector<std::string> inWords(ScoreKind kind, TieOrder order, int place,
+                                 const TieOutcome& outcome) {
+  std::vector<std::string> words;
   if (outcome.equalsPrevious || outcome.equalsNext) {
-    words = "tied with ";
-    if (outcome.equalsPrevious) words += placeInWords(place - 1);
-    if (outcome.equalsPrevious && outcome.equalsNext) words += " and ";
-    if (outcome.equalsNext) words += placeInWords(place + 1);
-    words += ", no rule breaks it";
+    std::string& tied = words.emplace_back("tied with ");
+    if (outcome.equalsPrevious) tied += placeInWords(place - 1);
+    if (outcome.equalsPrevious && outcome.equalsNext) tied += " and ";
+    if (outcome.equalsNext) tied += placeInWords(place + 1);
+    tied += ", no rule breaks it";
   }
   if (outcome.rule > 0) {
-    appendFormat(words, "%swon on %s, %d to %d", words.empty() ? "" : "; ",
-                 decider(kind, order, outcome.rule), outcome.own, outcome.next);
+    words.push_back(formatText("won on %s, %d to %d", decider(kind, order, outcome.rule),
+                               outcome.own, outcome.next));
   }
   return words;
 }
@@ -105,11 +106,11 @@ std::string placeInWords(int place) {
   return formatText("%d%s", place, ending);
 }
 
-std::string tieInWords(const ReportRequest& request, const IndividualRow& row) {
+std::vector<std::string> tieInWords(const ReportRequest& request, const IndividualRow& row) {
   return inWords(request.kind, row.ties.order, row.place, row.outcome);
 }
 
-std::string tieInWords(const ReportRequest& request, const TeamRow& row) {
+std::vector<std::string> tieInWords(const ReportRequest& request, const TeamRow& row) {
   return inWords(request.kind, row.ties.order, row.place, row.outcome);
 }
 

@@ -1,0 +1,83 @@
+#include "exchange/sheet.h"
+
+#include <gtest/gtest.h>
+
+#include "exchange/zip_archive.h"
+#include "tests/exchange/markup_check.h"
+
+namespace scorvane {
+
+namespace {
+
+// Texts and numbers row by row.
+Sheet sheetOf(std::vector<std::string> headings, std::vector<std::vector<Cell>> rows) {
+  Sheet sheet;
+  sheet.name = "Sheet";
+  sheet.headings = std::move(headings);
+  sheet.rows = rows.size();
+  sheet.fill = [rows](std::size_t row, std::vector<Cell>& cells) { cells = rows[row]; };
+  return sheet;
+}
+
+std::map<std::string, std::string> partsOf(const std::vector<Sheet>& sheets,
+                                           const SheetLimits& limits = {}) {
+  std::map<std::string, std::string> parts;
+  EXPECT_EQ(workbookFault(workbookBytes(sheets, limits),
+                          [&](const std::string& name, std::string_view part) {
+                            parts[name.substr(name.rfind('/') + 1)] = part;
+                          }),
+            "");
+  return parts;
+}
+
+TEST(Csv, QuotesAndKeepsFormulasFromRunning) {
+  const Sheet sheet = sheetOf({"=A", "B"}, {{Cell::ofText("+1"), Cell::ofText("-1")},
+                                            {Cell::ofText("@x,\"y\""), Cell::ofText("\tTab")},
+                                            {Cell::ofText("\rCR"), Cell::ofText("a \"b\" c")},
+                                            {Cell{}, Cell::ofText("\x80=1")},
+                                            {Cell::ofNumber(-12), Cell::ofTenths(-75)}});
+  EXPECT_EQ(csvText(sheet),
+            "\xEF\xBB\xBF'=A,B\r\n'+1,'-1\r\n\"'@x,\"\"y\"\"\",' Tab\r\n' CR,\"a \"\"b\"\" c\"\r\n"
+            ",\u20AC=1\r\n-12,-7.5\r\n");
+}
+
+TEST(Workbook, HoldsNumbersAsNumbersAndEveryTextOnce) {
+  auto parts = partsOf({sheetOf({"Name", "Score"}, {{Cell::ofText("=1<2"), Cell::ofNumber(-5)},
+                                                    {Cell{}, Cell::ofTenths(465)},
+                                                    {Cell::ofText("=1<2"), Cell::ofText(" a ")}}),
+                        sheetOf({"_x0041_ _x004"}, {})});
+  const std::string& rows = parts["sheet1.xml"];
+  EXPECT_EQ(rows.substr(rows.find("<sheetData>")),
+            "<sheetData><row r=\"1\"><c r=\"A1\" s=\"1\" t=\"s\"><v>0</v></c><c r=\"B1\" s=\"1\" "
+            "t=\"s\"><v>1</v></c></row><row r=\"2\"><c r=\"A2\" t=\"s\"><v>2</v></c><c "
+            "r=\"B2\"><v>-5</v></c></row><row r=\"3\"><c r=\"B3\"><v>46.5</v></c></row><row "
+            "r=\"4\"><c r=\"A4\" t=\"s\"><v>2</v></c><c r=\"B4\" t=\"s\"><v>3</v></c></row>"
+            "</sheetData></worksheet>");
+  EXPECT_NE(rows.find(" ySplit=\"1\" topLeftCell=\"A2\" "), std::string::npos);
+  const std::string& texts = parts["sharedStrings.xml"];
+  EXPECT_NE(texts.find("<t xml:space=\"preserve\">=1&lt;2</t></si><si><t xml:space=\"preserve\"> a "
+                       "</t></si><si><t xml:space=\"preserve\">_x005F_x0041_ _x004</t>"),
+            std::string::npos)
+      << texts;
+}
+
+TEST(Workbook, GoesOnInAnotherSheetAndCutsWhatDoesNotFit) {
+  std::vector<std::vector<Cell>> rows;
+  for (int row = 0; row < 5; ++row) rows.push_back({Cell::ofNumber(row), Cell::ofText("abcdef")});
+  auto parts = partsOf({sheetOf({"A", "B", "C"}, rows)}, {3, 2, 4});
+  EXPECT_NE(parts["sheet1.xml"].find("<row r=\"3\"><c r=\"A3\"><v>1</v></c>"), std::string::npos);
+  EXPECT_NE(parts["sheet3.xml"].find("<row r=\"2\"><c r=\"A2\"><v>4</v></c>"), std::string::npos);
+  EXPECT_EQ(parts.count("sheet4.xml"), 0U);
+  EXPECT_EQ(parts["sheet1.xml"].find("<row r=\"4\">"), std::string::npos);
+  EXPECT_NE(parts["workbook.xml"].find("\"Sheet 3\" sheetId=\"3\" r:id=\"rId3\"/></sheets>"),
+            std::string::npos);
+  EXPECT_EQ(parts["sharedStrings.xml"].find(">C<"), std::string::npos);
+  EXPECT_NE(parts["sharedStrings.xml"].find(">abcd<"), std::string::npos);
+  auto wide = partsOf({sheetOf(std::vector<std::string>(16'385, "x"), {})});
+  EXPECT_TRUE(wide["sheet1.xml"].ends_with(
+      "<c r=\"XFD1\" s=\"1\" t=\"s\"><v>0</v></c></row></sheetData></worksheet>"));
+}
+
+}  // namespace
+
+}  // namespace scorvane
