@@ -34,7 +34,8 @@ struct Sheet {
   std::string name;
   std::vector<std::string> headings;
   std::size_t rows = 0;
-  /// Appends the cells of a row, from 0. Their texts need to live until the next call.
+  /// Appends the cells of a row, from 0. Their texts must stay as they are while the sheet is
+  /// written, but for texts of one character: these need to last until the next call.
   std::function<void(std::size_t row, std::vector<Cell>& cells)> fill;
 };
 

@@ -6,11 +6,11 @@ namespace scorvane {
 
 namespace {
 
-constexpr std::size_t kSlices = 8;
+constexpr std::size_t kSlices = 16;
 using CrcTables = std::array<std::array<std::uint32_t, 256>, kSlices>;
 
-// Table s holds what a byte does to the check value when s more bytes follow: eight bytes are then
-// taken in one step, which makes writing a large workbook a third faster.
+// Table s holds what a byte does to the check value when s more bytes follow: sixteen bytes are
+// then taken in one step, which makes writing a large workbook a third faster.
 const CrcTables& crcTables() {
   static const CrcTables tables = [] {
     constexpr std::uint32_t kPolynomial = 0xEDB88320;
@@ -76,11 +76,14 @@ std::uint32_t crc32(std::string_view bytes) {
   const CrcTables& tables = crcTables();
   std::uint32_t crc = 0xFFFFFFFF;
   while (bytes.size() >= kSlices) {
-    const std::uint32_t low = crc ^ littleEndian(bytes.data());
-    const std::uint32_t high = littleEndian(bytes.data() + 4);
-    crc = tables[7][low & 0xFF] ^ tables[6][low >> 8 & 0xFF] ^ tables[5][low >> 16 & 0xFF] ^
-          tables[4][low >> 24] ^ tables[3][high & 0xFF] ^ tables[2][high >> 8 & 0xFF] ^
-          tables[1][high >> 16 & 0xFF] ^ tables[0][high >> 24];
+    std::uint32_t next = 0;
+    for (std::size_t word = 0; word < kSlices; word += 4) {
+      const std::uint32_t value = littleEndian(bytes.data() + word) ^ (word == 0 ? crc : 0);
+      const std::size_t slice = kSlices - 4 - word;
+      next ^= tables[slice + 3][value & 0xFF] ^ tables[slice + 2][value >> 8 & 0xFF] ^
+              tables[slice + 1][value >> 16 & 0xFF] ^ tables[slice][value >> 24];
+    }
+    crc = next;
     bytes.remove_prefix(kSlices);
   }
   for (const char byte : bytes) {
