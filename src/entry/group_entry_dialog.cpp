@@ -1,6 +1,8 @@
 #include "entry/group_entry_dialog.h"
 
 #include <algorithm>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "entry/last_score.h"
@@ -75,9 +77,11 @@ void GroupEntryDialog::onOpen(Dialog& dialog) {
 void GroupEntryDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
   if (event == ControlEvent::selectionChanged) {
     (id == IDC_ENTRY_CLASS ? class_ : group_) = dialog.selectedNumber(id);
+    finished_.reset();
     if (class_ && group_) startGroup(dialog);
   }
   if (id == IDC_ENTRY_SCORE && event == ControlEvent::clicked) score(dialog);
+  if (id == IDC_ENTRY_BACK && event == ControlEvent::clicked) goBack(dialog);
   endOn(dialog, id, event, entry_.escape);
 }
 
@@ -87,14 +91,18 @@ void GroupEntryDialog::onClose(Dialog& dialog) {
 
 void GroupEntryDialog::startGroup(Dialog& dialog) {
   const bool isReasons = entry_.kind == EntryKind::reasons;
-  const std::vector<ContestantNumber> cards =
-      isReasons ? speakersUpToHole(contest_.reasonsOrder, *group_)
-                : groupMembers(contest_, static_cast<char>(*group_));
-  waiting_.assign(cards.begin(), cards.end());
-  // Odd but required, docs/required-behaviour.md: group-without-members
-  if (cards.empty() && !isReasons) return;
+  std::vector<ContestantNumber> cards = isReasons
+                                            ? speakersUpToHole(contest_.reasonsOrder, *group_)
+                                            : groupMembers(contest_, static_cast<char>(*group_));
+  if (cards.empty() && !isReasons) {
+    // Odd but required, docs/required-behaviour.md: group-without-members
+    if (position_ < cards_.size()) cards_.resize(position_ + 1);
+    return;
+  }
   if (confirmReentry(dialog, isReasons ? groupSpeakers(contest_, *group_) : cards)) {
-    showContestant(dialog, nextContestant());
+    cards_ = std::move(cards);
+    position_ = 0;
+    showContestant(dialog);
   } else {
     clearChoice(dialog);
   }
@@ -119,14 +127,34 @@ void GroupEntryDialog::score(Dialog& dialog) {
     return;
   }
   if (enterCard(dialog)) {
-    if (const auto next = nextContestant()) {
-      showContestant(dialog, next);
+    if (++position_ < cards_.size()) {
+      showContestant(dialog);
     } else {
+      const std::pair done(*class_, *group_);
       clearChoice(dialog);
+      finished_ = done;
     }
   }
   // The next card is typed at once, also after a press by mouse.
   dialog.focus(entry_.field);
+}
+
+// Shows the card before this one again, so that a slip of the key is typed over at once. Behind the
+// last card of a group that is the last card, with class and group as they were.
+void GroupEntryDialog::goBack(Dialog& dialog) {
+  dialog.setText(entry_.field, "");
+  dialog.focus(entry_.field);
+  if (finished_) {
+    std::tie(class_, group_) = *finished_;
+    dialog.selectKey(IDC_ENTRY_CLASS, *class_);
+    dialog.selectKey(IDC_ENTRY_GROUP, *group_);
+    finished_.reset();
+  } else if (position_ == cards_.size() || !class_) {
+    return;
+  }
+  if (position_ > 0) --position_;
+  showContestant(dialog);
+  showLastScore(dialog, contest_, cards_[position_], *class_, entry_.kind);
 }
 
 std::optional<std::string> GroupEntryDialog::missingChoice() const {
@@ -144,26 +172,20 @@ bool GroupEntryDialog::enterCard(Dialog& dialog) {
     return false;
   }
   dialog.setText(entry_.field, "");
-  if (!contestant_) {
+  if (position_ == cards_.size()) {
     dialog.show(entry_.noContestant, "Warning");
     return false;
   }
-  storeScores(contest_, *contestant_, *class_, typed);
-  showLastScore(dialog, contest_, *contestant_, *class_, entry_.kind);
+  storeScores(contest_, cards_[position_], *class_, typed);
+  showLastScore(dialog, contest_, cards_[position_], *class_, entry_.kind);
   return true;
 }
 
-// Takes the next contestant of the group; nothing at its end.
-std::optional<ContestantNumber> GroupEntryDialog::nextContestant() {
-  if (waiting_.empty()) return std::nullopt;
-  const ContestantNumber next = waiting_.front();
-  waiting_.pop_front();
-  return next;
-}
-
-void GroupEntryDialog::showContestant(Dialog& dialog, std::optional<ContestantNumber> number) {
-  contestant_ = number;
-  dialog.setText(IDC_ENTRY_CONTESTANT, number ? std::to_string(*number) : "");
+// Shows whose card is typed now.
+void GroupEntryDialog::showContestant(Dialog& dialog) {
+  const bool isSomebody = position_ < cards_.size();
+  dialog.setText(IDC_ENTRY_CONTESTANT, isSomebody ? std::to_string(cards_[position_]) : "");
+  showPerson(dialog, contest_, isSomebody ? std::optional(cards_[position_]) : std::nullopt);
 }
 
 // Back to nothing chosen.
@@ -172,7 +194,8 @@ void GroupEntryDialog::clearChoice(Dialog& dialog) {
   group_.reset();
   dialog.select(IDC_ENTRY_CLASS, std::nullopt);
   dialog.select(IDC_ENTRY_GROUP, std::nullopt);
-  showContestant(dialog, std::nullopt);
+  position_ = cards_.size();
+  showContestant(dialog);
 }
 
 }  // namespace scorvane

@@ -136,7 +136,7 @@ class ProgressBuilder {
     for (std::size_t i = 0; i < people.size(); ++i) {
       const bool endsLine = i % 2 == 1 || i + 1 == people.size();
       const char group = groupOfContestant(contest_, people[i].number);
-      appendFormat(out_, endsLine ? "   %c %6d %.25s\n" : "   %c %6d %-26.26s", group,
+      appendFormat(out_, endsLine ? "   %c %6d %.24s\n" : "   %c %6d %-24.24s", group,
                    people[i].number, people[i].name->c_str());
     }
   }

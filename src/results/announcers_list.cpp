@@ -8,22 +8,27 @@ namespace scorvane {
 
 namespace {
 
-constexpr int kIndent = 7;
+// `who` is a contestant with the team, or a team with its coach.
+template <typename Row>
+void appendRow(std::string& out, const ReportRequest& request, const Row& row,
+               const std::string& who, const std::string& with) {
+  appendFormat(out, "%5s  %-30.30s %-30.30s %6d\n", placeInWords(row.place).c_str(), who.c_str(),
+               with.c_str(), row.score);
+  // Each part on a line: both would be too wide.
+  std::string words = tieInWords(request, row);
+  if (words.empty()) return;
+  if (const std::size_t both = words.find("; "); both != std::string::npos) {
+    words.replace(both, 2, "\n       ");
+  }
+  out += "       " + words + "\n";
+}
 
 void appendRow(std::string& out, const ReportRequest& request, const IndividualRow& row) {
-  appendFormat(out, "%5s  %-30.30s %-30.30s %6d\n", placeInWords(row.place).c_str(),
-               row.name->c_str(), row.team->c_str(), row.score);
-  for (const std::string& words : tieInWords(request, row)) {
-    appendFormat(out, "%*s%s\n", kIndent, "", words.c_str());
-  }
+  appendRow(out, request, row, *row.name, *row.team);
 }
 
 void appendRow(std::string& out, const ReportRequest& request, const TeamRow& row) {
-  appendFormat(out, "%5s  %-30.30s %-30.30s %6d\n", placeInWords(row.place).c_str(),
-               row.name->c_str(), row.coach->c_str(), row.score);
-  for (const std::string& words : tieInWords(request, row)) {
-    appendFormat(out, "%*s%s\n", kIndent, "", words.c_str());
-  }
+  appendRow(out, request, row, *row.name, *row.coach);
 }
 
 std::string title(const ReportRequest& request, const char* whose, const char* first,

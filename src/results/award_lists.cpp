@@ -48,19 +48,18 @@ const char* decider(ScoreKind kind, TieOrder order, int rule) {
   return rule == 2 ? "reasons in all classes" : "the overall score";
 }
 
-std::vector<std::string> inWords(ScoreKind kind, TieOrder order, int place,
-                                 const TieOutcome& outcome) {
-  std::vector<std::string> words;
+std::string inWords(ScoreKind kind, TieOrder order, int place, const TieOutcome& outcome) {
+  std::string words;
   if (outcome.equalsPrevious || outcome.equalsNext) {
-    std::string& tied = words.emplace_back("tied with ");
-    if (outcome.equalsPrevious) tied += placeInWords(place - 1);
-    if (outcome.equalsPrevious && outcome.equalsNext) tied += " and ";
-    if (outcome.equalsNext) tied += placeInWords(place + 1);
-    tied += ", no rule breaks it";
+    words = "tied with ";
+    if (outcome.equalsPrevious) words += placeInWords(place - 1);
+    if (outcome.equalsPrevious && outcome.equalsNext) words += " and ";
+    if (outcome.equalsNext) words += placeInWords(place + 1);
+    words += ", no rule breaks it";
   }
   if (outcome.rule > 0) {
-    words.push_back(formatText("won on %s, %d to %d", decider(kind, order, outcome.rule),
-                               outcome.own, outcome.next));
+    appendFormat(words, "%swon on %s, %d to %d", words.empty() ? "" : "; ",
+                 decider(kind, order, outcome.rule), outcome.own, outcome.next);
   }
   return words;
 }
@@ -106,11 +105,11 @@ std::string placeInWords(int place) {
   return formatText("%d%s", place, ending);
 }
 
-std::vector<std::string> tieInWords(const ReportRequest& request, const IndividualRow& row) {
+std::string tieInWords(const ReportRequest& request, const IndividualRow& row) {
   return inWords(request.kind, row.ties.order, row.place, row.outcome);
 }
 
-std::vector<std::string> tieInWords(const ReportRequest& request, const TeamRow& row) {
+std::string tieInWords(const ReportRequest& request, const TeamRow& row) {
   return inWords(request.kind, row.ties.order, row.place, row.outcome);
 }
 

@@ -24,9 +24,9 @@ namespace scorvane {
 [[nodiscard]] std::string placeInWords(int place);
 
 /// What a tie was decided by, told with its winner, or that nothing decides it: "won on reasons,
-/// 187 to 185", "tied with 3rd, no rule breaks it". One text, both (a tie of three) or none.
-[[nodiscard]] std::vector<std::string> tieInWords(const ReportRequest& request,
-                                                  const IndividualRow& row);
-[[nodiscard]] std::vector<std::string> tieInWords(const ReportRequest& request, const TeamRow& row);
+/// 187 to 185", "tied with 3rd, no rule breaks it", or both parted by "; ". Empty when there is
+/// nothing to tell.
+[[nodiscard]] std::string tieInWords(const ReportRequest& request, const IndividualRow& row);
+[[nodiscard]] std::string tieInWords(const ReportRequest& request, const TeamRow& row);
 
 }  // namespace scorvane

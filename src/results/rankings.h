@@ -25,7 +25,7 @@ struct MemberRow {
   ContestantNumber number = 0;
   const std::string* name = nullptr;  ///< "" for a slot without a person
   std::int32_t score = 0;             ///< the member's own, whether it counts or not
-  bool counts = false;                ///< toward the team's score
+  bool counts = false;                ///< toward the team's score, a slot without a person as 0
 };
 
 struct TeamRow {

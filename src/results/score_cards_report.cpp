@@ -74,7 +74,7 @@ class ScoreCardsBuilder {
   }
 
   std::string cardHeading(const CardRow& card, bool ofTeam) const {
-    std::string out = formatText("%4d %.40s", card.number, card.name->c_str());
+    std::string out = formatText("%4d %.32s", card.number, card.name->c_str());
     if (card.place > 0) {
       appendFormat(out, ": %s of %zu", placeInWords(card.place).c_str(), named_);
     }
@@ -130,7 +130,7 @@ class ScoreCardsBuilder {
       add("no official placing");
     } else if (record.placingScore !=
                placingScore(record.letter, classes.official(k), classes.cuts(k))) {
-      add("not the score by these cuts");
+      add("not by these cuts");
     } else {
       for (const auto& [first, second, points] :
            lostPairs(record.letter, classes.official(k), classes.cuts(k))) {

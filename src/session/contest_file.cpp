@@ -131,6 +131,7 @@ FileQuestion contestFileQuestion(FileQuestion::Purpose purpose) {
 void startNewContest() {
   leaveContest();
   currentContest() = newContest();
+  contestIsNew();
   currentFileName().clear();
   reportText() = kWelcomeText;
 }

@@ -19,8 +19,9 @@ inline constexpr const char* kLargeFontLine = "--- Large Font ---";
 
 /// Thirty classes and a hundred thousand contestants stay far below this.
 inline constexpr std::size_t kLongestReport = 128U << 20U;
-/// For reports that are handed out on paper: ten thousand contestants' cards stay far below this.
-inline constexpr std::size_t kLongestHandOut = 32U << 20U;
+/// For reports that are handed out on paper: ten thousand contestants judging thirty classes stay
+/// below this.
+inline constexpr std::size_t kLongestHandOut = 56U << 20U;
 
 /// Whether a report has grown beyond all use (a damaged contest file can ask for a grid larger
 /// than the memory). Then a last line says that it ends here, and the builder must stop.

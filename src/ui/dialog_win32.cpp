@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <iterator>
 #include <utility>
 
 #include "ui/control_kind_win32.h"
@@ -53,6 +54,7 @@ class NativeDialog final : public Dialog {
   void setLines(ControlId id, const std::vector<ListLine>& lines) override;
   [[nodiscard]] std::optional<int> selection(ControlId id) const override;
   void select(ControlId id, std::optional<int> index) override;
+  [[nodiscard]] bool isMovingThroughLines() const override;
   [[nodiscard]] std::vector<int> selections(ControlId id) const override;
   void setSelected(ControlId id, int index, bool selected) override;
   void linkScrolling(std::vector<ControlId> ids) override;
@@ -262,6 +264,14 @@ std::optional<int> NativeDialog::selection(ControlId id) const {
 void NativeDialog::select(ControlId id, std::optional<int> index) {
   const int line = index && hasLine(id, *index) ? *index : -1;
   send(id, lineMessages(id).select, static_cast<WPARAM>(line));
+}
+
+bool NativeDialog::isMovingThroughLines() const {
+  HWND focus = GetFocus();
+  if (focus == nullptr || controlKind(focus) != ControlKind::list) return false;
+  constexpr int kMovingKeys[] = {VK_UP, VK_DOWN, VK_PRIOR, VK_NEXT, VK_HOME, VK_END};
+  return std::any_of(std::begin(kMovingKeys), std::end(kMovingKeys),
+                     [](int key) { return GetKeyState(key) < 0; });
 }
 
 std::vector<int> NativeDialog::selections(ControlId id) const {
