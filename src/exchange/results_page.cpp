@@ -47,10 +47,9 @@ void addTableStart(PageWriter& page, std::string_view name, std::string_view who
   page.raw("<th scope=\"col\" class=\"s\">Score</thead>\n<tbody>\n");
 }
 
-void addPlace(PageWriter& page, int place, const std::string& name,
-              const std::vector<std::string>& ties) {
+void addPlace(PageWriter& page, int place, const std::string& name, const std::string& tie) {
   page.raw("<tr><td>").number(place).raw("<th scope=\"row\">").text(name);
-  for (const std::string& words : ties) page.raw("<small>").text(words).raw("</small>");
+  if (!tie.empty()) page.raw("<small>").text(tie).raw("</small>");
 }
 
 void addScore(PageWriter& page, std::int32_t score) {

@@ -273,6 +273,11 @@ def earlier_saves(stage):
 
 
 @scene
+def publish_results(stage):
+    stage.take(stage.dialog(33002, "Publish Results"))
+
+
+@scene
 def about(stage):
     stage.take(stage.dialog(104, "About Scorvane"), colours=128)
 
