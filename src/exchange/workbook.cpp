@@ -96,7 +96,7 @@ class SharedTexts {
   // way itself.
   static void appendText(std::string& out, std::string_view text) {
     constexpr std::string_view kDigits = "0123456789abcdefABCDEF";
-    for (std::size_t at; (at = text.find("_x")) != std::string_view::npos;) {
+    for (std::size_t at = 0; (at = text.find("_x")) != std::string_view::npos;) {
       const bool isCode =
           text.size() > at + 6 && text[at + 6] == '_' &&
           text.substr(at + 2, 4).find_first_not_of(kDigits) == std::string_view::npos;
