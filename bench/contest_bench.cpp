@@ -6,6 +6,7 @@
 #include <string>
 
 #include "app/command_table.h"
+#include "exchange/exports.h"
 #include "model/contest_differences.h"
 #include "storage/contest_reader.h"
 #include "storage/contest_writer.h"
@@ -62,6 +63,20 @@ void compare(benchmark::State& state) {
   state.SetComplexityN(state.range(0));
 }
 
+// Everybody's card as a page, and all scores as a workbook.
+void publish(benchmark::State& state, bool asPage) {
+  const Contest& contest = contestOf(state.range(0));
+  std::size_t size = 0;
+  for ([[maybe_unused]] auto step : state) {
+    const std::string bytes = asPage ? resultsPage(contest, PageContent::cards)
+                                     : spreadsheetBytes(contest, "scores.xlsx");
+    size = bytes.size();
+    benchmark::DoNotOptimize(size);
+  }
+  state.SetComplexityN(state.range(0));
+  state.counters["bytes"] = static_cast<double>(size);
+}
+
 void report(benchmark::State& state, int commandId) {
   const Contest& contest = contestOf(state.range(0));
   const Command* command = findCommand(commandId);
@@ -79,6 +94,8 @@ void overSizes(benchmark::internal::Benchmark* bench) {
 BENCHMARK(load)->Apply(overSizes);
 BENCHMARK(save)->Apply(overSizes);
 BENCHMARK(compare)->Apply(overSizes);
+BENCHMARK_CAPTURE(publish, page, true)->Apply(overSizes);
+BENCHMARK_CAPTURE(publish, workbook, false)->Apply(overSizes);
 
 // Every results report.
 const bool kRegistered = [] {

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Makes the contests under samples/ afresh: tools/make_samples.sh MAKE_CONTEST [FOLDER].
+# Makes what is under samples/ afresh: tools/make_samples.sh MAKE_CONTEST [FOLDER]. The page is published by the
+# scorvane-report beside MAKE_CONTEST.
 # With --check as FOLDER it only tells whether they are what MAKE_CONTEST makes.
 set -euo pipefail
 make_contest=$(realpath "$1")
@@ -14,6 +15,7 @@ mkdir -p "$folder"
   --classes 12 --reasons 4 --questions 2 --categories 4 --groups 12 \
   --name "State Livestock Judging Championship" --division "Senior Division" \
   --date "October 03, 2026"
+"$(dirname "$make_contest")/scorvane-report" "$folder/county.scv" --publish "$folder/county.html" --show cards
 if [ "${2:-}" = --check ]; then
   diff -r --exclude="*.csv" "$folder" samples
   rm -r "$folder"

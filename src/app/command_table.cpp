@@ -158,6 +158,8 @@ constexpr std::array kCommands = {
             Report{plain<zeroQuestionsReport>}},
 
     Command{33001, "Tools", "Import Roster ...", runImportRoster},
+    Command{33002, "Tools", "Publish Results ...", runPublishResults},
+    Command{33003, "Tools", "Export Scores To Spreadsheet ...", runExportScores},
     Command{33013, "Tools", "Announcer's List", Report{plain<announcersList>}},
     Command{33011, "Tools", "Score Cards By Team", Report{plain<scoreCardsReport>}},
     Command{33012, "Tools", "Class Analysis", Report{plain<classAnalysisReport>}},

@@ -7,7 +7,9 @@
 #include "app/shown_report.h"
 #include "entry/move_cards_dialog.h"
 #include "exchange/earlier_saves_dialog.h"
+#include "exchange/exports.h"
 #include "exchange/import_roster_dialog.h"
+#include "exchange/publish_dialog.h"
 #include "model/bring_in_scores.h"
 #include "reports/differences_report.h"
 #include "reports/listing_reports.h"
@@ -80,6 +82,15 @@ void runBringInScores(MainWindow& window) {
   }
   showReport(window, report);
   sayIfWorkIsNotKept(window);
+}
+
+void runPublishResults(MainWindow& window) {
+  PublishDialog dialog;
+  window.runDialog(IDD_PUBLISH, dialog);
+}
+
+void runExportScores(MainWindow& window) {
+  exportScores(window, sessionFiles());
 }
 
 }  // namespace scorvane

@@ -19,4 +19,9 @@ void runEarlierSaves(MainWindow& window);
 /// operator agreed, and shows what was brought in and what differs.
 void runBringInScores(MainWindow& window);
 
+/// Runs the Publish Results dialog.
+void runPublishResults(MainWindow& window);
+/// Exports the scores to a file that the operator chooses.
+void runExportScores(MainWindow& window);
+
 }  // namespace scorvane

@@ -6,6 +6,7 @@
 
 #include "cli/arguments.h"
 #include "cli/program.h"
+#include "exchange/exports.h"
 #include "text/number.h"
 
 namespace scorvane {
@@ -26,6 +27,8 @@ constexpr std::array kGroups = {
     QuestionGroup{askCustom, "Custom/Category Report"},
     QuestionGroup{askOtherContest, "Compare With Another File"},
 };
+
+constexpr const char* kExports = "Results for others";
 
 constexpr const char* kPurpose =
     "Prints a report of a contest file, byte for byte as the program shows it; several are "
@@ -49,6 +52,16 @@ std::string readKind(const std::string& word, ScoreKind& kind) {
   return inQuotes(word) + " is none of overall, placings, reasons and questions";
 }
 
+std::string readContent(const std::string& word, PageContent& content) {
+  constexpr std::array kWords = {"awards", "teams", "cards"};
+  for (std::size_t i = 0; i < kWords.size(); ++i) {
+    if (!sameWord(word, kWords.at(i))) continue;
+    content = static_cast<PageContent>(i);
+    return "";
+  }
+  return inQuotes(word) + " is none of awards, teams and cards";
+}
+
 std::string readNumber(const std::string& text, CliOptions& options) {
   const bool percent = text.ends_with('%');
   options.number = exactNumber(std::string_view(text).substr(0, text.size() - (percent ? 1 : 0)));
@@ -63,6 +76,7 @@ struct Words {
   std::vector<std::string> reports;
   std::optional<std::int32_t> classNumber;
   std::optional<std::int32_t> round;
+  std::string content;
   std::string kind;
   std::string rows;
 };
@@ -75,6 +89,19 @@ void declare(CLI::App& app, CliOptions& o, Words& words) {
   app.add_option("REPORT", words.reports, "number or caption of a report command")->type_name("");
   app.add_option("--all", o.folder, "writes every report that asks nothing into DIR, with CR LF")
       ->type_name("DIR");
+
+  app.add_option("--publish", o.page, "writes the results as a web page: FILE.html")
+      ->type_name("FILE")
+      ->group(kExports);
+  app.add_option("--show", words.content,
+                 "what the page tells: awards (by default), teams or cards")
+      ->check([&o](const std::string& word) { return readContent(word, o.pageContent); })
+      ->type_name("")
+      ->group(kExports);
+  app.add_option("--spreadsheet", o.spreadsheet,
+                 "writes all scores as a workbook, FILE.xlsx, or text, FILE.csv")
+      ->type_name("FILE")
+      ->group(kExports);
 
   const CLI::Validator fromOne =
       CLI::Range(1, std::numeric_limits<std::int32_t>::max()).description("");
@@ -144,19 +171,31 @@ Refusal checkUse(const CLI::App& app, const CliOptions& options) {
   return std::nullopt;
 }
 
+Refusal checkExports(const CLI::App& app, const CliOptions& options) {
+  if (app.count("--publish") > 0 && !isPagePath(options.page)) {
+    return "--publish needs the name of an .html file";
+  }
+  if (app.count("--show") > 0 && options.page.empty()) return "--show belongs to --publish";
+  if (app.count("--spreadsheet") > 0 && !isSpreadsheetPath(options.spreadsheet)) {
+    return "--spreadsheet needs the name of an .xlsx or a .csv file";
+  }
+  return std::nullopt;
+}
+
 Refusal checkWords(const CLI::App& app, const Words& words, CliOptions& options) {
   if (words.list) {
     options.action = Action::list;
     return std::nullopt;
   }
   if (options.contest.empty()) return "no contest file is named";
+  if (auto refusal = checkExports(app, options)) return refusal;
   if (app.count("--all") > 0) {
     options.action = Action::allReports;
     if (options.folder.empty()) return "--all needs the name of a folder";
     if (!words.reports.empty()) {
       return inQuotes(words.reports[0]) + " is too much: --all writes every report";
     }
-  } else if (words.reports.empty()) {
+  } else if (words.reports.empty() && options.page.empty() && options.spreadsheet.empty()) {
     return "no report is named";
   }
   for (const std::string& word : words.reports) {

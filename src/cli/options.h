@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "app/command_table.h"
+#include "exchange/results_page.h"
 
 namespace scorvane {
 
@@ -18,6 +19,9 @@ struct CliOptions {
   std::string contest;                   ///< path of the contest file
   std::string folder;                    ///< for allReports
   std::vector<const Command*> commands;  ///< for printReports: commands with a report, in order
+  std::string page;                      ///< the page to publish; "" for none
+  PageContent pageContent = PageContent::awards;
+  std::string spreadsheet;  ///< the workbook or text to write; "" for none
   /// What the options say without the contest. The following wait for it.
   ReportRequest request;
   std::optional<std::string> title;

@@ -8,6 +8,7 @@
 
 #include "cli/contest_input.h"
 #include "cli/system.h"
+#include "exchange/exports.h"
 #include "storage/safe_save.h"
 #include "text/characters.h"
 
@@ -133,6 +134,22 @@ CliResult writeAllReports(const Contest& contest, const std::string& folder, Fil
   return result;
 }
 
+// The page and the spreadsheet that are wanted; nothing when all is well.
+std::optional<std::string> writeExports(const Contest& contest, const CliOptions& options,
+                                        FileSystem& files) {
+  const auto write = [&](const std::string& path, const std::string& bytes) {
+    return exportFile(files, path, options.contest, bytes);
+  };
+  const auto& [page, spreadsheet] = std::tie(options.page, options.spreadsheet);
+  if (!page.empty() && !write(page, resultsPage(contest, options.pageContent))) {
+    return "cannot write '" + contestText(page) + "'";
+  }
+  if (!spreadsheet.empty() && !write(spreadsheet, spreadsheetBytes(contest, spreadsheet))) {
+    return "cannot write '" + contestText(spreadsheet) + "'";
+  }
+  return std::nullopt;
+}
+
 std::string reportList() {
   std::string list;
   for (const Command& command : commandTable()) {
@@ -163,6 +180,10 @@ CliResult runCli(const CliOptions& options, FileSystem& files) {
   CliResult result = options.action == Action::allReports
                          ? writeAllReports(contest, options.folder, files)
                          : printReports(contest, options, files);
+  if (const auto refusal = writeExports(contest, options, files)) {
+    result.status = kFailed;
+    result.error += remark(kReportProgram, *refusal);
+  }
   result.error.insert(0, remarks);
   return result;
 }

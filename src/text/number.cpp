@@ -73,6 +73,10 @@ std::optional<std::int64_t> typedNumber(std::string_view text) {
 }
 
 void appendNumber(std::string& out, std::int64_t number) {
+  if (number >= 0 && number < 10) {
+    out += static_cast<char>('0' + number);
+    return;
+  }
   std::array<char, 24> digits;
   const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number);
   out.append(digits.data(), end.ptr);

@@ -80,6 +80,8 @@ TEST(Cli, AnswersAsApproved) {
         "fair.scv|32862|--round|2x", "fair.scv|32862|--round|2147483648",
         "fair.scv|32800|--classes|1,,2", "fair.scv|32800|--kind|total",
         "fair.scv|32800|--number|-1", "fair.scv|32800|--team=yes", "fair.scv|32800|--number|ten",
+        "fair.scv|--publish|p.txt", "fair.scv|--publish=", "fair.scv|32796|--show|teams",
+        "fair.scv|--publish|p.html|--show|names", "fair.scv|--spreadsheet|s.ods",
         "fair.scv|32796|--all|out", "fair.scv|--all|out|--team", "fair.scv|--all="}) {
     const CliResult result = run(line, disk);
     log.append("> ").append(line).append("\n").append(result.output);
@@ -110,6 +112,27 @@ TEST(Cli, WritesEveryReportThatAsksNothing) {
   disk.stayBroken = true;
   disk.failingCall = disk.calls + 3;
   EXPECT_EQ(run("fair.scv|--all|out", disk).status, kFailed);
+}
+
+// A contest may have any name, also one that a table would have.
+TEST(Cli, WritesPageAndSpreadsheetButNeverOverTheContest) {
+  ContestFiles disk;
+  EXPECT_EQ(run("fair.scv|--publish|p.HTM|--show|CARDS|--spreadsheet|s.csv", disk).output, "");
+  EXPECT_NE(disk.files["p.HTM"].content.find("<h3>101 Ann</h3>"), std::string::npos);
+  EXPECT_TRUE(disk.files["s.csv"].content.starts_with("\xEF\xBB\xBFNumber,Name,"));
+  EXPECT_EQ(run("fair.scv|32796|--spreadsheet|s.xlsx", disk).output,
+            run("fair.scv|32796", disk).output);
+  EXPECT_TRUE(disk.files["s.xlsx"].content.starts_with("PK"));
+  const std::string contest = disk.files["fair.scv"].content;
+  disk.files["fair.csv"].content = contest;
+  EXPECT_EQ(run("fair.csv|--spreadsheet|FAIR.csv", disk).status, kFailed);
+  EXPECT_EQ(disk.files["fair.csv"].content, contest);
+  disk.fill();
+  for (const char* line : {"fair.scv|--publish|q.html", "fair.scv|--spreadsheet|q.xlsx"}) {
+    const CliResult result = run(line, disk);
+    EXPECT_EQ(result.status, kFailed);
+    EXPECT_TRUE(result.error.starts_with("scorvane-report: cannot write 'q.")) << result.error;
+  }
 }
 
 }  // namespace

@@ -42,6 +42,11 @@ class MemoryFiles : public FileSystem {
   std::int64_t clock = 1'000'000 * kTicksPerSecond;
   std::string localData = "local";
 
+  /// Leaves no room for another byte.
+  void fill() {
+    room = 0;
+    for (const auto& [path, file] : files) room += file.content.size();
+  }
   /// What the disk holds after a power cut: of what was not flushed the first `torn` bytes. False
   /// when no file has that many: all cases were seen.
   bool losePower(std::size_t torn) {

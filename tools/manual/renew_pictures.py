@@ -290,6 +290,11 @@ def import_roster(stage):
 
 
 @scene
+def publish_results(stage):
+    stage.take(stage.dialog(33002, "Publish Results"))
+
+
+@scene
 def about(stage):
     stage.take(stage.dialog(104, "About Scorvane"), colours=128)
 

@@ -1,0 +1,257 @@
+// What the page and the sheets tell, against the reports that rank.
+#include "exchange/results_page.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <regex>
+#include <set>
+
+#include "exchange/exports.h"
+#include "exchange/score_sheets.h"
+#include "results/award_lists.h"
+#include "results/high_reports.h"
+#include "results/rankings.h"
+#include "tests/exchange/markup_check.h"
+#include "tests/support/contest_builder.h"
+#include "text/format.h"
+#include "tools/contest_maker.h"
+
+namespace scorvane {
+
+namespace {
+
+// Few classes make many ties. One team is gone, its members stay, and somebody's name is gone.
+Contest tiedContest(std::uint32_t seed) {
+  ContestPlan plan;
+  plan.seed = seed;
+  plan.contestants = 40;
+  plan.alternates = 1;
+  plan.classes = 3;
+  plan.reasonsClasses = plan.questionsClasses = 1;
+  plan.categories = 2;
+  Contest contest = makeContest(plan);
+  for (auto& [number, records] : contest.scores) {
+    for (auto& [k, record] : records) {
+      record.reasonsScore = record.reasonsScore == 0 ? 0 : 40 + record.reasonsScore % 2;
+    }
+  }
+  contest.teams.erase(contest.teams.begin());
+  contest.contestantNames[120].clear();
+  return contest;
+}
+
+std::vector<std::string> matches(const std::string& text, const char* pattern) {
+  const std::regex expression(pattern);
+  std::vector<std::string> found;
+  for (std::sregex_iterator it(text.begin(), text.end(), expression), end; it != end; ++it) {
+    found.push_back((*it)[1].matched ? (*it)[1].str() : it->str());
+  }
+  return found;
+}
+
+std::string tableOf(const std::string& page, const std::string& caption) {
+  const std::size_t start = page.find("<h3>" + caption + "</h3></caption>");
+  EXPECT_NE(start, std::string::npos) << caption;
+  return page.substr(std::min(start, page.size()), page.find("</table>", start) - start);
+}
+
+// A row of the page as the report's columns, and the numbers of its words about ties.
+struct Told {
+  std::string line, numbers;
+};
+std::vector<Told> individualsOf(const std::string& table) {
+  static const std::regex row(
+      R"re(<tr><td>(\d+)<th scope="row">([^<]*)(.*)<td>([^<]*)<td class="s">(-?\d+)\n)re");
+  std::vector<Told> told;
+  for (std::sregex_iterator it(table.begin(), table.end(), row), end; it != end; ++it) {
+    const auto& m = *it;
+    told.push_back({formatText("%5s  %-30.30s  %-30.30s  %5s", m.str(1).c_str(), m.str(2).c_str(),
+                               m.str(4).c_str(), m.str(5).c_str()),
+                    m.str(3)});
+  }
+  return told;
+}
+
+// Every row begins as the report's line, and what a tie was won by is on the lines of both.
+void expectAsReported(const std::string& page, const std::string& report,
+                      const ReportRequest& request) {
+  const auto lines = matches(report, R"( +\d+  .*)");
+  const auto told = individualsOf(tableOf(page, awardName(request) + ": individuals"));
+  ASSERT_EQ(told.size(), lines.size());
+  for (std::size_t i = 0; i < told.size(); ++i) {
+    EXPECT_TRUE(lines[i].starts_with(told[i].line)) << told[i].line << '\n' << lines[i];
+    std::smatch won;
+    if (!std::regex_search(told[i].numbers, won, std::regex(R"(won on .*, (-?\d+) to (-?\d+))"))) {
+      continue;
+    }
+    for (std::size_t side = 0; side < 2 && i + side < told.size(); ++side) {
+      const std::string values = lines[i + side].substr(told[i + side].line.size()) + " ";
+      EXPECT_NE(values.find(" " + won.str(static_cast<int>(side) + 1) + " "), std::string::npos)
+          << lines[i + side];
+    }
+  }
+}
+
+TEST(ResultsPage, TellsTheRowsOfTheReports) {
+  std::size_t ties = 0;
+  for (std::uint32_t seed = 1; seed <= 20; ++seed) {
+    SCOPED_TRACE(seed);
+    Contest contest = tiedContest(seed);
+    contest.settings.numToReport = static_cast<std::int32_t>(seed);
+    const std::string page = resultsPage(contest, static_cast<PageContent>(seed % 3));
+    EXPECT_EQ(markupFault(page, false), "");
+    ties += matches(page, "won on").size();
+    const auto requests = awardRequests(contest);
+    for (const ReportRequest& request : *requests) {
+      expectAsReported(page, highIndividualReport(contest, request), request);
+      std::vector<std::string> expected;
+      for (const TeamRow& row : teamRows(contest, request)) {
+        expected.push_back(formatText("%d %s %d", row.place, row.name->c_str(), row.score));
+      }
+      const std::string table = std::regex_replace(
+          tableOf(page, awardName(request) + ": teams"),
+          std::regex("<tr><td>(\\d+)<th scope=\"row\">([^<]*).*<td class=\"s\">(-?\\d+)"),
+          "row $1 $2 $3");
+      EXPECT_EQ(matches(table, "row (.*)"), expected);
+    }
+  }
+  EXPECT_GT(ties, 100U);
+}
+
+TEST(ResultsPage, NamesNobodyWithoutAnAwardUnlessAsked) {
+  Contest contest = tiedContest(3);
+  contest.settings.numToReport = 2;
+  std::set<std::string> awarded;
+  const auto requests = awardRequests(contest);
+  for (const ReportRequest& request : *requests) {
+    for (const IndividualRow& row : individualRows(contest, request)) awarded.insert(*row.name);
+  }
+  const std::string awards = resultsPage(contest, PageContent::awards);
+  const std::string teams = resultsPage(contest, PageContent::teams);
+  const std::string cards = resultsPage(contest, PageContent::cards);
+  std::size_t unnamed = 0;
+  for (const auto& [number, name] : contest.contestantNames) {
+    if (name.empty()) continue;
+    const bool hasAward = awarded.contains(name);
+    unnamed += hasAward ? 0 : 1;
+    EXPECT_EQ(awards.find(">" + name + "<") != std::string::npos, hasAward) << name;
+    EXPECT_NE(cards.find("<h3>" + std::to_string(number) + " " + name + "</h3>"),
+              std::string::npos);
+  }
+  EXPECT_GT(unnamed, 20U);
+  for (const auto& [name, team] : contest.teams) {
+    const bool isNamed = !contestantName(contest, team.members[0]).empty();
+    const std::string member = "<li>" + contestantName(contest, team.members[0]) + " ";
+    EXPECT_EQ(teams.find(member) != std::string::npos, isNamed) << member;
+    EXPECT_EQ(awards.find(member), std::string::npos);
+  }
+  EXPECT_EQ(awards.find("<script"), std::string::npos);
+}
+
+TEST(ResultsPage, CannotBeBrokenByNames) {
+  const std::string nasty = "<b>&\"'\x01\x81\xE9</b></title><script>alert(1)</script>";
+  ContestBuilder builder;
+  builder.contest.settings.contestName = builder.contest.settings.divisionName = nasty;
+  builder.contest.settings.contestDate = nasty;
+  builder.categories({nasty, "=1"}).addClass({.name = nasty}).addClass({.category = 1});
+  builder.team(nasty, nasty, {nasty, "", nasty}).placings(101, "A<").placings(103, "Z\x81");
+  const std::string page = resultsPage(builder.contest, PageContent::cards);
+  EXPECT_EQ(markupFault(page, false), "");
+  EXPECT_EQ(matches(page, "<script>").size(), 1U);
+  EXPECT_NE(page.find("&lt;b&gt;&amp;&quot;&#39; \uFFFD\u00E9&lt;/b&gt;&lt;/title&gt;"),
+            std::string::npos);
+  EXPECT_EQ(workbookFault(spreadsheetBytes(builder.contest, "a.XLSX"),
+                          [](const std::string&, std::string_view) {}),
+            "");
+}
+
+// Everybody's place and score on the sheets, from number order back to that of the reports.
+TEST(ScoreSheets, TellTheRowsOfTheReports) {
+  for (std::uint32_t seed = 1; seed <= 20; ++seed) {
+    SCOPED_TRACE(seed);
+    const Contest contest = tiedContest(seed);
+    const std::vector<Table> sheets = scoreSheets(contest);
+    const auto rowsOf = [](const Table& sheet) {
+      std::vector<std::vector<std::string>> rows(sheet.rows);
+      std::vector<Cell> cells;
+      for (std::size_t row = 0; row < sheet.rows; ++row) {
+        cells.clear();
+        sheet.fill(row, cells);
+        for (const Cell& cell : cells) {
+          std::string& text = rows[row].emplace_back(cell.text);
+          if (cell.kind == Cell::Kind::number) appendNumeral(text, cell);
+        }
+      }
+      return rows;
+    };
+    const auto contestants = rowsOf(sheets[0]);
+    const auto teams = rowsOf(sheets[1]);
+    const std::size_t last = sheets[0].headings.size() - 1;
+    std::map<int, std::string> lines;
+    for (const auto& cells : contestants) {
+      ASSERT_EQ(cells.size(), last + 1);
+      lines[std::stoi(cells[last])] =
+          formatText("%5s  %-30.30s  %-30.30s  %5s", cells[last].c_str(), cells[1].c_str(),
+                     cells[2].c_str(), cells[last - 1].c_str());
+    }
+    const auto reported =
+        matches(highIndividualReport(contest, everybodyRequest(contest, ScoreKind::overall)),
+                R"( +\d+  .*)");
+    ASSERT_EQ(reported.size(), contestants.size());
+    for (const auto& [place, line] : lines) {
+      EXPECT_TRUE(reported[static_cast<std::size_t>(place - 1)].starts_with(line)) << line;
+    }
+    for (std::size_t kind = 0; kind < kScoreKinds.size(); ++kind) {
+      constexpr std::array<std::size_t, 4> kColumns = {6, 3, 4, 5};
+      for (const TeamRow& row : teamRows(contest, everybodyRequest(contest, kScoreKinds[kind]))) {
+        const auto told = std::find_if(teams.begin(), teams.end(),
+                                       [&](const auto& cells) { return cells[1] == *row.name; });
+        ASSERT_NE(told, teams.end());
+        EXPECT_EQ(told->at(kColumns.at(kind)), std::to_string(row.score)) << *row.name;
+        EXPECT_TRUE(kind > 0 || told->at(0) == std::to_string(row.place)) << row.place;
+      }
+    }
+  }
+}
+
+// Ann's third card was given a zero, Bob's 7 belongs to a class without questions, and Eve has no
+// record at all.
+TEST(ScoreSheets, LeaveBlankWhatWasNotEntered) {
+  ContestBuilder builder;
+  builder.members(1, 2, 1).categories({"Beef", "Swine", "None"});
+  builder.addClass({.name = "Steers", .reasons = true, .questions = true, .official = 'B'});
+  builder.addClass({.name = "Hogs", .reasons = true, .category = 1}).addClass({.name = "Ewes"});
+  builder.team("-Elm", "Mr. Oak", {"Ann", "Bob"}).team("Yew", "", {"", "Dee"}).contestant("Eve");
+  builder.placings(101, "C Z").placings(102, "B  ").placings(104, "   ");
+  builder.contest.scores[101][0].reasonsScore = 44;
+  builder.contest.scores[102][1].questionsScore = 7;  // the class has none
+  std::string texts;
+  for (const Table& sheet : scoreSheets(builder.contest)) texts += csvText(sheet).substr(3);
+  std::erase(texts, '\r');
+  EXPECT_EQ(texts, R"(Number,Name,Team,Coach,Group,Alternate,)"
+                   R"(1 Placing,1 Score,1 Reasons,1 Questions,2 Placing,2 Score,2 Reasons,)"
+                   R"(3 Placing,3 Score,Beef Total,Swine Total,)"
+                   R"(Placings,Reasons,Questions,Overall,Place
+101,Ann,'-Elm,Mr. Oak,A,,C,39,44,,,,,Z,0,83,0,39,44,0,83,1
+102,Bob,'-Elm,Mr. Oak,B,alt,B,50,,,,,,,,50,7,50,0,7,57,2
+104,Dee,Yew,,D,alt,,,,,,,,,,0,0,0,0,0,0,3
+105,Eve,,,E,,,,,,,,,,,0,0,0,0,0,0,
+Place,Team,Coach,Placings,Reasons,Questions,Overall,Member 1,Member 2
+1,'-Elm,Mr. Oak,39,44,0,83,Ann,Bob
+2,Yew,,0,0,0,0,,Dee
+Class,Name,Category,Official,Order,Cut 1,Cut 2,Cut 3,Cards,Average,Perfect
+1,Steers,Beef,B,1243,2,3,4,2,44.5,1
+2,Hogs,Swine,A,1234,2,3,4,0,,0
+3,Ewes,Beef,A,1234,2,3,4,1,0.0,0
+Number,Name,Class,Placing,Order,Score,Reasons,Questions
+101,Ann,1,C,1324,39,44,
+101,Ann,3,Z,,0,,
+102,Bob,1,B,1243,50,,
+102,Bob,2,,,,,7
+)");
+}
+
+}  // namespace
+
+}  // namespace scorvane

@@ -1,0 +1,81 @@
+#include "exchange/table.h"
+
+#include <gtest/gtest.h>
+
+#include "exchange/zip_archive.h"
+#include "tests/exchange/markup_check.h"
+
+namespace scorvane {
+
+namespace {
+
+// Texts and numbers row by row.
+Table sheetOf(std::vector<std::string> headings, std::vector<std::vector<Cell>> rows) {
+  Table sheet;
+  sheet.name = "Sheet";
+  sheet.headings = std::move(headings);
+  sheet.rows = rows.size();
+  sheet.fill = [rows](std::size_t row, std::vector<Cell>& cells) { cells = rows[row]; };
+  return sheet;
+}
+
+std::map<std::string, std::string> partsOf(const std::vector<Table>& sheets,
+                                           const SheetLimits& limits = {}) {
+  std::map<std::string, std::string> parts;
+  EXPECT_EQ(workbookFault(workbookBytes(sheets, limits),
+                          [&](const std::string& name, std::string_view part) {
+                            parts[name.substr(name.rfind('/') + 1)] = part;
+                          }),
+            "");
+  return parts;
+}
+
+TEST(Csv, QuotesAndKeepsFormulasFromRunning) {
+  const Table sheet = sheetOf({"=A", "B"}, {{Cell::ofText("+1"), Cell::ofText("-1")},
+                                            {Cell::ofText("@x,\"y\""), Cell::ofText("\tTab")},
+                                            {Cell::ofText("\rCR"), Cell::ofText("a \"b\" c")},
+                                            {Cell{}, Cell::ofText("\x80=1")},
+                                            {Cell::ofNumber(-12), Cell::ofTenths(-75)}});
+  EXPECT_EQ(csvText(sheet),
+            "\xEF\xBB\xBF'=A,B\r\n'+1,'-1\r\n\"'@x,\"\"y\"\"\",' Tab\r\n' CR,\"a \"\"b\"\" c\"\r\n"
+            ",\u20AC=1\r\n-12,-7.5\r\n");
+}
+
+TEST(Workbook, HoldsNumbersAsNumbersAndEveryTextOnce) {
+  auto parts = partsOf({sheetOf({"Name", "Score"}, {{Cell::ofText("=1<2"), Cell::ofNumber(-5)},
+                                                    {Cell{}, Cell::ofTenths(465)},
+                                                    {Cell::ofText("=1<2"), Cell::ofText(" a ")}}),
+                        sheetOf({"_x0041_ _x004"}, {})});
+  const std::string& rows = parts["sheet1.xml"];
+  EXPECT_EQ(rows.substr(rows.find("<sheetData>")),
+            "<sheetData><row><c s=\"1\" t=\"s\"><v>0</v></c><c s=\"1\" t=\"s\"><v>1</v></c></row>"
+            "<row><c t=\"s\"><v>2</v></c><c><v>-5</v></c></row><row><c/><c><v>46.5</v></c></row>"
+            "<row><c t=\"s\"><v>2</v></c><c t=\"s\"><v>3</v></c></row></sheetData></worksheet>");
+  EXPECT_NE(rows.find(" ySplit=\"1\" topLeftCell=\"A2\" "), std::string::npos);
+  const std::string& texts = parts["sharedStrings.xml"];
+  EXPECT_NE(texts.find("<t xml:space=\"preserve\">=1&lt;2</t></si><si><t xml:space=\"preserve\"> a "
+                       "</t></si><si><t xml:space=\"preserve\">_x005F_x0041_ _x004</t>"),
+            std::string::npos)
+      << texts;
+}
+
+TEST(Workbook, GoesOnInAnotherSheetAndCutsWhatDoesNotFit) {
+  std::vector<std::vector<Cell>> rows;
+  for (int row = 0; row < 5; ++row) rows.push_back({Cell::ofNumber(row), Cell::ofText("abcdef")});
+  auto parts = partsOf({sheetOf({"A", "B", "C"}, rows)}, {3, 2, 4});
+  const std::string last = "</v></c><c t=\"s\"><v>2</v></c></row></sheetData></worksheet>";
+  EXPECT_TRUE(parts["sheet1.xml"].ends_with("<v>1" + last));
+  EXPECT_TRUE(parts["sheet3.xml"].ends_with("<row><c><v>4" + last));
+  EXPECT_EQ(parts.count("sheet4.xml"), 0U);
+  EXPECT_NE(parts["workbook.xml"].find("\"Sheet 3\" sheetId=\"3\" r:id=\"rId3\"/></sheets>"),
+            std::string::npos);
+  EXPECT_EQ(parts["sharedStrings.xml"].find(">C<"), std::string::npos);
+  EXPECT_NE(parts["sharedStrings.xml"].find(">abcd<"), std::string::npos);
+  auto wide = partsOf({sheetOf(std::vector<std::string>(16'385, "x"), {})});
+  EXPECT_EQ(wide["sheet1.xml"].find("max=\"16385\""), std::string::npos);
+  EXPECT_NE(wide["sheet1.xml"].find("max=\"16384\""), std::string::npos);
+}
+
+}  // namespace
+
+}  // namespace scorvane
