@@ -14,7 +14,11 @@ namespace {
 
 CliResult answer(const std::vector<std::string_view>& arguments) {
   CliOptions options;
-  if (const auto refusal = readOptions(arguments, options)) return refuseUsage(*refusal);
+  if (const auto refusal = readOptions(arguments, options)) {
+    return refuseUsage(contestText(*refusal));
+  }
+  if (options.title) options.title = contestText(*options.title);
+  if (options.category) options.category = contestText(*options.category);
   if (options.action == CliOptions::Action::allReports) makeFolder(options.folder);
   return runCli(options, systemFiles());
 }
@@ -42,7 +46,8 @@ int run(const std::vector<std::string_view>& arguments) {
 int main(int argc, char** argv) {
   using namespace scorvane;
   try {
-    return run({argv + (argc > 0 ? 1 : 0), argv + argc});
+    const std::vector<std::string> words = commandLineWords(argc, argv);
+    return run({words.begin(), words.end()});
   } catch (const std::exception& error) {
     std::fprintf(stderr, "scorvane-report: %s\n", error.what());
     return kFailed;

@@ -39,7 +39,7 @@ std::variant<Contest, std::string> openContest(const std::string& path, FileSyst
   }
   auto loading = loadContestFile(files, path);
   if (auto* loaded = std::get_if<LoadedContest>(&loading)) return std::move(loaded->contest);
-  return "cannot read '" + path + "': " + reasonOf(std::get<ContestFault>(loading));
+  return "cannot read '" + contestText(path) + "': " + reasonOf(std::get<ContestFault>(loading));
 }
 
 // Why the contest cannot follow the options: it lacks the class, round or category asked for.
@@ -124,7 +124,7 @@ CliResult writeAllReports(const Contest& contest, const std::string& folder, Fil
     const std::string text = report->build(contest, {}).value();
     const std::string path = folder + "/" + fileNameOf(command);
     if (!saveSafely(files, path, withWindowsLineEnds(text))) {
-      return failed("cannot write '" + path + "'");
+      return failed("cannot write '" + contestText(path) + "'");
     }
   }
   return result;

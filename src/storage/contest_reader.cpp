@@ -214,30 +214,6 @@ bool readTeams(LineScanner& lines, Contest& contest) {
   return true;
 }
 
-void unassignThoseWithoutCell(Contest& contest) {
-  for (auto& [number, place] : contest.reasonsPlace) {
-    if (!place.isAssigned()) continue;
-    if (contest.reasonsOrder.cell(place.position, place.group) != number) place = {};
-  }
-}
-
-// Makes the table from the places. A place outside the table, or one that a later contestant holds
-// too, is given up, so that the person turns up among the unassigned.
-void rebuildReasonsOrder(Contest& contest) {
-  ReasonsOrder& order = contest.reasonsOrder;
-  order.reset(reasonsRows(contest), contest.settings.numReasonsGroups);
-  std::vector<ReasonsOrder::Cells::Entry> cells;
-  std::size_t assigned = 0;
-  for (const auto& [number, place] : contest.reasonsPlace) {
-    if (!place.isAssigned()) continue;
-    ++assigned;
-    if (place.group >= order.columnCount()) continue;
-    cells.push_back({{place.group, place.position}, number});
-  }
-  order.setCells(std::move(cells));
-  if (order.cells().size() != assigned) unassignThoseWithoutCell(contest);
-}
-
 }  // namespace
 
 std::variant<Contest, ContestFault> readContest(std::string_view bytes) {

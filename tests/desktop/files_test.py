@@ -21,6 +21,10 @@ class Files(DesktopTest):
         done = self.desktop.wine(self.PROGRAM, windows_path(self.folder), check=False)
         self.assertEqual((done.stdout.decode(), done.returncode), ("", 0))
 
+    def test_names_beyond_the_code_page_reach_their_own_files(self):
+        done = self.desktop.wine(self.PROGRAM, windows_path(self.folder), windows_path(self.sample()), check=False)
+        self.assertEqual((done.stdout.decode(), done.returncode), ("", 0))
+
     def test_killed_saves_leave_a_whole_file(self):
         wholes = {b"a" * 9000, b"b" * 300000}
         path = self.folder / "contest.scv"
