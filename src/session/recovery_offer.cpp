@@ -5,6 +5,7 @@
 #include <ctime>
 #include <map>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include "session/contest_file.h"
@@ -13,6 +14,9 @@
 #include "session/open_contest.h"
 #include "session/recovery.h"
 #include "session/recovery_copy.h"
+#include "session/shared_file.h"
+#include "storage/content_hash.h"
+#include "storage/contest_reader.h"
 #include "storage/contest_writer.h"
 #include "text/format.h"
 
@@ -179,6 +183,43 @@ std::string recoveredReport(const Contest& contest, const RecoveredWork& work) {
   return out;
 }
 
+/// The contest that work was done on which did not grow from what the file holds now. It is among
+/// the earlier saves if a program on this machine has replaced it. Otherwise the scores typed tell
+/// it well enough: they were not entered.
+std::optional<Contest> ancestorOf(const RecoveryCopy& copy, const Contest& recovered) {
+  FileSystem& files = sessionFiles();
+  for (const EarlierSave& save : earlierSaves(files, savedState().path)) {
+    if (save.size != copy.grewFrom->size) continue;
+    const auto bytes = readEarlierSave(files, save);
+    if (!bytes || contentHash(*bytes) != copy.grewFrom->hash) continue;
+    auto reading = readContest(*bytes);
+    if (auto* contest = std::get_if<Contest>(&reading)) return std::move(*contest);
+  }
+  if (copy.typed.empty()) return std::nullopt;
+  Contest ancestor = recovered;
+  for (const TypedScore& score : copy.typed) {
+    auto* const records = ancestor.scores.find(score.number);
+    ScoreRecord* const record = records == nullptr ? nullptr : records->find(score.classIndex);
+    if (record == nullptr) continue;
+    if (score.fields.letter) record->letter = kNoLetter;
+    if (score.fields.reasons) record->reasonsScore = 0;
+    if (score.fields.questions) record->questionsScore = 0;
+  }
+  return ancestor;
+}
+
+/// Work on this contest whose file somebody else has saved to since the program was ended.
+std::optional<Merge> mergeWithFile(const Contest& file, const Contest& recovered,
+                                   const RecoveryCopy& copy) {
+  const FileState& state = savedState();
+  if (!copy.baseIsWhole || copy.grewFrom->hash == state.hash) return std::nullopt;
+  const auto ancestor = ancestorOf(copy, recovered);
+  if (!ancestor || !isSameContest(*ancestor, file)) return std::nullopt;
+  Merge merge = mergeContests(*ancestor, recovered, file);
+  if (writeContest(merge.contest) == writeContest(file)) return std::nullopt;
+  return merge;
+}
+
 /// One question at an opening is enough: what else was left goes to the earlier saves.
 std::optional<std::string> offer(Window& owner, const FoundCopy& found, bool& hasAsked) {
   FileSystem& files = sessionFiles();
@@ -190,14 +231,25 @@ std::optional<std::string> offer(Window& owner, const FoundCopy& found, bool& ha
     files.remove(found.path);
     return std::nullopt;
   }
-  if (grewFromFile && recovered && !std::exchange(hasAsked, true)) {
-    const RecoveredWork work = workIn(file, *recovered, found.copy);
+  const auto merge =
+      grewFromFile || !recovered ? std::nullopt : mergeWithFile(file, *recovered, found.copy);
+  if (recovered && (grewFromFile || merge) && !std::exchange(hasAsked, true)) {
+    const Contest& offered = merge ? merge->contest : *recovered;
+    RecoveryCopy shown = found.copy;
+    if (offered.classes.className != recovered->classes.className) shown.typed.clear();
+    const RecoveredWork work = workIn(file, offered, shown);
     if (wantsBack(owner, work, clockTime(found.changed, files.now()))) {
       keepIfDamaged(files, found, savedState().path);
-      currentContest() = *recovered;
-      adoptCopy(found.path, found.claim);
+      currentContest() = offered;
+      if (merge) {
+        addNews(*merge);
+        contestChanged();  // has a copy of its own before that one goes
+        moveToEarlierSaves(files, found, savedState().path);
+      } else {
+        adoptCopy(found.path, found.claim);
+      }
       saveCurrent(owner);
-      return recoveredReport(*recovered, work);
+      return recoveredReport(offered, work);
     }
   }
   moveToEarlierSaves(files, found, savedState().path);

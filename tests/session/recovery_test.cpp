@@ -188,8 +188,9 @@ TEST_F(Recovery, IsOfferedForTheVeryFileItGrewFromOnly) {
   };
   disk.files[kPath].changed = 7 + 2 * kTicksPerSecond + 1;
   expectRestUnasked("another time of change");
-  disk.files[kPath].content = replaced(smallFile(), "County", "Bounty");
-  expectRestUnasked("other bytes");
+  disk.files[kPath].content =
+      replaced(replaced(smallFile(), "Market Steers", "Pen"), "\r\n\tNo", "\r\nHogs\tNo");
+  expectRestUnasked("another contest");
 
   disk.files[kPath].changed = 7 + 2 * kTicksPerSecond;  // as a memory stick rounds it
   start();
