@@ -21,20 +21,20 @@ set(zip ${CMAKE_BINARY_DIR}/Scorvane-${PROJECT_VERSION}.zip)
 set(package ${CMAKE_BINARY_DIR}/package)
 set(stage ${package}/Scorvane)
 
-# With the licence of the option library that scorvane-report contains. Notepad of older Windows shows
+# With the licence of the option library that the console programs contain. Notepad of older Windows shows
 # a text without CRs as one line.
 file(READ LICENSE licence)
 file(READ /usr/share/doc/libcli11-dev/copyright option_library_licence)
 file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/LICENSE.txt NEWLINE_STYLE DOS
-     CONTENT "${licence}\n\nscorvane-report contains the option library CLI11:\n\n${option_library_licence}" @ONLY)
+     CONTENT "${licence}\n\nscorvane-report and scorvane-contest contain the option library CLI11:\n\n${option_library_licence}" @ONLY)
 
 add_custom_command(
   OUTPUT ${zip}
-  DEPENDS scorvane scorvane-report manual ${CMAKE_BINARY_DIR}/${manual_name}.htm ${sample_files}
+  DEPENDS scorvane ${console_programs} manual ${CMAKE_BINARY_DIR}/${manual_name}.htm ${sample_files}
   COMMAND ${CMAKE_COMMAND} -E rm -rf ${stage} ${zip}
   COMMAND ${CMAKE_COMMAND} -E make_directory ${stage}/samples
   COMMAND ${CMAKE_COMMAND} -E copy $<TARGET_FILE:scorvane> $<TARGET_FILE:scorvane-report>
-          ${CMAKE_BINARY_DIR}/LICENSE.txt ${CMAKE_BINARY_DIR}/${manual_name}.htm ${stage}
+          $<TARGET_FILE:scorvane-contest> ${CMAKE_BINARY_DIR}/LICENSE.txt ${CMAKE_BINARY_DIR}/${manual_name}.htm ${stage}
   COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_BINARY_DIR}/${manual_name}_files
           ${stage}/${manual_name}_files
   COMMAND ${CMAKE_COMMAND} -E copy ${sample_files} ${stage}/samples

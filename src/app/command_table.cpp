@@ -10,6 +10,7 @@
 #include "app/window_commands.h"
 #include "output/save_report.h"
 #include "reasons/reasons_reports.h"
+#include "reports/differences_report.h"
 #include "reports/listing_reports.h"
 #include "reports/round_reports.h"
 #include "reports/verification_reports.h"
@@ -59,6 +60,12 @@ template <ReasonsSheet form>
 std::optional<std::string> sheet(const Contest& contest, const ReportRequest& request) {
   if (!request.classIndex) return std::nullopt;
   return reasonsSheet(contest, form, *request.classIndex);
+}
+
+std::optional<std::string> comparison(const Contest& contest, const ReportRequest& request) {
+  if (request.other == nullptr) return std::nullopt;
+  return differencesReport(contest, *request.other,
+                           {"Comparison with " + request.otherName, "Here", "There"});
 }
 
 std::optional<std::string> roundVerification(const Contest& contest, const ReportRequest& request) {
@@ -147,6 +154,8 @@ constexpr std::array kCommands = {
     Command{32851, "Verification Reports", "Zero Questions Report",
             Report{plain<zeroQuestionsReport>}},
 
+    Command{33021, "Tools", "Compare With Another File ...", Report{comparison, askOtherContest}},
+    Command{33022, "Tools", "Bring In Scores ...", runBringInScores},
     Command{33023, "Tools", "Earlier Saves ...", runEarlierSaves},
 
     Command{32857, "Help", "Scorvane Help (F1)", helpCommand},

@@ -1,11 +1,11 @@
 #include "cli/options.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
 #include <limits>
 
-#include "cli/suggestion.h"
+#include "cli/arguments.h"
+#include "cli/program.h"
 #include "text/number.h"
 
 namespace scorvane {
@@ -24,6 +24,7 @@ constexpr std::array kGroups = {
     QuestionGroup{askReasonsClass, "Reasons Score Sheets, Verify Reasons Scores"},
     QuestionGroup{askRound, "Round Verification Report"},
     QuestionGroup{askCustom, "Custom/Category Report"},
+    QuestionGroup{askOtherContest, "Compare With Another File"},
 };
 
 constexpr const char* kPurpose =
@@ -33,10 +34,6 @@ constexpr const char* kPurpose =
 constexpr const char* kExitStatus =
     "Exit status: 0 done; 1 the contest cannot be read, or lacks what the report needs, or the\n"
     "report cannot be written; 2 wrong usage.";
-
-std::string inQuotes(std::string_view text) {
-  return "'" + std::string(text) + "'";
-}
 
 bool sameWord(const std::string& a, std::string_view b) {
   return CLI::detail::to_lower(a) == CLI::detail::to_lower(std::string(b));
@@ -81,7 +78,7 @@ void declare(CLI::App& app, CliOptions& o, Words& words) {
 
   const CLI::Validator fromOne =
       CLI::Range(1, std::numeric_limits<std::int32_t>::max()).description("");
-  const auto [sheets, round, custom] = kGroups;
+  const auto [sheets, round, custom, comparison] = kGroups;
   app.add_option("--class", words.classNumber, "class number, from 1")
       ->check(fromOne)
       ->group(sheets.heading);
@@ -105,23 +102,10 @@ void declare(CLI::App& app, CliOptions& o, Words& words) {
   };
   addFlag("--percent", o.request.percent, "the number is a percentage");
   addFlag("--team", o.request.team, "teams instead of individuals");
+  app.add_option("--with", o.other, "the contest file to compare with")
+      ->type_name("FILE")
+      ->group(comparison.heading);
   app.footer(kExitStatus);
-}
-
-std::string suggested(std::string_view typed, const std::vector<std::string>& names,
-                      const char* otherwise) {
-  const std::string nearest = nearestName(typed, names);
-  return nearest.empty() ? otherwise : "; did you mean " + nearest + "?";
-}
-
-Refusal refuseUnknown(const CLI::App& app) {
-  const std::vector<std::string> unknown = app.remaining();
-  std::vector<std::string> names;
-  for (const CLI::Option* option : app.get_options()) {
-    if (!option->get_lnames().empty()) names.push_back(option->get_name());
-  }
-  const std::string typed = unknown.empty() ? "" : unknown[0].substr(0, unknown[0].find('='));
-  return "there is no option " + inQuotes(typed) + suggested(typed, names, "");
 }
 
 Refusal findReport(const std::string& word, CliOptions& options) {
@@ -129,8 +113,8 @@ Refusal findReport(const std::string& word, CliOptions& options) {
   std::vector<std::string> captions;
   for (const Command& command : commandTable()) {
     if (command.report() == nullptr) continue;
-    captions.push_back(inQuotes(command.caption));
-    if (id ? command.id != *id : !sameWord(word, command.caption)) continue;
+    captions.push_back(inQuotes(command.name()));
+    if (id ? command.id != *id : !sameWord(word, command.name())) continue;
     options.commands.push_back(&command);
     return std::nullopt;
   }
@@ -150,11 +134,12 @@ Refusal checkUse(const CLI::App& app, const CliOptions& options) {
     }
   }
   for (const Command* command : options.commands) {
-    const std::string needs = inQuotes(command->caption) + " needs ";
+    const std::string needs = inQuotes(command->name()) + " needs ";
     if (command->report()->ask == askReasonsClass && !options.request.classIndex) {
       return needs + "--class";
     }
     if (command->report()->ask == askRound && !options.request.round) return needs + "--round";
+    if (command->report()->ask == askOtherContest && !options.other) return needs + "--with";
   }
   return std::nullopt;
 }
@@ -182,30 +167,14 @@ Refusal checkWords(const CLI::App& app, const Words& words, CliOptions& options)
   return checkUse(app, options);
 }
 
-// The arguments with "--title=" in two: the library would take the next argument for its value.
-std::vector<std::string> separated(std::span<const std::string_view> arguments) {
-  std::vector<std::string> separate;
-  bool onlyWords = false;
-  for (const std::string_view argument : arguments) {
-    onlyWords = onlyWords || argument == "--";
-    const bool isEmptyValue =
-        !onlyWords && argument.starts_with("--") && argument.find('=') == argument.size() - 1;
-    separate.emplace_back(argument.substr(0, argument.size() - (isEmptyValue ? 1 : 0)));
-    if (isEmptyValue) separate.emplace_back();
-  }
-  return separate;
-}
-
 }  // namespace
 
 Refusal readOptions(std::span<const std::string_view> arguments, CliOptions& options) {
-  CLI::App app(kPurpose, "scorvane-report");
+  CLI::App app(kPurpose, kReportProgram);
   Words words;
   declare(app, options, words);
-  std::vector<std::string> reversed = separated(arguments);
-  std::reverse(reversed.begin(), reversed.end());
   try {
-    app.parse(reversed);
+    app.parse(libraryArguments(arguments));
   } catch (const CLI::CallForHelp&) {
     options.action = Action::help;
     return std::nullopt;
@@ -221,7 +190,7 @@ Refusal readOptions(std::span<const std::string_view> arguments, CliOptions& opt
 }
 
 std::string usageText() {
-  CLI::App app(kPurpose, "scorvane-report");
+  CLI::App app(kPurpose, kReportProgram);
   CliOptions options;
   Words words;
   declare(app, options, words);

@@ -5,8 +5,7 @@
 #include <utility>
 #include <variant>
 
-#include "cli/system.h"
-#include "storage/contest_reader.h"
+#include "cli/contest_input.h"
 #include "storage/safe_save.h"
 #include "text/characters.h"
 
@@ -17,29 +16,7 @@ namespace {
 using Action = CliOptions::Action;
 
 CliResult failed(const std::string& reason) {
-  return {kFailed, "", "scorvane-report: " + reason + "\n"};
-}
-
-const char* reasonOf(ContestFault fault) {
-  switch (fault) {
-    case ContestFault::unreadable:
-      return "it does not exist or cannot be opened";
-    case ContestFault::scoreCountMismatch:
-      return "the number of scores in the file is not correct";
-    case ContestFault::notAContest:
-      break;
-  }
-  return "it is not a contest file, or is damaged";
-}
-
-// The contest, or why there is none.
-std::variant<Contest, std::string> openContest(const std::string& path, FileSystem& files) {
-  if (const auto file = files.openToRead(path)) {
-    expectMemory(3 * static_cast<std::size_t>(file->size()));  // the bytes, and the contest of them
-  }
-  auto loading = loadContestFile(files, path);
-  if (auto* loaded = std::get_if<LoadedContest>(&loading)) return std::move(loaded->contest);
-  return "cannot read '" + contestText(path) + "': " + reasonOf(std::get<ContestFault>(loading));
+  return {kFailed, "", std::string(kReportProgram) + ": " + reason + "\n"};
 }
 
 // Why the contest cannot follow the options: it lacks the class, round or category asked for.
@@ -98,9 +75,16 @@ ReportRequest requestOf(const Contest& contest, const CliOptions& options) {
   return request;
 }
 
-CliResult printReports(const Contest& contest, const CliOptions& options) {
+CliResult printReports(const Contest& contest, const CliOptions& options, FileSystem& files) {
   if (const auto missing = missingPart(contest, options)) return failed(*missing);
-  const ReportRequest request = requestOf(contest, options);
+  ReportRequest request = requestOf(contest, options);
+  if (options.other) {
+    auto opened = openContest(*options.other, files);
+    if (const auto* refusal = std::get_if<std::string>(&opened)) return failed(*refusal);
+    request.other =
+        std::make_shared<const Contest>(std::move(std::get<LoadedContest>(opened).contest));
+    request.otherName = options.other->substr(options.other->find_last_of("/\\") + 1);
+  }
   CliResult result;
   for (const Command* command : options.commands) {
     // Whatever a report needs has been looked for by now.
@@ -110,7 +94,7 @@ CliResult printReports(const Contest& contest, const CliOptions& options) {
 }
 
 std::string fileNameOf(const Command& command) {
-  std::string name(command.caption);
+  std::string name(command.name());
   std::replace(name.begin(), name.end(), '/', '-');
   return name + ".txt";
 }
@@ -134,7 +118,7 @@ std::string reportList() {
   std::string list;
   for (const Command& command : commandTable()) {
     if (command.report() == nullptr) continue;
-    list += std::to_string(command.id) + "\t" + std::string(command.caption) + "\n";
+    list += std::to_string(command.id) + "\t" + std::string(command.name()) + "\n";
   }
   return list;
 }
@@ -155,14 +139,9 @@ CliResult runCli(const CliOptions& options, FileSystem& files) {
   }
   const auto opened = openContest(options.contest, files);
   if (const auto* refusal = std::get_if<std::string>(&opened)) return failed(*refusal);
-  const auto& contest = std::get<Contest>(opened);
+  const Contest& contest = std::get<LoadedContest>(opened).contest;
   return options.action == Action::allReports ? writeAllReports(contest, options.folder, files)
-                                              : printReports(contest, options);
-}
-
-CliResult refuseUsage(const std::string& reason) {
-  return {kWrongUsage, "",
-          "scorvane-report: " + reason + "\nscorvane-report --help explains everything.\n"};
+                                              : printReports(contest, options, files);
 }
 
 }  // namespace scorvane

@@ -1,28 +1,14 @@
 // Does what scorvane-report is asked.
 #pragma once
 
-#include <string>
-
 #include "cli/options.h"
+#include "cli/program.h"
 #include "storage/file.h"
 
 namespace scorvane {
 
-/// What the program leaves behind: both texts are to be printed, then it ends with the status.
-struct CliResult {
-  int status = 0;
-  std::string output;
-  std::string error;
-};
-
-inline constexpr int kFailed = 1;
-inline constexpr int kWrongUsage = 2;
-
 /// Follows the options; contest files are read from, and --all writes to, `files`. The folder of
 /// --all must exist.
 [[nodiscard]] CliResult runCli(const CliOptions& options, FileSystem& files);
-
-/// What a command line that cannot be followed comes to.
-[[nodiscard]] CliResult refuseUsage(const std::string& reason);
 
 }  // namespace scorvane

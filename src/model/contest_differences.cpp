@@ -295,6 +295,16 @@ CardPosition cardPosition(const Contest& contest, ScoreValue value, ContestantNu
   return {place.isAssigned() ? place.group : last, place.position, number};
 }
 
+void sortAsCardsLie(const Contest& contest, std::vector<ContestantScore>& scores) {
+  const auto position = [&](const ContestantScore& score) {
+    return std::tuple(score.classIndex, score.value,
+                      cardPosition(contest, score.value, score.number));
+  };
+  std::sort(scores.begin(), scores.end(), [&](const ContestantScore& a, const ContestantScore& b) {
+    return position(a) < position(b);
+  });
+}
+
 bool isEntered(ScoreValue value, const ScoreRecord& record) {
   return valueOf(value, record) != (value == ScoreValue::letter ? kNoLetter : 0);
 }

@@ -76,6 +76,17 @@ struct ScoreCounts {
   Sides<std::int64_t> onlyOn;
 };
 
+/// One score of one contest, and what two sides have for it.
+struct ContestantScore {
+  std::int32_t classIndex = 0;
+  ScoreValue value = ScoreValue::letter;
+  ContestantNumber number = 0;
+  Sides<ScoreRecord> records;
+};
+
+/// Sorts scores of a contest in the order in which its cards lie.
+void sortAsCardsLie(const Contest& contest, std::vector<ContestantScore>& scores);
+
 /// Where a card lies in its pile: by group, for reasons scores by reasons group and position; then
 /// by number.
 struct CardPosition {

@@ -10,14 +10,6 @@
 
 namespace scorvane {
 
-/// A score that both sides changed differently; here is ours, which stays.
-struct DifferingScore {
-  std::int32_t classIndex = 0;  ///< number and class as in the merged contest
-  ScoreValue value = ScoreValue::letter;
-  ContestantNumber number = 0;
-  Sides<ScoreRecord> records;
-};
-
 /// What one side removed and the other changed or scored, so that it stays.
 struct LostRemoval {
   DifferenceKind kind = DifferenceKind::contestant;
@@ -34,8 +26,8 @@ struct NumberChange {
 
 struct Merge {
   Contest contest;
-  std::vector<Difference> values;      ///< that both sides changed differently; here is ours
-  std::vector<DifferingScore> scores;  ///< in the order in which cards lie
+  std::vector<Difference> values;       ///< that both sides changed differently; here is ours
+  std::vector<ContestantScore> scores;  ///< likewise, in the order in which cards lie
   std::vector<LostRemoval> lostRemovals;
   std::vector<NumberChange> numbers;  ///< by old number
 

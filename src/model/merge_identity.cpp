@@ -40,8 +40,10 @@ class RosterMatcher {
   SameRoster run() {
     addUnmatched(kBase);
     match(kBase, kOurs);
-    addUnmatched(kOurs);
     match(kBase, kTheirs);
+    matchRenumbered(kOurs, kTheirs);
+    matchRenumbered(kTheirs, kOurs);
+    addUnmatched(kOurs);
     match(kOurs, kTheirs);
     addUnmatched(kTheirs);
     for (const Side side : kSides) {
@@ -109,6 +111,24 @@ class RosterMatcher {
     if (from != kBase) matchStrays(from, to);
   }
 
+  // Whoever has another name and another number than in the ancestor can still be known by what the
+  // other side calls the member.
+  void matchRenumbered(Side known, Side side) {
+    for (const auto& [name, id] : same_.teamOf[side]) {
+      if (!same_.teams[id][known]) continue;
+      const std::vector<Member> there = membersOf(known, *same_.teams[id][known]);
+      for (const Member& member : membersOf(side, name)) {
+        for (const Member& other : there) {
+          if (!isFree(side, member.position)) break;
+          const std::size_t person = personAt_[known][other.position];
+          if (person == kUnknown || same_.people[person][side] || member.name.empty()) continue;
+          if (member.name == other.name)
+            link(known, other.position, side, member.position, member.number);
+        }
+      }
+    }
+  }
+
   // Somebody whom a full team had no room for has no team since; such people are known by name.
   void matchStrays(Side from, Side to) {
     std::map<std::string_view, std::vector<std::size_t>> added;
@@ -163,6 +183,11 @@ class RosterMatcher {
   void matchTeams(Side from, Side to) {
     const auto byName = [](Side, const std::string& name) { return name; };
     matchTeamsBy(from, to, byName, true);
+    if (from == kBase) matchRenamedTeams(from, to);
+    matchTeamsBy(from, to, byName, false);
+  }
+
+  void matchRenamedTeams(Side from, Side to) {
     for (const auto& entry : contests_[to]->teams) {
       if (!same_.teamOf[to].contains(entry.first)) matchRenamed(from, to, entry.first);
     }
@@ -187,7 +212,6 @@ class RosterMatcher {
           return key;
         },
         false);
-    matchTeamsBy(from, to, byName, false);
   }
 
   // Of the same key, which is not empty.
@@ -265,7 +289,8 @@ class RosterMatcher {
       return a.number == b.number && isPlausible && (a.name == b.name || isOnePlace(a, b));
     });
     if (moved > 0) {
-      matchBy([](const Member& a, const Member& b) { return a.slot == b.slot; });
+      matchBy(
+          [&](const Member& a, const Member& b) { return a.slot == b.slot && isOnePlace(a, b); });
     }
     if (isNew) {
       matchBy([](const Member& a, const Member& b) { return a.name.empty() != b.name.empty(); });

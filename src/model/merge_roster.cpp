@@ -1,10 +1,7 @@
-#include <limits>
 #include <set>
-#include <tuple>
 
+#include "model/merge_numbers.h"
 #include "model/merge_values.h"
-#include "model/numbering.h"
-#include "model/roster.h"
 
 namespace scorvane {
 
@@ -20,12 +17,13 @@ struct Slot {
 class RosterMerge {
  public:
   explicit RosterMerge(MergeState& state)
-      : state_(state), roster_(state.roster), contest_(state.merge.contest) {}
+      : state_(state), roster_(state.roster), contest_(state.merge.contest), numbers_(state) {}
 
   void run() {
     decideWhoStays();
     decideTeams();
-    giveNumbers();
+    dropNobodies();
+    numbers_.give();
     mergeNames();
     mergeTeams();
   }
@@ -42,10 +40,6 @@ class RosterMerge {
       return std::nullopt;
     }
     return thing[kOurs] ? kOurs : kTheirs;
-  }
-
-  [[nodiscard]] const Team& teamOn(Side side, std::size_t team) const {
-    return in(side).teams.at(*roster_.teams[team][side]);
   }
 
   void decideWhoStays() {
@@ -68,7 +62,7 @@ class RosterMerge {
       staysTeam_[team] = isTeamChanged(*keeper, team);
       if (!staysTeam_[team]) continue;
       addLost(DifferenceKind::team, "team " + *names[*keeper], *keeper);
-      for (const Person person : membersOn(*keeper, team)) {
+      for (const Person person : state_.membersOn(*keeper, team)) {
         isListed_.insert(person);
         state_.staysPerson[person] = true;
       }
@@ -77,6 +71,24 @@ class RosterMerge {
       const auto keeper = keeperOf(roster_.people[person]);
       if (!keeper || !state_.staysPerson[person] || isListed_.contains(person)) continue;
       addLost(DifferenceKind::contestant, subjectOf(*keeper, person), *keeper);
+    }
+  }
+
+  // New numbers that are merely reserved, by no team and without scores, give way to people.
+  void dropNobodies() {
+    for (Person person = 0; person < roster_.people.size(); ++person) {
+      const Three<ContestantNumber>& numbers = roster_.people[person];
+      if (numbers[kBase] || (numbers[kOurs] && numbers[kTheirs])) continue;
+      const Side side = numbers[kOurs] ? kOurs : kTheirs;
+      const Person* other = roster_.personOf[otherSide(side)].find(*numbers[side]);
+      if (other == nullptr || !state_.staysPerson[*other]) continue;
+      if (!state_.nameOn(side, person).empty() || state_.isChanged(side, person)) continue;
+      const auto& teams = in(side).teams;
+      const bool hasTeam = std::any_of(teams.begin(), teams.end(), [&](const auto& team) {
+        const auto& members = team.second.members;
+        return std::find(members.begin(), members.end(), *numbers[side]) != members.end();
+      });
+      if (!hasTeam) state_.staysPerson[person] = false;
     }
   }
 
@@ -89,18 +101,9 @@ class RosterMerge {
     return std::to_string(*roster_.people[person][side]) + (name.empty() ? "" : ' ' + name);
   }
 
-  [[nodiscard]] std::vector<Person> membersOn(Side side, std::size_t team) const {
-    std::vector<Person> members;
-    for (const ContestantNumber number : teamOn(side, team).members) {
-      const Person* person = roster_.personOf[side].find(number);
-      if (person != nullptr) members.push_back(*person);
-    }
-    return members;
-  }
-
   [[nodiscard]] bool isTeamChanged(Side side, std::size_t team) const {
-    const Team& now = teamOn(side, team);
-    const Team& before = teamOn(kBase, team);
+    const Team& now = state_.teamOn(side, team);
+    const Team& before = state_.teamOn(kBase, team);
     if (*roster_.teams[team][side] != *roster_.teams[team][kBase] || now.coach != before.coach ||
         now.members.size() != before.members.size()) {
       return true;
@@ -108,7 +111,7 @@ class RosterMerge {
     for (std::size_t slot = 0; slot < now.members.size(); ++slot) {
       if (slotOn(side, team, slot) != slotOn(kBase, team, slot)) return true;
     }
-    const std::vector<Person> members = membersOn(side, team);
+    const std::vector<Person> members = state_.membersOn(side, team);
     return std::any_of(members.begin(), members.end(), [&](Person person) {
       return keeperOf(roster_.people[person]) == side && state_.staysPerson[person];
     });
@@ -116,137 +119,16 @@ class RosterMerge {
 
   // A number whose person was removed still means that person, unless it was put there anew.
   [[nodiscard]] Slot slotOn(Side side, std::size_t team, std::size_t slot) const {
-    const ContestantNumber number = teamOn(side, team).members[slot];
+    const ContestantNumber number = state_.teamOn(side, team).members[slot];
     const Person* person = roster_.personOf[side].find(number);
     const Person* before = roster_.personOf[kBase].find(number);
     if (before != nullptr && !roster_.people[*before][side]) {
       const bool wasThere = roster_.teams[team][kBase] &&
-                            slot < teamOn(kBase, team).members.size() &&
-                            teamOn(kBase, team).members[slot] == number;
+                            slot < state_.teamOn(kBase, team).members.size() &&
+                            state_.teamOn(kBase, team).members[slot] == number;
       if (person == nullptr || wasThere) person = before;
     }
     return person == nullptr ? Slot{false, number} : Slot{true, static_cast<std::int64_t>(*person)};
-  }
-
-  void giveNumbers() {
-    state_.numberOf.assign(roster_.people.size(), 0);
-    if (!giveOurNumbers(true)) giveOurNumbers(false);
-    const auto isOnlyTheirs = [this](Person person) {
-      return state_.staysPerson[person] && !roster_.people[person][kOurs];
-    };
-    std::vector<bool> moves(roster_.people.size());
-    bool clashes = false;
-    for (Person person = 0; person < roster_.people.size(); ++person) {
-      if (!isOnlyTheirs(person)) continue;
-      state_.numberOf[person] = *roster_.people[person][kTheirs];
-      moves[person] = used_.contains(state_.numberOf[person]);
-      if (moves[person] && isNobody(person)) state_.staysPerson[person] = moves[person] = false;
-      clashes = clashes || moves[person];
-    }
-    std::vector<Person> order;
-    if (clashes) order = moveWholeTeams(moves, isOnlyTheirs);
-    for (Person person = 0; person < roster_.people.size(); ++person) {
-      if (isOnlyTheirs(person) && !moves[person]) used_.insert(state_.numberOf[person]);
-    }
-    for (const Person person : order) state_.numberOf[person] = nextFree();
-    listNumberChanges();
-  }
-
-  // Those on our side keep their numbers, or take the ones that they were given on the other side
-  // if that is possible for all of them. Returns whether no number was taken twice.
-  bool giveOurNumbers(bool takesChanges) {
-    used_.clear();
-    bool isFine = true;
-    for (Person person = 0; person < roster_.people.size(); ++person) {
-      const auto& [base, ours, theirs] = roster_.people[person];
-      if (!state_.staysPerson[person] || !ours) continue;
-      const bool takes = takesChanges && base && ours == base && theirs;
-      state_.numberOf[person] = takes ? *theirs : *ours;
-      isFine = used_.insert(state_.numberOf[person]).second && isFine;
-    }
-    return isFine;
-  }
-
-  // A reserved number of no team, and without scores.
-  [[nodiscard]] bool isNobody(Person person) const {
-    const auto& teams = in(kTheirs).teams;
-    const ContestantNumber number = *roster_.people[person][kTheirs];
-    return state_.nameOn(kTheirs, person).empty() && !state_.isChanged(kTheirs, person) &&
-           std::none_of(teams.begin(), teams.end(), [&](const auto& team) {
-             const auto& members = team.second.members;
-             return std::find(members.begin(), members.end(), number) != members.end();
-           });
-  }
-
-  // Everybody who needs another number, team by team in the order of their slots.
-  template <typename Predicate>
-  std::vector<Person> moveWholeTeams(std::vector<bool>& moves, Predicate isOnlyTheirs) const {
-    std::vector<Person> order;
-    std::vector<bool> isOrdered(moves.size());
-    const auto add = [&](Person person) {
-      if (!isOrdered[person]) order.push_back(person);
-      isOrdered[person] = true;
-    };
-    for (const auto& [name, team] : roster_.teamOf[kTheirs]) {
-      const std::vector<Person> members = membersOn(kTheirs, team);
-      const auto isMoving = [&](Person person) { return moves[person]; };
-      if (std::none_of(members.begin(), members.end(), isMoving)) continue;
-      for (const Person person : members) {
-        if (isOnlyTheirs(person)) add(person);
-      }
-    }
-    for (Person person = 0; person < moves.size(); ++person) {
-      if (moves[person]) add(person);
-    }
-    moves = isOrdered;
-    return order;
-  }
-
-  // As in Setup Teams: after the largest number there is.
-  ContestantNumber nextFree() {
-    if (dangling_.empty()) {
-      dangling_.insert(0);
-      for (const Side side : {kOurs, kTheirs}) {
-        for (const auto& entry : in(side).teams) {
-          dangling_.insert(entry.second.members.begin(), entry.second.members.end());
-        }
-      }
-    }
-    std::int64_t next = used_.empty() ? 0 : std::max(*used_.rbegin(), 0);
-    if (used_.empty()) next = std::int64_t{contest_.settings.startNum} - 1;
-    do {
-      next = next == std::numeric_limits<ContestantNumber>::max()
-                 ? std::numeric_limits<ContestantNumber>::min()
-                 : next + 1;
-    } while (used_.contains(static_cast<ContestantNumber>(next)) ||
-             dangling_.contains(static_cast<ContestantNumber>(next)));
-    used_.insert(static_cast<ContestantNumber>(next));
-    return static_cast<ContestantNumber>(next);
-  }
-
-  void listNumberChanges() {
-    for (Person person = 0; person < roster_.people.size(); ++person) {
-      if (!state_.staysPerson[person]) continue;
-      const ContestantNumber now = state_.numberOf[person];
-      const auto& [base, ours, theirs] = roster_.people[person];
-      const bool isKnownThere = base && base == theirs && ours;
-      const auto add = [&](Side side) {
-        const ContestantNumber number = *roster_.people[person][side];
-        const auto team = std::find_if(
-            roster_.teamOf[side].begin(), roster_.teamOf[side].end(), [&](const auto& entry) {
-              const auto& members = teamOn(side, entry.second).members;
-              return std::find(members.begin(), members.end(), number) != members.end();
-            });
-        state_.merge.numbers.push_back(
-            {number, now, team == roster_.teamOf[side].end() ? "" : team->first});
-      };
-      if (ours && *ours != now) add(kOurs);
-      if (theirs && *theirs != now && !isKnownThere) add(kTheirs);
-    }
-    std::sort(state_.merge.numbers.begin(), state_.merge.numbers.end(),
-              [](const NumberChange& a, const NumberChange& b) {
-                return std::tie(a.from, a.to) < std::tie(b.from, b.to);
-              });
   }
 
   void mergeNames() {
@@ -329,17 +211,21 @@ class RosterMerge {
     const Three<std::string>& names = roster_.teams[id];
     const Side first = names[kOurs] ? kOurs : kTheirs;
     Team& team = contest_.teams[name];
-    team.coach = teamOn(first, id).coach;
+    team.coach = state_.teamOn(first, id).coach;
     std::vector<Slot>& slots = slotsOf_[name];
-    for (std::size_t slot = 0; slot < teamOn(first, id).members.size(); ++slot) {
+    for (std::size_t slot = 0; slot < state_.teamOn(first, id).members.size(); ++slot) {
       slots.push_back(slotOn(first, id, slot));
     }
     if (names[kOurs] && names[kTheirs]) mergeTeam(name, id, team, slots);
     slots.resize(std::min(slots.size(), teamSlots(contest_.settings)));
     // A removed team that stays leaves to other teams whom they have taken over.
     if (keeperOf(names)) {
-      std::erase_if(
-          slots, [&](const Slot& slot) { return slot.isPerson && hasTeam_.contains(slot.value); });
+      std::erase_if(slots, [this](const Slot& slot) {
+        if (!slot.isPerson) return false;
+        const bool isGone = !state_.staysPerson[static_cast<Person>(slot.value)];
+        return isGone ? contest_.contestantNames.contains(numberIn(slot))
+                      : hasTeam_.contains(slot.value);
+      });
     }
     for (const Slot& slot : slots) {
       if (slot.isPerson) hasTeam_.insert(slot.value);
@@ -349,18 +235,18 @@ class RosterMerge {
   void mergeTeam(const std::string& name, std::size_t id, Team& team, std::vector<Slot>& slots) {
     const bool isKnown = roster_.teams[id][kBase].has_value();
     const std::string none;
-    const std::string& before = isKnown ? teamOn(kBase, id).coach : none;
-    const std::string theirCoach = teamOn(kTheirs, id).coach;
+    const std::string& before = isKnown ? state_.teamOn(kBase, id).coach : none;
+    const std::string theirCoach = state_.teamOn(kTheirs, id).coach;
     team.coach = mergedValue(&before, std::string(team.coach), theirCoach,
                              [&] { listTeam(name, "coach", team.coach, theirCoach); });
-    for (std::size_t slot = 0; slot < teamOn(kTheirs, id).members.size(); ++slot) {
+    for (std::size_t slot = 0; slot < state_.teamOn(kTheirs, id).members.size(); ++slot) {
       const Slot theirs = slotOn(kTheirs, id, slot);
       if (slot >= slots.size()) {
         if (std::find(slots.begin(), slots.end(), theirs) == slots.end()) slots.push_back(theirs);
         continue;
       }
       if (!isKnown) continue;
-      const bool wasThere = slot < teamOn(kBase, id).members.size();
+      const bool wasThere = slot < state_.teamOn(kBase, id).members.size();
       const Slot base = wasThere ? slotOn(kBase, id, slot) : Slot{};
       slots[slot] = mergedValue(wasThere ? &base : nullptr, Slot(slots[slot]), theirs, [&] {
         listTeam(name, "member " + std::to_string(slot + 1), slotText(slots[slot]),
@@ -386,7 +272,7 @@ class RosterMerge {
     for (auto& [name, team] : contest_.teams) {
       for (const Slot& slot : slotsOf_[name]) team.members.push_back(numberIn(slot));
       while (team.members.size() < teamSlots(contest_.settings)) {
-        team.members.push_back(nextFree());
+        team.members.push_back(numbers_.nextFree());
         contest_.contestantNames[team.members.back()] = "";
       }
     }
@@ -395,10 +281,9 @@ class RosterMerge {
   MergeState& state_;
   const SameRoster& roster_;
   Contest& contest_;
+  MergedNumbers numbers_;
   std::vector<bool> staysTeam_;
   std::set<Person> isListed_;
-  std::set<ContestantNumber> used_;
-  std::set<ContestantNumber> dangling_;
   std::set<std::int64_t> hasTeam_;
   std::map<std::string, std::vector<Slot>> slotsOf_;
 };

@@ -10,9 +10,6 @@
 
 namespace scorvane {
 
-inline constexpr ScoreValue kTypedScores[] = {ScoreValue::letter, ScoreValue::reasons,
-                                              ScoreValue::questions};
-
 constexpr Side otherSide(Side side) {
   return side == kOurs ? kTheirs : kOurs;
 }
@@ -57,6 +54,9 @@ struct MergeState {
   [[nodiscard]] bool isScored(Side side, std::size_t person, std::size_t judgedClass) const;
   /// Whether a side named the person otherwise, or scored one of the side's classes.
   [[nodiscard]] bool isChanged(Side side, std::size_t person) const;
+  [[nodiscard]] const Team& teamOn(Side side, std::size_t team) const;
+  /// The people in a team's slots.
+  [[nodiscard]] std::vector<std::size_t> membersOn(Side side, std::size_t team) const;
   [[nodiscard]] const std::string& nameOn(Side side, std::size_t person) const;
 };
 

@@ -45,7 +45,8 @@ CliResult run(std::string_view line, FileSystem& files) {
     line.remove_prefix(bar == std::string_view::npos ? 0 : bar + 1);
   }
   CliOptions options;
-  if (const auto refusal = readOptions(words, options)) return refuseUsage(*refusal);
+  if (const auto refusal = readOptions(words, options))
+    return refuseUsage(kReportProgram, *refusal);
   return runCli(options, files);
 }
 

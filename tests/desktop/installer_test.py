@@ -68,7 +68,7 @@ class InstallerTest(DesktopTest):
         self.assertIn(rf'    (Default)    REG_SZ    "C:\{programs}\scorvane.exe" "%1"', self.registered())
         installed = {str(file.relative_to(self.programs)) for file in self.programs.iterdir()}
         self.assertEqual(installed, {
-            "scorvane.exe", "scorvane-report.exe", "ScorvaneUsersManual.htm", "LICENSE.txt",
+            "scorvane.exe", "scorvane-report.exe", "scorvane-contest.exe", "LICENSE.txt", "ScorvaneUsersManual.htm",
             "ScorvaneUsersManual_files", "Uninstall.exe"})
         self.assertLess((self.programs / "scorvane.exe").stat().st_size, 2_000_000)
         self.assertEqual({link.name for link in self.menu.iterdir()},

@@ -108,7 +108,8 @@ class Editor {
     if (kind == 2) classes.officialLetter[k] = static_cast<char>('A' + number(24));
     if (kind == 3) classes.cut2[k] = number(5);
     if (kind == 4) classes.reasonsFlag[k] = below_(2) == 0;
-    if (kind == 5) classes.categoryIndex[k] = number(static_cast<std::uint32_t>(c_.categories.size()));
+    if (kind == 5)
+      classes.categoryIndex[k] = number(static_cast<std::uint32_t>(c_.categories.size()));
     if (kind == 6 && !hasScores(c_)) classes.remove(static_cast<std::int32_t>(k));
     if (kind == 7 && below_(6) == 0) {
       classes.clear();
@@ -120,7 +121,8 @@ class Editor {
     const std::string team = name("Team", 9);
     if (c_.teams.contains(team)) return;
     std::vector<ContestantNumber> members;
-    for (std::uint32_t i = below_(static_cast<std::uint32_t>(teamSlots(c_.settings)) + 1); i > 0; --i) {
+    for (std::uint32_t i = below_(static_cast<std::uint32_t>(teamSlots(c_.settings)) + 1); i > 0;
+         --i) {
       updateNextContestant(c_);
       members.push_back(c_.settings.nextContestantNum);
       addContestant(c_, members.back(), name("Person", 2000));
@@ -171,8 +173,7 @@ class Editor {
   void score() {
     const ContestantNumber scored = someone();
     if (contestantName(c_, scored).empty() || c_.classes.count() == 0) return;
-    ScoreRecord& record =
-        c_.scores[scored][number(static_cast<std::uint32_t>(c_.classes.count()))];
+    ScoreRecord& record = c_.scores[scored][number(static_cast<std::uint32_t>(c_.classes.count()))];
     const std::uint32_t kind = below_(4);
     if (kind < 2) record.letter = "ABCDEFGHIJKLMNOPQRSTUVWXZ "[below_(26)];
     if (kind == 2) record.reasonsScore = number(51);
@@ -222,7 +223,7 @@ bool hasEveryScoreOf(const Contest& base, const Contest& side, const Merge& merg
             return valueOf(scoreRecord(merge.contest, n, place), value) == typed;
           });
         };
-        const auto isListed = [&](const DifferingScore& score) {
+        const auto isListed = [&](const ContestantScore& score) {
           return score.value == value && valueOf(score.records.*own, value) == typed &&
                  std::find(numbers.begin(), numbers.end(), score.number) != numbers.end();
         };
@@ -236,7 +237,8 @@ bool hasEveryScoreOf(const Contest& base, const Contest& side, const Merge& merg
   return true;
 }
 
-// Renamed classes and categories are known by their position only while there are as many.
+// Renamed classes and categories are known by their position only while there are as many; a team
+// that was renamed, by people who may have been renamed too.
 bool isKnownByName(const Contest& base, const Contest& side, const Contest& merged) {
   const auto isKnown = [](const std::vector<std::string>& before,
                           const std::vector<std::string>& now,
@@ -249,6 +251,11 @@ bool isKnownByName(const Contest& base, const Contest& side, const Contest& merg
                  now[static_cast<std::size_t>(*match.there)];
     });
   };
+  const auto hasAll = [](const Contest& in, const Contest& of) {
+    return std::all_of(of.teams.begin(), of.teams.end(),
+                       [&](const auto& team) { return in.teams.contains(team.first); });
+  };
+  if (!hasAll(merged, base) && !hasAll(base, merged)) return false;
   return isKnown(base.classes.className, side.classes.className, merged.classes.className) &&
          isKnown(base.categories, side.categories, merged.categories);
 }
@@ -265,10 +272,13 @@ Contest savedAndLoaded(Contest contest) {
 }
 
 std::string brokenMergeLaw(const Contest& base, const Contest& ours, const Contest& theirs) {
+  const auto isSettled = [](const Merge& m) {
+    return m.values.empty() && m.scores.empty() && m.lostRemovals.empty();
+  };
   const Merge here = mergeContests(base, base, theirs);
-  if (!here.isSmooth() || here.contest != theirs) return "what only they changed is theirs";
+  if (!isSettled(here) || here.contest != theirs) return "what only they changed is theirs";
   const Merge there = mergeContests(base, ours, base);
-  if (!there.isSmooth() || there.contest != ours) return "what only we changed is ours";
+  if (!isSettled(there) || there.contest != ours) return "what only we changed is ours";
   const Merge merge = mergeContests(base, ours, theirs);
   const Merge back = mergeContests(base, theirs, ours);
   const auto isClear = [](const Merge& m) {
@@ -276,10 +286,11 @@ std::string brokenMergeLaw(const Contest& base, const Contest& ours, const Conte
   };
   if (isClear(merge) != isClear(back)) return "both sides find the same to differ";
   if (isClear(merge) && merge.contest != back.contest) return "both sides merge alike";
-  const bool areClassesKnown = isKnownByName(base, ours, merge.contest) &&
-                               isKnownByName(base, theirs, merge.contest);
-  if (areClassesKnown &&
-      mergeContests(base, merge.contest, theirs).contest != merge.contest) {
+  // An older ancestor than what was read last knows less of new numbers and of what stayed.
+  const bool isAllKnown = merge.numbers.empty() && merge.lostRemovals.empty() &&
+                          isKnownByName(base, ours, merge.contest) &&
+                          isKnownByName(base, theirs, merge.contest);
+  if (isAllKnown && mergeContests(base, merge.contest, theirs).contest != merge.contest) {
     return "merging twice changes nothing";
   }
   if (mergeContests(theirs, merge.contest, theirs).contest != merge.contest) {
