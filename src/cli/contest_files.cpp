@@ -3,7 +3,9 @@
 #include <utility>
 
 #include "cli/contest_input.h"
+#include "cli/system.h"
 #include "model/new_contest.h"
+#include "session/save_lock.h"
 #include "storage/contest_writer.h"
 #include "storage/safe_save.h"
 
@@ -33,12 +35,12 @@ std::variant<ContestInFile, std::string> ContestInFile::open(FileSystem& files,
 std::optional<std::string> ContestInFile::save(FileSystem& files,
                                                const std::optional<std::string>& into) const {
   const std::string& path = into ? *into : path_;
-  const auto lock = files.lockForSaving(path);
+  const SaveLock lock(files, path);
   if (!into && files.readWhole(path) != bytes_) {
-    return "another program has changed '" + path + "' meanwhile";
+    return "another program has changed '" + contestText(path) + "' meanwhile";
   }
   if (saveSafely(files, path, writeContest(contest))) return std::nullopt;
-  return "cannot write '" + path + "'";
+  return "cannot write '" + contestText(path) + "'";
 }
 
 }  // namespace scorvane

@@ -25,7 +25,8 @@ CliResult finish(ContestInFile& ours, Contest merged, const std::string& report,
 
 CliResult runMerge(const MergeOptions& options, FileSystem& files) {
   const auto status = files.status(options.ours);
-  if (status && !status->exists) return nothingDone("cannot read '" + contestText(options.ours) + "'");
+  if (status && !status->exists)
+    return nothingDone("cannot read '" + contestText(options.ours) + "'");
   auto opening = ContestInFile::open(files, options.ours);
   if (const auto* refusal = std::get_if<std::string>(&opening)) return nothingDone(*refusal);
   auto& ours = std::get<ContestInFile>(opening);
