@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "cli/contest_input.h"
+#include "cli/system.h"
 #include "storage/safe_save.h"
 #include "text/characters.h"
 

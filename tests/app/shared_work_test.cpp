@@ -8,6 +8,7 @@
 #include "app/command_table.h"
 #include "app/file_menu.h"
 #include "reports/round_verification_ids.h"
+#include "reports/round_reports.h"
 #include "reports/verification_reports.h"
 #include "session/open_contest.h"
 #include "session/recovery.h"
@@ -52,7 +53,7 @@ struct SharedWork : testing::Test {
 TEST_F(SharedWork, CountsInReportsAndDialogs) {
   othersSave([](Contest& theirs) {
     theirs.settings.contestName = "Town Fair";
-    theirs.scores[103][0].letter = 'B';
+    theirs.scores[102][0].letter = 'B';
   });
   const std::string before = verifyScoresReport(currentContest());
   runCommand(kLetters, window);
@@ -65,7 +66,7 @@ TEST_F(SharedWork, CountsInReportsAndDialogs) {
     if (++dialogs == 1) {
       othersSave([](Contest& theirs) { theirs.classes.className[0] = "Pen Steers"; });
     } else {
-      othersType(103, 'D');
+      othersType(102, 'D');
     }
     dialog.choose(IDC_VERIFIED_ROUNDS, 0);
     dialog.click(kOkId);
@@ -73,15 +74,15 @@ TEST_F(SharedWork, CountsInReportsAndDialogs) {
   runCommand(kRoundVerification, window);
   EXPECT_EQ(dialogs, 2);
   EXPECT_EQ(reportText(), roundVerificationReport(currentContest(), 0));
-  EXPECT_EQ(scoreRecord(currentContest(), 103, 0).letter, 'D');
+  EXPECT_EQ(scoreRecord(currentContest(), 102, 0).letter, 'D');
 
   // When a dialog has closed without saving.
   window.operate = [&](MemoryDialog& dialog) {
-    othersType(103, 'E');
+    othersType(102, 'E');
     dialog.pressEscape();
   };
   runCommand(32791, window);
-  EXPECT_EQ(scoreRecord(currentContest(), 103, 0).letter, 'E');
+  EXPECT_EQ(scoreRecord(currentContest(), 102, 0).letter, 'E');
   EXPECT_TRUE(window.desktop.messages.empty());
 }
 

@@ -5,6 +5,7 @@ import random
 import shutil
 import threading
 import time
+import unittest
 
 from desktop_case import IDOK, IDYES, DesktopTest, wait_for, windows_path
 
@@ -33,10 +34,11 @@ def contest(classes, teams):
 class Typist(threading.Thread):
     """Types its groups of cards into a program of its own, which ends without warning now and then."""
 
-    def __init__(self, test, path, groups, seed):
+    def __init__(self, test, path, groups, cards, seed):
         super().__init__()
         self.test, self.path, self.groups, self.random = test, path, groups, random.Random(seed)
-        self.shown, self.pending, self.kills, self.boxes, self.fault = {}, {}, 0, [], None
+        self.shown, self.kills, self.typed, self.boxes, self.fault = {}, 0, 0, [], None
+        self.deaths = set(self.random.sample(range(1, cards), max(1, cards // 100)))
         self.app = test.start_program(path)
 
     def run(self):
@@ -82,19 +84,17 @@ class Typist(threading.Thread):
 
     def type_cards(self, dialog, judged):
         """Whether the group is done; not when the program was killed."""
-        dies_at = self.random.randrange(60)
         while number := dialog.text(NUMBER):
             letter = self.random.choice(LETTERS)
-            self.pending = {(number, judged): letter}
             dialog.set_text(LETTER, letter)
             dialog.command(SCORE)
-            if dies_at == 0 and self.kills < 1 + CARDS // 200:
+            self.typed += 1
+            if self.typed in self.deaths:
                 time.sleep(self.random.uniform(0, 0.05))
                 self.start_again()
                 return False
-            dies_at -= 1
             wait_for(lambda n=number, c=letter: (dialog.text(LAST_NUMBER), dialog.text(LAST_LETTER)) == (n, c), "the card")
-            self.shown.update(self.pending)
+            self.shown[number, judged] = letter
         return True
 
     def start_again(self):
@@ -124,7 +124,7 @@ class TwoCopies(DesktopTest):
         seed = int(os.environ.get("SCORVANE_SEED", random.randrange(1 << 30)))
         groups = [(k, g) for k in range(classes) for g in range(GROUPS)]
         random.Random(seed).shuffle(groups)
-        typists = [Typist(self, path, groups[i::2], seed + i) for i, path in enumerate(paths)]
+        typists = [Typist(self, path, groups[i::2], 4 * teams * classes // 2, seed + i) for i, path in enumerate(paths)]
         for typist in typists:
             typist.start()
         for typist in typists:
@@ -159,3 +159,7 @@ class TwoCopies(DesktopTest):
         super().setUp()
         for user in (self.desktop.prefix / "drive_c/users").iterdir():
             shutil.rmtree(user / "AppData/Local/Scorvane", ignore_errors=True)
+
+
+if __name__ == "__main__":
+    unittest.main()
