@@ -262,8 +262,8 @@ std::optional<std::string> offerRecovery(Window& owner) {
   if (!isKeepingWork()) return std::nullopt;
   FileSystem& files = sessionFiles();
   const std::string key = contestKey(files, savedState().path);
-  const FileState opened = savedState();
-  const auto movedHere = [&](const RecoveryCopy& copy) {
+  // Bringing work back saves it, which makes another state.
+  const auto movedHere = [&files, opened = FileState(savedState())](const RecoveryCopy& copy) {
     if (!copy.grewFrom || !copy.grewFrom->isSameFile(opened)) return false;
     const std::string& path = copy.grewFrom->path;
     const auto status = files.status(path);

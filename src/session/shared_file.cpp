@@ -50,7 +50,7 @@ void see(const std::optional<FileStamp>& stamp) {
     known().stamp = stamp;
     known().stampSince = now;
   }
-  known().isSettled = stamp && now - known().stampSince >= kCoarsest;
+  known().isSettled = now - known().stampSince >= kCoarsest;
 }
 
 void know(std::string_view bytes) {

@@ -7,8 +7,8 @@
 
 #include "app/command_table.h"
 #include "app/file_menu.h"
-#include "reports/round_verification_ids.h"
 #include "reports/round_reports.h"
+#include "reports/round_verification_ids.h"
 #include "reports/verification_reports.h"
 #include "session/open_contest.h"
 #include "session/recovery.h"

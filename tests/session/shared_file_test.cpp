@@ -212,6 +212,7 @@ TEST_F(SharedFile, IsNotLostToASaveAtTheSameMoment) {
     disk.lockOutcome = FileOutcome::denied;
     if (isAtOnce) disk.afterSave = replaceIt;
     saveCurrent(window);
+    if (isAtOnce) expectBothHold("AB ");
     if (!isAtOnce) replaceIt();
     disk.lockOutcome = FileOutcome::done;
     saveCurrent(window);
