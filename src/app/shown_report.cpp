@@ -13,8 +13,9 @@
 #include "session/contest_file.h"
 #include "session/open_contest.h"
 #include "session/recovery.h"
-#include "storage/contest_reader.h"
+#include "storage/contest_loader.h"
 #include "text/report_marks.h"
+#include "text/unicode.h"
 
 namespace scorvane {
 
@@ -66,12 +67,12 @@ std::optional<ReportRequest> askOtherContest(MainWindow& window) {
   auto loading = loadContestFile(sessionFiles(), *path);
   auto* loaded = std::get_if<LoadedContest>(&loading);
   if (loaded == nullptr) {
-    window.show("The file\n" + *path + "\nis missing, damaged or not a contest.", "Error");
+    window.show("The file\n" + shownPath(*path) + "\nis missing, damaged or not a contest.", "Error");
     return std::nullopt;
   }
   ReportRequest request;
   request.other = std::make_shared<const Contest>(std::move(loaded->contest));
-  request.otherName = path->substr(path->find_last_of("/\\") + 1);
+  request.otherName = shownPath(path->substr(path->find_last_of("/\\") + 1));
   return request;
 }
 

@@ -18,19 +18,18 @@ CliResult finish(ContestInFile& ours, Contest merged, const std::string& report,
                  const MergeOptions& options, FileSystem& files) {
   ours.contest = std::move(merged);
   if (const auto refusal = ours.save(files, options.into)) return nothingDone(*refusal);
-  return {isSmooth ? 0 : kDoneWithDifferences, report, ""};
+  return {isSmooth ? 0 : kDoneWithDifferences, report, ours.remarks};
 }
 
 }  // namespace
 
 CliResult runMerge(const MergeOptions& options, FileSystem& files) {
   const auto status = files.status(options.ours);
-  if (status && !status->exists)
-    return nothingDone("cannot read '" + contestText(options.ours) + "'");
+  if (status && !status->exists) return nothingDone("cannot read '" + contestText(options.ours) + "'");
   auto opening = ContestInFile::open(files, options.ours);
   if (const auto* refusal = std::get_if<std::string>(&opening)) return nothingDone(*refusal);
   auto& ours = std::get<ContestInFile>(opening);
-  const auto theirs = openContest(options.theirs, files);
+  const auto theirs = openContest(options.theirs, files, kContestProgram, ours.remarks);
   if (const auto* refusal = std::get_if<std::string>(&theirs)) return nothingDone(*refusal);
   const Contest& other = std::get<LoadedContest>(theirs).contest;
   if (!options.base) {
@@ -38,7 +37,7 @@ CliResult runMerge(const MergeOptions& options, FileSystem& files) {
     const std::string report = broughtScoresReport(brought);
     return finish(ours, std::move(brought.contest), report, brought.isSmooth(), options, files);
   }
-  const auto base = openContest(*options.base, files);
+  const auto base = openContest(*options.base, files, kContestProgram, ours.remarks);
   if (const auto* refusal = std::get_if<std::string>(&base)) return nothingDone(*refusal);
   Merge merge = mergeContests(std::get<LoadedContest>(base).contest, ours.contest, other);
   const std::string report = mergeReport(merge);

@@ -220,8 +220,10 @@ std::optional<Merge> mergeWithFile(const Contest& file, const Contest& recovered
   return merge;
 }
 
-/// One question at an opening is enough: what else was left goes to the earlier saves.
-std::optional<std::string> offer(Window& owner, const FoundCopy& found, bool& hasAsked) {
+/// One question at an opening is enough: after Yes what else was left is merged with what is saved
+/// then, after No it goes to the earlier saves.
+std::optional<std::string> offer(Window& owner, const FoundCopy& found,
+                                 std::optional<bool>& wants) {
   FileSystem& files = sessionFiles();
   const Contest file = currentContest();
   const bool grewFromFile = found.copy.grewFrom && found.copy.grewFrom->isSameFile(savedState());
@@ -233,12 +235,13 @@ std::optional<std::string> offer(Window& owner, const FoundCopy& found, bool& ha
   }
   const auto merge =
       grewFromFile || !recovered ? std::nullopt : mergeWithFile(file, *recovered, found.copy);
-  if (recovered && (grewFromFile || merge) && !std::exchange(hasAsked, true)) {
+  if (merge || (recovered && grewFromFile && !wants)) {
     const Contest& offered = merge ? merge->contest : *recovered;
     RecoveryCopy shown = found.copy;
     if (offered.classes.className != recovered->classes.className) shown.typed.clear();
     const RecoveredWork work = workIn(file, offered, shown);
-    if (wantsBack(owner, work, clockTime(found.changed, files.now()))) {
+    if (!wants) wants = wantsBack(owner, work, clockTime(found.changed, files.now()));
+    if (*wants) {
       keepIfDamaged(files, found, savedState().path);
       currentContest() = offered;
       if (merge) {
@@ -270,11 +273,12 @@ std::optional<std::string> offerRecovery(Window& owner) {
     return !status || !status->exists || reachesSameFile(files, path, opened.path);
   };
   std::optional<std::string> report;
-  bool hasAsked = false;
+  std::optional<bool> wants;
   for (const ListedFile& file : listedCopies(files)) {
     const FoundCopy found(files, file);
     if (!found.bytes || (!isCopyOf(file.name, key) && !movedHere(found.copy))) continue;
-    if (auto broughtBack = offer(owner, found, hasAsked)) report = std::move(broughtBack);
+    const auto broughtBack = offer(owner, found, wants);
+    if (broughtBack) report = report ? *report + "\n" + *broughtBack : *broughtBack;
   }
   return report;
 }

@@ -2,15 +2,12 @@
 
 namespace scorvane {
 
-namespace {
-
-// Thirty classes and a hundred thousand contestants stay far below this.
-constexpr std::size_t kLongestReport = 128U << 20U;
-
-}  // namespace
-
-bool closeIfTooLong(std::string& report) {
-  if (report.size() <= kLongestReport) return false;
+bool closeIfTooLong(std::string& report, std::size_t longest) {
+  // A long report moves once, not each time it has doubled: the memory left behind would add up.
+  constexpr std::size_t kLong = 16U << 20U;
+  constexpr std::size_t kRoomForLast = 1U << 20U;
+  if (report.size() > kLong) report.reserve(longest + kRoomForLast);
+  if (report.size() <= longest) return false;
   report += "\nThis report is too long; it ends here.\n";
   return true;
 }

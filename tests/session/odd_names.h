@@ -1,5 +1,5 @@
-// Contests under 200 names beyond the code page, the same on every system: each is opened, saved,
-// recovered and saved as, and no file whose name its own could be bent to is touched.
+// Contests under up to 200 names beyond the code page, the same on every system: each is opened,
+// saved, recovered and saved as, and no file whose name its own could be bent to is touched.
 #pragma once
 
 #include <map>
@@ -27,9 +27,10 @@ struct RawDisk {
 
 class OddNames {
  public:
-  OddNames(std::string folder, const RawDisk& disk, const std::string& contest)
-      : folder_(std::move(folder)), disk_(disk) {
-    for (const std::string& name : names()) {
+  OddNames(std::string folder, const RawDisk& disk, const std::string& contest,
+           std::size_t perScript)
+      : folder_(std::move(folder)), disk_(disk), names_(names(perScript)) {
+    for (const std::string& name : names_) {
       put(name, contest);
       for (const char* prefix : {"", "copy "}) {
         for (const std::string& decoy : disk_.bent(prefix + name)) put(decoy, "decoy of " + name);
@@ -42,7 +43,7 @@ class OddNames {
 
   /// What went wrong.
   std::vector<std::string> faults() {
-    for (const std::string& name : names()) tryName(name);
+    for (const std::string& name : names_) tryName(name);
     for (const auto& [name, bytes] : expected_) {
       if (disk_.contentOf(pathOf(name)) != bytes) faults_.push_back("not as it should be: " + name);
     }
@@ -68,7 +69,7 @@ class OddNames {
   };
 
   // Each has a number, as capitals and small letters are one on some disks.
-  static std::vector<std::string> names() {
+  static std::vector<std::string> names(std::size_t perScript) {
     constexpr std::u16string_view kScripts[] = {u"ΩΓΘΣΦαδεπστφ",
                                                 u"ЖщЯйёАВЕКМ",
                                                 u"评审家畜大会结果",
@@ -89,10 +90,9 @@ class OddNames {
                                                 u"\u200B\u200D\u202E\u2066\uFEFF",
                                                 u"\uE000\uF8FF\uFFFD\uFFFE",
                                                 u"ǰẞßŉﬁﬆ"};
-    constexpr std::size_t kEach = 10;
     std::vector<std::string> names;
     for (const std::u16string_view script : kScripts) {
-      for (std::size_t i = 0; i < kEach; ++i) {
+      for (std::size_t i = 0; i < perScript; ++i) {
         std::u16string name(i % 2 == 0 ? u"" : u"Fair ");
         for (std::size_t k = 0; k <= i % 4; ++k) {
           std::size_t at = (i * 3 + k * 5) % script.size();
@@ -150,6 +150,7 @@ class OddNames {
 
   std::string folder_;
   RawDisk disk_;
+  std::vector<std::string> names_;
   std::map<std::string, std::string> expected_;
   std::vector<std::string> faults_;
   Operator operator_;

@@ -20,7 +20,7 @@
 #include "session/contest_file.h"
 #include "session/open_contest.h"
 #include "session/shared_file.h"
-#include "storage/contest_reader.h"
+#include "storage/contest_loader.h"
 #include "storage/file.h"
 #include "tools/contest_maker.h"
 
