@@ -5,6 +5,7 @@
 
 #include "app/dialog_commands.h"
 #include "app/file_menu.h"
+#include "app/shared_work.h"
 #include "app/tools_menu.h"
 #include "app/window_commands.h"
 #include "output/save_report.h"
@@ -188,14 +189,27 @@ const Command* findCommand(int id) {
   return found == kCommands.end() ? nullptr : &*found;
 }
 
+namespace {
+
+/// Whether it shows or changes the contest itself, and not only its file or the report on screen.
+bool worksOnContest(const Command& command) {
+  const auto isOf = [&command](std::string_view menu) { return command.menu == menu; };
+  return !isOf("") && !isOf("File") && !isOf("Edit") && !isOf("Help");
+}
+
+}  // namespace
+
 void runCommand(int id, MainWindow& window) {
   const Command* command = findCommand(id);
   if (command == nullptr) return;
+  if (worksOnContest(*command)) lookForOthersWork(window);
   if (const Report* report = command->report()) {
     runReport(window, *report);
   } else {
     std::get<void (*)(MainWindow&)>(command->does)(window);
+    if (worksOnContest(*command)) lookForOthersWork(window);
   }
+  tellNews(window);
 }
 
 }  // namespace scorvane

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "app/shared_work.h"
 #include "model/contest.h"
 #include "model/numbering.h"
 #include "session/contest_file.h"
@@ -66,6 +67,7 @@ void openContestFile(MainWindow& window, const std::string& path) {
     window.setTitle(programTitle());
   }
   window.refreshReportView();
+  tellNews(window);
 }
 
 void newContestCommand(MainWindow& window) {

@@ -3,6 +3,7 @@
 #include <memory>
 #include <utility>
 
+#include "app/shared_work.h"
 #include "reasons/reasons_class_dialog.h"
 #include "reasons/reasons_ids.h"
 #include "reports/round_verification_dialog.h"
@@ -77,8 +78,25 @@ std::optional<ReportRequest> askOtherContest(MainWindow& window) {
   return request;
 }
 
+namespace {
+
+// Others may have saved while the dialog was open. It is asked anew when that moved what it named.
+std::optional<ReportRequest> askFor(MainWindow& window, const Report& report) {
+  for (;;) {
+    const auto classes = currentContest().classes;
+    const auto categories = currentContest().categories;
+    auto request = report.ask(window);
+    if (!request) return std::nullopt;
+    lookForOthersWork(window);
+    const Contest& now = currentContest();
+    if (now.classes == classes && now.categories == categories) return request;
+  }
+}
+
+}  // namespace
+
 void runReport(MainWindow& window, const Report& report) {
-  const auto request = report.ask == nullptr ? ReportRequest{} : report.ask(window);
+  const auto request = report.ask == nullptr ? ReportRequest{} : askFor(window, report);
   auto text = request ? report.build(currentContest(), *request) : std::nullopt;
   if (text) reportText() = std::move(*text);
   window.refreshReportView();

@@ -5,6 +5,7 @@
 #include "cli/contest_input.h"
 #include "cli/system.h"
 #include "model/new_contest.h"
+#include "session/save_lock.h"
 #include "storage/contest_writer.h"
 #include "storage/safe_save.h"
 
@@ -34,7 +35,7 @@ std::variant<ContestInFile, std::string> ContestInFile::open(FileSystem& files,
 std::optional<std::string> ContestInFile::save(FileSystem& files,
                                                const std::optional<std::string>& into) const {
   const std::string& path = into ? *into : path_;
-  const auto lock = files.lockForSaving(path);
+  const SaveLock lock(files, path);
   if (!into && files.readWhole(path) != bytes_) {
     return "another program has changed '" + contestText(path) + "' meanwhile";
   }

@@ -1,6 +1,5 @@
 #include "session/contest_file.h"
 
-#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -12,7 +11,8 @@
 #include "session/open_contest.h"
 #include "session/recovery.h"
 #include "session/recovery_offer.h"
-#include "storage/content_hash.h"
+#include "session/save_lock.h"
+#include "session/shared_file.h"
 #include "storage/contest_loader.h"
 #include "storage/contest_writer.h"
 #include "storage/file.h"
@@ -31,27 +31,6 @@ constexpr const char* kNotSaved =
     "Select File->Save As and save your file to another location.\r\n"
     "Again, your file did NOT save!  Please use File->Save As to ensure your work is saved.\r\n";
 
-/// What the contest's file held when this program last read or wrote it.
-struct KnownContent {
-  std::string path;
-  std::uint64_t hash = 0;
-};
-
-KnownContent& knownContent() {
-  static KnownContent known;
-  return known;
-}
-
-/// Whether saving would overwrite what somebody else has saved to the current file meanwhile, such
-/// as a second copy of the program with the same contest.
-bool isForeign(std::string_view found, std::string_view ownBytes) {
-  return knownContent().path == currentFileName() && contentHash(found) != knownContent().hash &&
-         found != ownBytes;
-}
-
-enum class ForeignChanges { keep, replace };
-enum class Saving { done, failed, wouldLoseForeignChanges };
-
 /// Keeps what the save replaces. On a disk too full for both the save comes first.
 bool saveAndKeepOld(const std::string& path, const std::optional<std::string>& old,
                     std::string_view bytes) {
@@ -64,27 +43,39 @@ bool saveAndKeepOld(const std::string& path, const std::optional<std::string>& o
   return saveSafely(files, path, bytes);
 }
 
-Saving save(std::string_view bytes, ForeignChanges foreignChanges) {
-  // No other copy of the program may save between the look at the file and its replacement.
-  const auto lock = sessionFiles().lockForSaving(currentFileName());
-  const std::optional<std::string> old = sessionFiles().readWhole(currentFileName());
-  if (foreignChanges == ForeignChanges::keep && old && isForeign(*old, bytes)) {
-    return Saving::wouldLoseForeignChanges;
+/// A file that another program is just putting in place may refuse to be read for a moment.
+std::optional<std::string> readPatiently(FileSystem& files, const std::string& path) {
+  constexpr int kAttempts = 10;
+  constexpr int kLongerEachTime = 25;
+  for (int attempt = 1;; ++attempt) {
+    auto bytes = files.readWhole(path);
+    if (bytes || attempt > kAttempts) return bytes;
+    const auto status = files.status(path);
+    if (!status || !status->exists || !status->isRegular) return std::nullopt;
+    files.pause(attempt * kLongerEachTime);
   }
-  if (!saveAndKeepOld(currentFileName(), old, bytes)) return Saving::failed;
-  knownContent() = {currentFileName(), contentHash(bytes)};
-  contestHasFile(currentFileName(), bytes);
-  if (isKeepingWork()) tidyEarlierSaves(sessionFiles(), currentFileName(), savedState().hash);
-  return Saving::done;
 }
 
-bool agreesToReplaceForeignChanges(Window& owner) {
-  return owner.confirm(formatText(
-      "Another program has changed this file since you opened or last saved it:\r\n"
-      "%s\r\n"
-      "OK saves your contest there, and the other changes are lost.\r\n"
-      "Cancel does NOT save it.  Use File->Save As to save your contest under another name.\r\n",
-      shownPath(currentFileName()).c_str()));
+/// What becomes of that which others have saved to the file.
+enum class OthersWork { takenIn, replaced };
+enum class Saving { done, failed, perhapsReplacedOthersWork };
+
+Saving save(OthersWork othersWork) {
+  FileSystem& files = sessionFiles();
+  const std::string& path = currentFileName();
+  const SaveLock lock(files, path);
+  const std::optional<std::string> old = readPatiently(files, path);
+  if (othersWork == OthersWork::takenIn) takeInBeforeSaving(old, lock.isHeld());
+  const std::string bytes = writeContest(currentContest());
+  if (!saveAndKeepOld(path, old, bytes)) return Saving::failed;
+  if (lock.isHeld()) {
+    knowFile(bytes);
+  } else {
+    knowFileForNow(bytes);
+  }
+  contestHasFile(path, bytes);
+  if (isKeepingWork()) tidyEarlierSaves(files, path, savedState().hash);
+  return lock.isHeld() ? Saving::done : Saving::perhapsReplacedOthersWork;
 }
 
 void sayNotSaved(Window& owner) {
@@ -92,14 +83,14 @@ void sayNotSaved(Window& owner) {
   owner.show(kNotSaved, "File Save Error");
 }
 
-void saveToCurrentFile(Window& owner, ForeignChanges foreignChanges) {
-  const std::string bytes = writeContest(currentContest());
-  Saving saving = save(bytes, foreignChanges);
-  if (saving == Saving::wouldLoseForeignChanges) {
-    if (!agreesToReplaceForeignChanges(owner)) return contestWasNotSaved(NotSaved::cancelled);
-    saving = save(bytes, ForeignChanges::replace);
+void saveToCurrentFile(Window& owner, OthersWork othersWork) {
+  Saving saving = save(othersWork);
+  // Whoever could not get the lock may have saved at the same moment as the one that has it.
+  if (saving == Saving::perhapsReplacedOthersWork && takeInOthersWork()) {
+    saving = save(OthersWork::takenIn);
   }
   if (saving == Saving::failed) return sayNotSaved(owner);
+  newsMayBeTold();
   // The contest in memory gets the placeholder that was written for it.
   if (currentContest().categories.empty()) currentContest().categories = {kNoCategory};
 }
@@ -123,13 +114,13 @@ void showFault(Window& owner, const ContestFault& fault, const std::string& path
 /// Finishes the save in place whose copy was read instead of the file.
 void finishSave(Window& owner, const std::string& path, const LoadedContest& loaded) {
   FileSystem& files = sessionFiles();
-  const auto lock = files.lockForSaving(path);
+  const SaveLock lock(files, path);
   const bool isSaved = saveSafely(files, path, loaded.bytes);
   if (isSaved) {
     files.remove(loaded.copy);
   } else {
     // What the file holds is not somebody else's work.
-    knownContent().hash = contentHash(files.readWhole(path).value_or(""));
+    knowFileForNow(files.readWhole(path).value_or(""));
     contestWasNotSaved(NotSaved::failed);
   }
   owner.show(
@@ -163,6 +154,7 @@ FileQuestion contestFileQuestion(FileQuestion::Purpose purpose) {
 
 void startNewContest() {
   leaveContest();
+  forgetFile();
   currentContest() = newContest();
   contestIsNew();
   currentFileName().clear();
@@ -178,10 +170,11 @@ bool openContest(Window& owner, const std::string& path) {
     return false;
   }
   leaveContest();
+  forgetFile();
   auto& loaded = std::get<LoadedContest>(loading);
   currentContest() = std::move(loaded.contest);
   currentFileName() = path;
-  knownContent() = {path, contentHash(loaded.bytes)};
+  knowFile(loaded.bytes);
   contestHasFile(path, loaded.bytes);
   if (!loaded.copy.empty()) finishSave(owner, path, loaded);
   if (!loaded.oddities.empty()) showOddities(owner, loaded.oddities);
@@ -202,7 +195,7 @@ void saveCurrent(Window& owner) {
   if (currentFileName().empty()) {
     saveContestAs(owner);
   } else {
-    saveToCurrentFile(owner, ForeignChanges::keep);
+    saveToCurrentFile(owner, OthersWork::takenIn);
   }
 }
 
@@ -214,11 +207,11 @@ void saveContestAs(Window& owner) {
   if (countCharacters(*path) > kMaxPathLength) return sayNotSaved(owner);
   currentFileName() = std::move(*path);
   // Choosing the name was the consent to replace what is there.
-  saveToCurrentFile(owner, ForeignChanges::replace);
+  saveToCurrentFile(owner, OthersWork::replaced);
 }
 
 bool saveElsewhere(const std::string& path, std::string_view bytes) {
-  const auto lock = sessionFiles().lockForSaving(path);
+  const SaveLock lock(sessionFiles(), path);
   return saveAndKeepOld(path, sessionFiles().readWhole(path), bytes);
 }
 

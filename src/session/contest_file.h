@@ -22,9 +22,10 @@ bool openContest(Window& owner, const std::string& path);
 /// Opens a file that the operator chooses. Cancelling leaves a new contest and returns false.
 bool openChosenContest(Window& owner);
 
-/// Saves to the current file; asks for a name when the contest has none. When somebody else has
-/// changed the file since it was read or written here, asks before it is replaced. A save that
-/// fails leaves the old file whole and shows a message.
+/// Saves to the current file; asks for a name when the contest has none. What somebody else has
+/// saved to the file since it was read or written here is merged into the contest before; there may
+/// be news of it then (session/shared_file.h). A save that fails leaves the old file whole and
+/// shows a message.
 void saveCurrent(Window& owner);
 
 /// Saves to a file that the operator chooses. Cancelling leaves the contest without a file.

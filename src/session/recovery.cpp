@@ -108,6 +108,22 @@ void discardCopy() {
   kept() = {};
 }
 
+/// The contest is as in its file again.
+void discardNeedlessCopy() {
+  const FileState grewFrom = kept().grewFrom;
+  const auto saved = kept().savedHash;
+  discardCopy();
+  kept().grewFrom = grewFrom;
+  kept().savedHash = saved;
+}
+
+FileState stateOf(const std::string& path, std::string_view bytes) {
+  FileSystem& files = sessionFiles();
+  const auto changed = files.lastChange(path);
+  return {fullPath(files, path), changed.has_value(), bytes.size(), contentHash(bytes),
+          changed.value_or(0)};
+}
+
 }  // namespace
 
 void startKeepingWork(FileSystem& files) {
@@ -150,14 +166,7 @@ void contestChanged() {
   std::string bytes = writeContest(currentContest());
   const std::uint64_t hash = contentHash(bytes);
   if (hash == kept().copiedHash) return;
-  if (hash == kept().savedHash && !kept().saveFailed) {
-    const FileState grewFrom = kept().grewFrom;
-    const auto saved = kept().savedHash;
-    discardCopy();
-    kept().grewFrom = grewFrom;
-    kept().savedHash = saved;
-    return;
-  }
+  if (hash == kept().savedHash && !kept().saveFailed) return discardNeedlessCopy();
   // The lines named classes by number, and these may be other classes by now.
   kept().typed.clear();
   rewriteCopy(std::move(bytes));
@@ -180,13 +189,22 @@ void contestIsNew() {
 
 void contestHasFile(const std::string& path, std::string_view bytes) {
   if (!isKeepingWork()) return;
-  FileSystem& files = sessionFiles();
   discardCopy();
-  const auto changed = files.lastChange(path);
-  kept().grewFrom = {fullPath(files, path), changed.has_value(), bytes.size(), contentHash(bytes),
-                     changed.value_or(0)};
+  kept().grewFrom = stateOf(path, bytes);
   const std::string written = writeContest(currentContest());
   kept().savedHash = written == bytes ? kept().grewFrom.hash : contentHash(written);
+}
+
+void contestTookIn(const std::string& path, std::string_view bytes, const Contest& theirs,
+                   bool hasSameClasses) {
+  if (!isKeepingWork()) return;
+  kept().grewFrom = stateOf(path, bytes);
+  kept().savedHash = contentHash(writeContest(theirs));
+  std::string merged = writeContest(currentContest());
+  if (contentHash(merged) == kept().savedHash && !kept().saveFailed) return discardNeedlessCopy();
+  // The lines name classes by number.
+  if (!hasSameClasses) kept().typed.clear();
+  rewriteCopy(std::move(merged));
 }
 
 void contestWasNotSaved(NotSaved why) {

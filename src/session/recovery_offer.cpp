@@ -5,6 +5,7 @@
 #include <ctime>
 #include <map>
 #include <utility>
+#include <variant>
 #include <vector>
 
 #include "session/contest_file.h"
@@ -13,6 +14,9 @@
 #include "session/open_contest.h"
 #include "session/recovery.h"
 #include "session/recovery_copy.h"
+#include "session/shared_file.h"
+#include "storage/content_hash.h"
+#include "storage/contest_reader.h"
 #include "storage/contest_writer.h"
 #include "text/format.h"
 
@@ -179,8 +183,47 @@ std::string recoveredReport(const Contest& contest, const RecoveredWork& work) {
   return out;
 }
 
-/// One question at an opening is enough: what else was left goes to the earlier saves.
-std::optional<std::string> offer(Window& owner, const FoundCopy& found, bool& hasAsked) {
+/// The contest that work was done on which did not grow from what the file holds now. It is among
+/// the earlier saves if a program on this machine has replaced it. Otherwise the scores typed tell
+/// it well enough: they were not entered.
+std::optional<Contest> ancestorOf(const RecoveryCopy& copy, const Contest& recovered) {
+  FileSystem& files = sessionFiles();
+  for (const EarlierSave& save : earlierSaves(files, savedState().path)) {
+    if (save.size != copy.grewFrom->size) continue;
+    const auto bytes = readEarlierSave(files, save);
+    if (!bytes || contentHash(*bytes) != copy.grewFrom->hash) continue;
+    auto reading = readContest(*bytes);
+    if (auto* contest = std::get_if<Contest>(&reading)) return std::move(*contest);
+  }
+  if (copy.typed.empty()) return std::nullopt;
+  Contest ancestor = recovered;
+  for (const TypedScore& score : copy.typed) {
+    auto* const records = ancestor.scores.find(score.number);
+    ScoreRecord* const record = records == nullptr ? nullptr : records->find(score.classIndex);
+    if (record == nullptr) continue;
+    if (score.fields.letter) record->letter = kNoLetter;
+    if (score.fields.reasons) record->reasonsScore = 0;
+    if (score.fields.questions) record->questionsScore = 0;
+  }
+  return ancestor;
+}
+
+/// Work on this contest whose file somebody else has saved to since the program was ended.
+std::optional<Merge> mergeWithFile(const Contest& file, const Contest& recovered,
+                                   const RecoveryCopy& copy) {
+  const FileState& state = savedState();
+  if (!copy.baseIsWhole || copy.grewFrom->hash == state.hash) return std::nullopt;
+  const auto ancestor = ancestorOf(copy, recovered);
+  if (!ancestor || !isSameContest(*ancestor, file)) return std::nullopt;
+  Merge merge = mergeContests(*ancestor, recovered, file);
+  if (writeContest(merge.contest) == writeContest(file)) return std::nullopt;
+  return merge;
+}
+
+/// One question at an opening is enough: after Yes what else was left is merged with what is saved
+/// then, after No it goes to the earlier saves.
+std::optional<std::string> offer(Window& owner, const FoundCopy& found,
+                                 std::optional<bool>& wants) {
   FileSystem& files = sessionFiles();
   const Contest file = currentContest();
   const bool grewFromFile = found.copy.grewFrom && found.copy.grewFrom->isSameFile(savedState());
@@ -190,14 +233,26 @@ std::optional<std::string> offer(Window& owner, const FoundCopy& found, bool& ha
     files.remove(found.path);
     return std::nullopt;
   }
-  if (grewFromFile && recovered && !std::exchange(hasAsked, true)) {
-    const RecoveredWork work = workIn(file, *recovered, found.copy);
-    if (wantsBack(owner, work, clockTime(found.changed, files.now()))) {
+  const auto merge =
+      grewFromFile || !recovered ? std::nullopt : mergeWithFile(file, *recovered, found.copy);
+  if (merge || (recovered && grewFromFile && !wants)) {
+    const Contest& offered = merge ? merge->contest : *recovered;
+    RecoveryCopy shown = found.copy;
+    if (offered.classes.className != recovered->classes.className) shown.typed.clear();
+    const RecoveredWork work = workIn(file, offered, shown);
+    if (!wants) wants = wantsBack(owner, work, clockTime(found.changed, files.now()));
+    if (*wants) {
       keepIfDamaged(files, found, savedState().path);
-      currentContest() = *recovered;
-      adoptCopy(found.path, found.claim);
+      currentContest() = offered;
+      if (merge) {
+        addNews(*merge);
+        contestChanged();  // has a copy of its own before that one goes
+        moveToEarlierSaves(files, found, savedState().path);
+      } else {
+        adoptCopy(found.path, found.claim);
+      }
       saveCurrent(owner);
-      return recoveredReport(*recovered, work);
+      return recoveredReport(offered, work);
     }
   }
   moveToEarlierSaves(files, found, savedState().path);
@@ -210,19 +265,20 @@ std::optional<std::string> offerRecovery(Window& owner) {
   if (!isKeepingWork()) return std::nullopt;
   FileSystem& files = sessionFiles();
   const std::string key = contestKey(files, savedState().path);
-  const FileState opened = savedState();
-  const auto movedHere = [&](const RecoveryCopy& copy) {
+  // Bringing work back saves it, which makes another state.
+  const auto movedHere = [&files, opened = FileState(savedState())](const RecoveryCopy& copy) {
     if (!copy.grewFrom || !copy.grewFrom->isSameFile(opened)) return false;
     const std::string& path = copy.grewFrom->path;
     const auto status = files.status(path);
     return !status || !status->exists || reachesSameFile(files, path, opened.path);
   };
   std::optional<std::string> report;
-  bool hasAsked = false;
+  std::optional<bool> wants;
   for (const ListedFile& file : listedCopies(files)) {
     const FoundCopy found(files, file);
     if (!found.bytes || (!isCopyOf(file.name, key) && !movedHere(found.copy))) continue;
-    if (auto broughtBack = offer(owner, found, hasAsked)) report = std::move(broughtBack);
+    const auto broughtBack = offer(owner, found, wants);
+    if (broughtBack) report = report ? *report + "\n" + *broughtBack : *broughtBack;
   }
   return report;
 }

@@ -23,4 +23,9 @@ std::optional<std::string> FileSystem::readWhole(const std::string& path, std::u
   return bytes;
 }
 
+std::optional<std::int64_t> FileSystem::lastChange(const std::string& path) {
+  const auto found = stamp(path);
+  return found ? std::optional(found->changed) : std::nullopt;
+}
+
 }  // namespace scorvane

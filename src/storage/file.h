@@ -71,8 +71,17 @@ struct ListedFile {
   std::int64_t changed = 0;  ///< when it was last written to
 };
 
+/// What changes with a file's content, as far as the system's clock is fine enough.
+struct FileStamp {
+  std::uint64_t size = 0;
+  std::int64_t changed = 0;  ///< when it was last written to
+  friend bool operator==(const FileStamp&, const FileStamp&) = default;
+};
+
 /// Larger files are not read: no contest comes near, and a device without end must not hang.
 inline constexpr std::uint64_t kMaxFileSize = std::uint64_t{1} << 30;
+
+inline constexpr const char* kClaimEnding = ".lock";
 
 /// Paths are UTF-8 on Windows (text/unicode.h) and any bytes elsewhere; one that names no file
 /// there reaches none.
@@ -119,10 +128,14 @@ class FileSystem {
                                                   int attempt) = 0;
   virtual void pause(int milliseconds) = 0;
 
+  struct Claim {
+    FileOutcome outcome = FileOutcome::failed;  ///< `denied` while another program has it
+    std::shared_ptr<void> hold;                 ///< with `done` only; destroying it ends the claim
+  };
   /// Keeps other copies of the program on this machine from saving to the same path until the
   /// result is destroyed. Waits for at most five seconds: a lock that cannot be had is no reason
   /// not to save.
-  [[nodiscard]] virtual std::shared_ptr<void> lockForSaving(const std::string& path) = 0;
+  [[nodiscard]] virtual Claim lockForSaving(const std::string& path) = 0;
 
   /// Opens a file for writing behind its content; makes it when there is none.
   [[nodiscard]] virtual Opened openToAppend(const std::string& path) = 0;
@@ -133,16 +146,15 @@ class FileSystem {
   /// Where programs keep what belongs to the operator on this machine; empty when there is no such
   /// folder.
   [[nodiscard]] virtual std::string localDataFolder() = 0;
+  /// Nothing when it cannot be told. Asks the disk itself, not what is remembered of a share.
+  [[nodiscard]] virtual std::optional<FileStamp> stamp(const std::string& path) = 0;
   /// When a file was last written to; nothing when that cannot be told.
-  [[nodiscard]] virtual std::optional<std::int64_t> lastChange(const std::string& path) = 0;
+  [[nodiscard]] std::optional<std::int64_t> lastChange(const std::string& path);
   [[nodiscard]] virtual std::int64_t now() = 0;
 
-  struct Claim {
-    FileOutcome outcome = FileOutcome::failed;  ///< `denied` while another program has it
-    std::shared_ptr<void> hold;                 ///< with `done` only; destroying it ends the claim
-  };
-  /// Claims a path for this program alone, by a file beside it. The claim ends with the program at
-  /// the latest, in whatever way that ends.
+  /// Claims a path for this program alone, on all machines that reach it, by a file beside it of
+  /// its name and kClaimEnding. The claim ends with the program at the latest, in whatever way that
+  /// ends.
   [[nodiscard]] virtual Claim claim(const std::string& path) = 0;
 };
 

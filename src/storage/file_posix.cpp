@@ -243,15 +243,16 @@ class PosixFileSystem : public FileSystem {
   }
 
   // Locks the folder, since every save replaces the file by another one.
-  std::shared_ptr<void> lockForSaving(const std::string& path) override {
+  Claim lockForSaving(const std::string& path) override {
     auto lock = std::make_shared<SaveLock>(
         ::open(folderOf(resolve(path).value_or(path)).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     constexpr int kMostAttempts = 500;
     for (int i = 0; i < kMostAttempts; ++i) {
-      if (::flock(lock->folder.number(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) break;
+      if (::flock(lock->folder.number(), LOCK_EX | LOCK_NB) == 0) return {FileOutcome::done, lock};
+      if (errno != EWOULDBLOCK) return {};
       pause(10);
     }
-    return lock;
+    return {FileOutcome::denied, nullptr};
   }
 
   Opened openToAppend(const std::string& path) override {
@@ -287,10 +288,10 @@ class PosixFileSystem : public FileSystem {
     return home == nullptr || *home == '\0' ? "" : std::string(home) + "/.local/share";
   }
 
-  std::optional<std::int64_t> lastChange(const std::string& path) override {
-    struct stat status {};
-    if (::stat(path.c_str(), &status) != 0) return std::nullopt;
-    return ticksOf(status.st_mtim);
+  std::optional<FileStamp> stamp(const std::string& path) override {
+    struct stat found {};
+    if (::stat(path.c_str(), &found) != 0) return std::nullopt;
+    return FileStamp{static_cast<std::uint64_t>(found.st_size), ticksOf(found.st_mtim)};
   }
 
   std::int64_t now() override {
@@ -300,7 +301,7 @@ class PosixFileSystem : public FileSystem {
   }
 
   Claim claim(const std::string& path) override {
-    const std::string name = path + ".lock";
+    const std::string name = path + kClaimEnding;
     auto lock = std::make_shared<ClaimLock>(
         ::open(name.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666), name);
     if (!lock->file.isOpen()) return {};

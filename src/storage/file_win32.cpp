@@ -287,14 +287,15 @@ class WindowsFileSystem : public FileSystem {
   void pause(int milliseconds) override { Sleep(static_cast<DWORD>(milliseconds)); }
 
   // One lock for all paths, as one file has many names. Windows frees that of a killed program.
-  std::shared_ptr<void> lockForSaving(const std::string& /*path*/) override {
+  Claim lockForSaving(const std::string& /*path*/) override {
     constexpr DWORD kPatience = 5000;
     std::shared_ptr<void> lock(CreateMutexA(nullptr, FALSE, "Scorvane saves"), [](HANDLE mutex) {
       ReleaseMutex(mutex);
       CloseHandle(mutex);
     });
-    WaitForSingleObject(lock.get(), kPatience);
-    return lock;
+    const DWORD waited = WaitForSingleObject(lock.get(), kPatience);
+    const bool isHeld = waited == WAIT_OBJECT_0 || waited == WAIT_ABANDONED;
+    return {isHeld ? FileOutcome::done : FileOutcome::denied, isHeld ? std::move(lock) : nullptr};
   }
 
   Opened openToAppend(const std::string& path) override {
@@ -339,12 +340,13 @@ class WindowsFileSystem : public FileSystem {
     return length < folder.size() ? utf8OfWide(folder.data()) : std::string();
   }
 
-  std::optional<std::int64_t> lastChange(const std::string& path) override {
-    WIN32_FILE_ATTRIBUTE_DATA facts;
-    if (GetFileAttributesExW(systemPath(path).c_str(), GetFileExInfoStandard, &facts) == 0) {
-      return std::nullopt;
-    }
-    return ticksOf(facts.ftLastWriteTime);
+  // Of a file on a share Windows remembers for seconds what it would say without opening it.
+  std::optional<FileStamp> stamp(const std::string& path) override {
+    const Handle file = openToAsk(systemPath(path));
+    BY_HANDLE_FILE_INFORMATION facts;
+    if (!file.isOpen() || GetFileInformationByHandle(file.get(), &facts) == 0) return std::nullopt;
+    return FileStamp{(std::uint64_t{facts.nFileSizeHigh} << 32) | facts.nFileSizeLow,
+                     ticksOf(facts.ftLastWriteTime)};
   }
 
   std::int64_t now() override {
@@ -356,7 +358,7 @@ class WindowsFileSystem : public FileSystem {
   // Windows closes the file of a killed program, and removes it then.
   Claim claim(const std::string& path) override {
     auto file = std::make_shared<Handle>(
-        CreateFileW(systemPath(path + ".lock").c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+        CreateFileW(systemPath(path + kClaimEnding).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
                     FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE, nullptr));
     if (file->isOpen()) return {FileOutcome::done, std::move(file)};
     return {outcomeOf(GetLastError()), nullptr};

@@ -121,41 +121,6 @@ TEST_F(ContestCommands, SavesToTheCurrentFileOrAsksForOneOrSaysThatItCouldNot) {
   EXPECT_TRUE(currentContest().categories.empty());
 }
 
-// Two copies of the program with one contest: what one has saved is not silently taken away by the
-// other, and the program never takes its own saves for somebody else's.
-TEST_F(ContestCommands, AsksBeforeItReplacesWhatAnotherProgramSaved) {
-  EXPECT_TRUE(openContest(window, path));
-  for (const char* name : {"First", "Second", "Ours"}) {
-    currentContest().settings.contestName = name;
-    saveCurrent(window);
-  }
-  EXPECT_TRUE(window.desktop.messages.empty());
-  const std::string ours = replaced(smallFile(), "County Fair", "Ours");
-  const std::string theirs = replaced(smallFile(), "County Fair", "Theirs");
-  makeFile(path, theirs);
-  window.desktop.answers = {Answer::cancel, Answer::ok};
-  saveCurrent(window);
-  EXPECT_EQ(contentOf(path), theirs);
-  ASSERT_EQ(window.desktop.messages.size(), 1U);
-  EXPECT_EQ(window.desktop.messages[0].caption, "Warning");
-  EXPECT_NE(window.desktop.messages[0].text.find(path), std::string::npos);
-  saveCurrent(window);
-  EXPECT_EQ(contentOf(path), ours);
-  EXPECT_EQ(window.desktop.messages.size(), 2U);
-
-  // Nothing is lost where the file is gone, holds the very same, or has just been chosen.
-  std::filesystem::remove(path);
-  saveCurrent(window);
-  makeFile(path, theirs);
-  window.desktop.files = {path};
-  saveContestAs(window);
-  currentContest().settings.contestName = "Theirs";
-  makeFile(path, theirs);
-  saveCurrent(window);
-  EXPECT_EQ(contentOf(path), theirs);
-  EXPECT_EQ(window.desktop.messages.size(), 2U);
-}
-
 TEST_F(ContestCommands, WaitsWhileAnotherCopyOfTheProgramSaves) {
   EXPECT_TRUE(openContest(window, path));
   currentContest().settings.contestName = "Ours";
@@ -167,7 +132,7 @@ TEST_F(ContestCommands, WaitsWhileAnotherCopyOfTheProgramSaves) {
   });
   std::this_thread::sleep_for(std::chrono::milliseconds(100));
   EXPECT_FALSE(isSaved);
-  lock.reset();
+  lock.hold.reset();
   saving.join();
   EXPECT_EQ(contentOf(path), replaced(smallFile(), "County Fair", "Ours"));
 }

@@ -188,14 +188,15 @@ TEST_F(Recovery, IsOfferedForTheVeryFileItGrewFromOnly) {
   };
   disk.files[kPath].changed = 7 + 2 * kTicksPerSecond + 1;
   expectRestUnasked("another time of change");
-  disk.files[kPath].content = replaced(smallFile(), "County", "Bounty");
-  expectRestUnasked("other bytes");
+  disk.files[kPath].content =
+      replaced(replaced(smallFile(), "Market Steers", "Pen"), "\r\n\tNo", "\r\nHogs\tNo");
+  expectRestUnasked("another contest");
 
   disk.files[kPath].changed = 7 + 2 * kTicksPerSecond;  // as a memory stick rounds it
   start();
   EXPECT_NE(asked(), "");
 
-  // Of what two programs left the newest is offered, whatever its name, and all is kept.
+  // What two programs left is offered in one question, and all is kept.
   for (const Answer answer : {Answer::yes, Answer::no}) {
     disk.files = left;
     const auto busy = disk.claim(copyPath(disk, contestKey(disk, kPath), 1)).hold;
@@ -209,8 +210,11 @@ TEST_F(Recovery, IsOfferedForTheVeryFileItGrewFromOnly) {
     EXPECT_EQ(reportText() != kWelcomeText, answer == Answer::yes);
     EXPECT_EQ(copies().size(), 0U);
     const auto saves = earlierSaves(disk, kPath);
-    ASSERT_EQ(saves.size(), 2U);
-    EXPECT_NE(readEarlierSave(disk, saves[0])->find("101\t0\tA\t40\t44"), std::string::npos);
+    const bool isBack = answer == Answer::yes;
+    EXPECT_EQ(scoreRecord(currentContest(), 101, 0).letter, isBack ? 'A' : 'C');
+    ASSERT_EQ(saves.size(), isBack ? 3U : 2U);
+    EXPECT_NE(readEarlierSave(disk, saves[isBack ? 1 : 0])->find("101\t0\tA\t40\t44"),
+              std::string::npos);
   }
   disk.files = left;
 
@@ -259,7 +263,7 @@ TEST_F(Recovery, IsOfferedForTheVeryFileItGrewFromOnly) {
   EXPECT_NE(asked(), "");
   start();
   EXPECT_EQ(copies().size(), 0U);
-  EXPECT_EQ(earlierSaves(disk, kPath).size(), 2U);
+  EXPECT_EQ(earlierSaves(disk, kPath).size(), 3U);
 }
 
 TEST_F(Recovery, KeepsWhatAnOrderlyEndLeavesUnsaved) {

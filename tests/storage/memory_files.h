@@ -114,7 +114,7 @@ class MemoryFiles : public FileSystem {
     return (place == Place::beside ? path : "temporary/" + path) + "." + std::to_string(attempt);
   }
   void pause(int milliseconds) override { pausedFor += milliseconds; }
-  std::shared_ptr<void> lockForSaving(const std::string& /*path*/) override { return nullptr; }
+  Claim lockForSaving(const std::string& /*path*/) override { return {FileOutcome::done, nullptr}; }
   Opened openToAppend(const std::string& path) override {
     if (fails() || isProtected(path)) return {failure, nullptr};
     File& file = files[path];
@@ -136,9 +136,9 @@ class MemoryFiles : public FileSystem {
   }
   bool makeFolders(const std::string& folder) override { return !fails() && !isProtected(folder); }
   std::string localDataFolder() override { return localData; }
-  std::optional<std::int64_t> lastChange(const std::string& path) override {
+  std::optional<FileStamp> stamp(const std::string& path) override {
     if (fails() || !files.contains(path)) return std::nullopt;
-    return files[path].changed;
+    return FileStamp{files[path].content.size(), files[path].changed};
   }
   std::int64_t now() override { return clock; }
   Claim claim(const std::string& path) override {

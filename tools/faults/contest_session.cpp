@@ -4,11 +4,14 @@
 //   open PATH     as File, Open          save          as File, Save
 //   save_as PATH  as File, Save As       save_over     as File, Save, answering OK to a warning
 //   name TEXT     sets the contest's name
+//   type N C L    stores letter L for contestant N in the class of index C
+//   look          takes in what others have saved
 //   size N        an invented contest of N contestants, under the file name that is current
 //   bytes         a contest with names of every byte from 1 to 255
 //   reread        whether the current file holds the contest: "ok", or the bytes that ended names
 #include <cstdlib>
 #include <iostream>
+#include <sstream>
 #include <string>
 #include <variant>
 
@@ -16,7 +19,8 @@
 #include "model/numbering.h"
 #include "session/contest_file.h"
 #include "session/open_contest.h"
-#include "storage/contest_reader.h"
+#include "session/shared_file.h"
+#include "storage/contest_loader.h"
 #include "storage/file.h"
 #include "tools/contest_maker.h"
 
@@ -95,6 +99,14 @@ std::string follow(const std::string& command, const std::string& value, Desk& d
     saveContestAs(desk);
   } else if (command == "name") {
     currentContest().settings.contestName = value;
+  } else if (command == "type") {
+    int number = 0, classIndex = 0;
+    char letter = 0;
+    std::istringstream(value) >> number >> classIndex >> letter;
+    currentContest().scores[number][classIndex].letter = letter;
+    recomputeAllPlacingScores(currentContest());
+  } else if (command == "look") {
+    takeInOthersWork();
   } else if (command == "size") {
     ContestPlan plan;
     plan.contestants = std::atoi(value.c_str());

@@ -1,0 +1,119 @@
+// What others save to the open contest's file, and what its window shows of that.
+#include "app/shared_work.h"
+
+#include <gtest/gtest.h>
+
+#include <variant>
+
+#include "app/command_table.h"
+#include "app/file_menu.h"
+#include "reports/round_reports.h"
+#include "reports/round_verification_ids.h"
+#include "reports/verification_reports.h"
+#include "session/open_contest.h"
+#include "session/recovery.h"
+#include "storage/contest_reader.h"
+#include "storage/contest_writer.h"
+#include "tests/app/memory_main_window.h"
+#include "tests/storage/contest_text.h"
+#include "tests/storage/memory_files.h"
+
+namespace scorvane {
+
+namespace {
+
+constexpr int kSave = 32773, kSetupContest = 32787, kRoundVerification = 32862, kLetters = 32846;
+const std::string kPath = "fair.scv";
+
+struct SharedWork : testing::Test {
+  SharedWork() {
+    disk.files[kPath] = {smallFile(), true, smallFile()};
+    prepareContest();
+    startKeepingWork(disk);
+    openContestFile(window, kPath);
+    window.log.clear();
+  }
+  ~SharedWork() override { stopKeepingWork(); }
+
+  template <typename Edit>
+  void othersSave(const Edit& edit) {
+    Contest theirs = std::get<Contest>(readContest(disk.files[kPath].content));
+    edit(theirs);
+    recomputeAllPlacingScores(theirs);
+    disk.files[kPath] = {writeContest(theirs), true};
+  }
+  void othersType(ContestantNumber number, char letter) {
+    othersSave([&](Contest& theirs) { theirs.scores[number][0].letter = letter; });
+  }
+
+  MemoryFiles disk;
+  MemoryMainWindow window;
+};
+
+TEST_F(SharedWork, CountsInReportsAndDialogs) {
+  othersSave([](Contest& theirs) {
+    theirs.settings.contestName = "Town Fair";
+    theirs.scores[102][0].letter = 'B';
+  });
+  const std::string before = verifyScoresReport(currentContest());
+  runCommand(kLetters, window);
+  EXPECT_NE(reportText(), before);
+  EXPECT_NE(window.log.find("fair.scv - Town Fair"), std::string::npos) << window.log;
+
+  // While the dialog of a report is open, and again with other classes than it has offered.
+  int dialogs = 0;
+  window.operate = [&](MemoryDialog& dialog) {
+    if (++dialogs == 1) {
+      othersSave([](Contest& theirs) { theirs.classes.className[0] = "Pen Steers"; });
+    } else {
+      othersType(102, 'D');
+    }
+    dialog.choose(IDC_VERIFIED_ROUNDS, 0);
+    dialog.click(kOkId);
+  };
+  runCommand(kRoundVerification, window);
+  EXPECT_EQ(dialogs, 2);
+  EXPECT_EQ(reportText(), roundVerificationReport(currentContest(), 0));
+  EXPECT_EQ(scoreRecord(currentContest(), 102, 0).letter, 'D');
+
+  // When a dialog has closed without saving.
+  window.operate = [&](MemoryDialog& dialog) {
+    othersType(102, 'E');
+    dialog.pressEscape();
+  };
+  runCommand(32791, window);
+  EXPECT_EQ(scoreRecord(currentContest(), 102, 0).letter, 'E');
+  EXPECT_TRUE(window.desktop.messages.empty());
+}
+
+TEST_F(SharedWork, IsToldOfWhenTheDialogHasClosed) {
+  currentContest().scores[101][0].letter = 'A';
+  window.operate = [&](MemoryDialog& dialog) {
+    othersType(101, 'B');
+    dialog.pressCloseBox();
+    EXPECT_TRUE(dialog.desktop.messages.empty() && window.desktop.messages.empty());
+  };
+  runCommand(kSetupContest, window);
+  ASSERT_EQ(window.desktop.messages.size(), 1U);
+  const Message& box = window.desktop.messages[0];
+  EXPECT_EQ(box.caption, "Information");
+  EXPECT_NE(box.text.find("\r\n1 value differs; yours was saved.\r\n\r\nThe report lists"),
+            std::string::npos)
+      << box.text;
+  EXPECT_EQ(reportText().find("Two sides of the contest were joined"), 0U);
+  EXPECT_NE(reportText().find("101 Ann Lee"), std::string::npos);
+
+  disk.files.erase(kPath);
+  runCommand(kSave, window);
+  EXPECT_NE(window.desktop.messages.at(1).text.find("was gone"), std::string::npos);
+  disk.files[kPath].content = "no contest";
+  runCommand(kSave, window);
+  EXPECT_NE(window.desktop.messages.at(2).text.find("fair.scv\r\nWhat it held is one of the ear"),
+            std::string::npos);
+  runCommand(kSave, window);
+  EXPECT_EQ(window.desktop.messages.size(), 3U);
+}
+
+}  // namespace
+
+}  // namespace scorvane
