@@ -9,11 +9,15 @@
 #include "app/window_commands.h"
 #include "output/save_report.h"
 #include "reasons/reasons_reports.h"
+#include "reports/entry_progress_report.h"
 #include "reports/listing_reports.h"
 #include "reports/round_reports.h"
 #include "reports/verification_reports.h"
+#include "results/announcers_list.h"
+#include "results/class_analysis_report.h"
 #include "results/high_reports.h"
 #include "results/rankings.h"
+#include "results/score_cards_report.h"
 #include "results/tie_breakers.h"
 #include "results/total_summary_report.h"
 
@@ -147,6 +151,11 @@ constexpr std::array kCommands = {
             Report{plain<zeroQuestionsReport>}},
 
     Command{33001, "Tools", "Import Roster ...", runImportRoster},
+    Command{33013, "Tools", "Announcer's List", Report{plain<announcersList>}},
+    Command{33011, "Tools", "Score Cards By Team", Report{plain<scoreCardsReport>}},
+    Command{33012, "Tools", "Class Analysis", Report{plain<classAnalysisReport>}},
+    Command{33014, "Tools", "Entry Progress", Report{plain<entryProgressReport>}},
+    Command{33024, "Tools", "Move Or Clear Cards ...", runMoveCards},
     Command{33023, "Tools", "Earlier Saves ...", runEarlierSaves},
 
     Command{32857, "Help", "Scorvane Help (F1)", helpCommand},

@@ -5,6 +5,7 @@
 
 #include "app/file_menu.h"
 #include "app/shown_report.h"
+#include "entry/move_cards_dialog.h"
 #include "exchange/earlier_saves_dialog.h"
 #include "exchange/import_roster_dialog.h"
 #include "reports/differences_report.h"
@@ -20,6 +21,15 @@ void runImportRoster(MainWindow& window) {
   runSetupOverWelcome(window, IDD_IMPORT_ROSTER, dialog);
   if (dialog.hasImported()) showReport(window, teamReport(currentContest()));
   showContestTitle(window);
+}
+
+void runMoveCards(MainWindow& window) {
+  const Contest before = currentContest();
+  MoveCardsDialog dialog(currentContest());
+  if (window.runDialog(IDD_MOVE_CARDS, dialog) != kOkId) return;
+  showReport(window, differencesReport(currentContest(), before,
+                                       {"Scores moved, exchanged or cleared", "Now", "Before"}));
+  sayIfWorkIsNotKept(window);
 }
 
 void runEarlierSaves(MainWindow& window) {

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "cli/contest_input.h"
+#include "cli/system.h"
 #include "model/new_contest.h"
 #include "storage/contest_writer.h"
 #include "storage/safe_save.h"
@@ -35,10 +36,10 @@ std::optional<std::string> ContestInFile::save(FileSystem& files,
   const std::string& path = into ? *into : path_;
   const auto lock = files.lockForSaving(path);
   if (!into && files.readWhole(path) != bytes_) {
-    return "another program has changed '" + path + "' meanwhile";
+    return "another program has changed '" + contestText(path) + "' meanwhile";
   }
   if (saveSafely(files, path, writeContest(contest))) return std::nullopt;
-  return "cannot write '" + path + "'";
+  return "cannot write '" + contestText(path) + "'";
 }
 
 }  // namespace scorvane

@@ -28,7 +28,7 @@ std::variant<LoadedContest, std::string> openContest(const std::string& path, Fi
   }
   auto loading = loadContestFile(files, path);
   if (auto* loaded = std::get_if<LoadedContest>(&loading)) return std::move(*loaded);
-  return "cannot read '" + path + "': " + reasonOf(std::get<ContestFault>(loading));
+  return "cannot read '" + contestText(path) + "': " + reasonOf(std::get<ContestFault>(loading));
 }
 
 }  // namespace scorvane

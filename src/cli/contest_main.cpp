@@ -2,6 +2,7 @@
 #include "cli/contest_options.h"
 #include "cli/contest_runner.h"
 #include "cli/program.h"
+#include "cli/system.h"
 
 namespace scorvane {
 
@@ -10,7 +11,7 @@ namespace {
 CliResult answer(const CommandLine& arguments) {
   ContestOptions options;
   if (const auto refusal = readContestOptions(arguments, options)) {
-    return refuseUsage(kContestProgram, *refusal);
+    return refuseUsage(kContestProgram, contestText(*refusal));
   }
   return runContestTool(options, systemFiles());
 }

@@ -1,6 +1,7 @@
 #include "cli/import_command.h"
 
 #include "cli/contest_files.h"
+#include "cli/system.h"
 #include "exchange/roster_plan.h"
 
 namespace scorvane {
@@ -10,7 +11,7 @@ CliResult runImport(const ImportOptions& options, FileSystem& files) {
   if (const auto* refusal = std::get_if<std::string>(&opening)) return nothingDone(*refusal);
   auto& opened = std::get<ContestInFile>(opening);
   const auto bytes = files.readWhole(options.roster, kMostSheetBytes);
-  if (!bytes) return nothingDone("cannot read '" + options.roster + "'");
+  if (!bytes) return nothingDone("cannot read '" + contestText(options.roster) + "'");
 
   const RosterPlan plan = planRoster(*bytes, opened.contest);
   CliResult result;

@@ -25,7 +25,8 @@ int runProgram(const char* program, int argc, char** argv,
                CliResult (*answer)(const CommandLine& arguments)) {
   try {
     makeStandardOutputBinary();
-    CliResult result = answer({argv + (argc > 0 ? 1 : 0), argv + argc});
+    const std::vector<std::string> words = commandLineWords(argc, argv);
+    CliResult result = answer({words.begin(), words.end()});
     if (!print(result.output)) {
       result.status = kFailed;
       result.error += std::string(program) + ": the report cannot be written to standard output\n";

@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "cli/contest_input.h"
+#include "cli/system.h"
 #include "storage/safe_save.h"
 #include "text/characters.h"
 
@@ -101,7 +102,7 @@ CliResult writeAllReports(const Contest& contest, const std::string& folder, Fil
     const std::string text = report->build(contest, {}).value();
     const std::string path = folder + "/" + fileNameOf(command);
     if (!saveSafely(files, path, withWindowsLineEnds(text))) {
-      return failed("cannot write '" + path + "'");
+      return failed("cannot write '" + contestText(path) + "'");
     }
   }
   return result;

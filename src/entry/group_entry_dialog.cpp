@@ -1,42 +1,16 @@
 #include "entry/group_entry_dialog.h"
 
-#include <algorithm>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "entry/last_score.h"
-#include "model/class_lists.h"
+#include "entry/score_lists.h"
 #include "text/format.h"
 
 namespace scorvane {
 
 namespace {
-
-std::vector<ListLine> linesOfClasses(const JudgingClasses& classes, EntryKind kind) {
-  const std::vector<std::int32_t> listed = kind == EntryKind::placings  ? allClasses(classes)
-                                           : kind == EntryKind::reasons ? reasonsClasses(classes)
-                                                                        : questionsClasses(classes);
-  std::vector<ListLine> lines;
-  lines.reserve(listed.size());
-  for (const std::int32_t index : listed) lines.push_back({classLine(classes, index), index});
-  return lines;
-}
-
-// A line's key is the group's letter and not its position: beyond "Z" a sorted list need not be in
-// the order of the letters.
-std::vector<ListLine> linesOfGroups(const std::vector<char>& letters) {
-  std::vector<ListLine> lines;
-  lines.reserve(letters.size());
-  for (const char letter : letters) lines.push_back({formatText("   %c   ", letter), letter});
-  return lines;
-}
-
-std::vector<ListLine> linesOfReasonsGroups(std::int32_t groups) {
-  std::vector<ListLine> lines;
-  for (std::int32_t group = 0; group < std::min(groups, kMostReasonsGroupsShown); ++group) {
-    lines.push_back({formatText("   %d   ", group + 1), group});
-  }
-  return lines;
-}
 
 std::optional<std::string> readNumber(std::optional<std::uint32_t> number, const char* scoreName,
                                       std::optional<std::int32_t>& score) {
@@ -66,18 +40,18 @@ std::optional<std::string> readScore(const Dialog& dialog, const GroupEntry& ent
 
 void GroupEntryDialog::onOpen(Dialog& dialog) {
   dialog.setLines(IDC_ENTRY_CLASS, linesOfClasses(contest_.classes, entry_.kind));
-  dialog.setLines(IDC_ENTRY_GROUP, entry_.kind == EntryKind::reasons
-                                       ? linesOfReasonsGroups(contest_.reasonsOrder.columnCount())
-                                       : linesOfGroups(contest_.groupLetters));
+  dialog.setLines(IDC_ENTRY_GROUP, linesOfGroups(contest_, entry_.kind));
   dialog.focus(entry_.field);
 }
 
 void GroupEntryDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
   if (event == ControlEvent::selectionChanged) {
     (id == IDC_ENTRY_CLASS ? class_ : group_) = dialog.selectedNumber(id);
+    finished_.reset();
     if (class_ && group_) startGroup(dialog);
   }
   if (id == IDC_ENTRY_SCORE && event == ControlEvent::clicked) score(dialog);
+  if (id == IDC_ENTRY_BACK && event == ControlEvent::clicked) goBack(dialog);
   endOn(dialog, id, event, entry_.escape);
 }
 
@@ -87,14 +61,18 @@ void GroupEntryDialog::onClose(Dialog& dialog) {
 
 void GroupEntryDialog::startGroup(Dialog& dialog) {
   const bool isReasons = entry_.kind == EntryKind::reasons;
-  const std::vector<ContestantNumber> cards =
-      isReasons ? speakersUpToHole(contest_.reasonsOrder, *group_)
-                : groupMembers(contest_, static_cast<char>(*group_));
-  waiting_.assign(cards.begin(), cards.end());
-  // Odd but required, docs/required-behaviour.md: group-without-members
-  if (cards.empty() && !isReasons) return;
+  std::vector<ContestantNumber> cards = isReasons
+                                            ? speakersUpToHole(contest_.reasonsOrder, *group_)
+                                            : groupMembers(contest_, static_cast<char>(*group_));
+  if (cards.empty() && !isReasons) {
+    // Odd but required, docs/required-behaviour.md: group-without-members
+    if (position_ < cards_.size()) cards_.resize(position_ + 1);
+    return;
+  }
   if (confirmReentry(dialog, isReasons ? groupSpeakers(contest_, *group_) : cards)) {
-    showContestant(dialog, nextContestant());
+    cards_ = std::move(cards);
+    position_ = 0;
+    showContestant(dialog);
   } else {
     clearChoice(dialog);
   }
@@ -119,14 +97,34 @@ void GroupEntryDialog::score(Dialog& dialog) {
     return;
   }
   if (enterCard(dialog)) {
-    if (const auto next = nextContestant()) {
-      showContestant(dialog, next);
+    if (++position_ < cards_.size()) {
+      showContestant(dialog);
     } else {
+      const std::pair done(*class_, *group_);
       clearChoice(dialog);
+      finished_ = done;
     }
   }
   // The next card is typed at once, also after a press by mouse.
   dialog.focus(entry_.field);
+}
+
+// Shows the card before this one again, so that a slip of the key is typed over at once. Behind the
+// last card of a group that is the last card, with class and group as they were.
+void GroupEntryDialog::goBack(Dialog& dialog) {
+  dialog.setText(entry_.field, "");
+  dialog.focus(entry_.field);
+  if (finished_) {
+    std::tie(class_, group_) = *finished_;
+    dialog.selectKey(IDC_ENTRY_CLASS, *class_);
+    dialog.selectKey(IDC_ENTRY_GROUP, *group_);
+    finished_.reset();
+  } else if (position_ == cards_.size() || !class_) {
+    return;
+  }
+  if (position_ > 0) --position_;
+  showContestant(dialog);
+  showLastScore(dialog, contest_, cards_[position_], *class_, entry_.kind);
 }
 
 std::optional<std::string> GroupEntryDialog::missingChoice() const {
@@ -144,26 +142,20 @@ bool GroupEntryDialog::enterCard(Dialog& dialog) {
     return false;
   }
   dialog.setText(entry_.field, "");
-  if (!contestant_) {
+  if (position_ == cards_.size()) {
     dialog.show(entry_.noContestant, "Warning");
     return false;
   }
-  storeScores(contest_, *contestant_, *class_, typed);
-  showLastScore(dialog, contest_, *contestant_, *class_, entry_.kind);
+  storeScores(contest_, cards_[position_], *class_, typed);
+  showLastScore(dialog, contest_, cards_[position_], *class_, entry_.kind);
   return true;
 }
 
-// Takes the next contestant of the group; nothing at its end.
-std::optional<ContestantNumber> GroupEntryDialog::nextContestant() {
-  if (waiting_.empty()) return std::nullopt;
-  const ContestantNumber next = waiting_.front();
-  waiting_.pop_front();
-  return next;
-}
-
-void GroupEntryDialog::showContestant(Dialog& dialog, std::optional<ContestantNumber> number) {
-  contestant_ = number;
-  dialog.setText(IDC_ENTRY_CONTESTANT, number ? std::to_string(*number) : "");
+// Shows whose card is typed now.
+void GroupEntryDialog::showContestant(Dialog& dialog) {
+  const bool isSomebody = position_ < cards_.size();
+  dialog.setText(IDC_ENTRY_CONTESTANT, isSomebody ? std::to_string(cards_[position_]) : "");
+  showPerson(dialog, contest_, isSomebody ? std::optional(cards_[position_]) : std::nullopt);
 }
 
 // Back to nothing chosen.
@@ -172,7 +164,8 @@ void GroupEntryDialog::clearChoice(Dialog& dialog) {
   group_.reset();
   dialog.select(IDC_ENTRY_CLASS, std::nullopt);
   dialog.select(IDC_ENTRY_GROUP, std::nullopt);
-  showContestant(dialog, std::nullopt);
+  position_ = cards_.size();
+  showContestant(dialog);
 }
 
 }  // namespace scorvane

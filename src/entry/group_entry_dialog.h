@@ -2,10 +2,11 @@
 // rotation group in ascending contestant number, reasons by reasons group in speaking order.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "entry/closing.h"
@@ -67,18 +68,20 @@ class GroupEntryDialog : public DialogBehaviour {
   [[nodiscard]] bool confirmReentry(Dialog& dialog,
                                     const std::vector<ContestantNumber>& group) const;
   void score(Dialog& dialog);
+  void goBack(Dialog& dialog);
   [[nodiscard]] std::optional<std::string> missingChoice() const;
   [[nodiscard]] bool enterCard(Dialog& dialog);
-  [[nodiscard]] std::optional<ContestantNumber> nextContestant();
-  void showContestant(Dialog& dialog, std::optional<ContestantNumber> number);
+  void showContestant(Dialog& dialog);
   void clearChoice(Dialog& dialog);
 
   Contest& contest_;
   const GroupEntry entry_;
-  std::optional<std::int32_t> class_;           ///< index of the class chosen
-  std::optional<std::int32_t> group_;           ///< chosen: a group's letter, or a reasons group
-  std::optional<ContestantNumber> contestant_;  ///< whose card is typed now
-  std::deque<ContestantNumber> waiting_;        ///< whose cards follow
+  std::optional<std::int32_t> class_;    ///< index of the class chosen
+  std::optional<std::int32_t> group_;    ///< chosen: a group's letter, or a reasons group
+  std::vector<ContestantNumber> cards_;  ///< of the group, in the order of entry
+  std::size_t position_ = 0;             ///< in cards_, whose card is typed now; its end for nobody
+  /// The class and group whose last card was typed just now, until something else is chosen.
+  std::optional<std::pair<std::int32_t, std::int32_t>> finished_;
 };
 
 }  // namespace scorvane

@@ -95,6 +95,9 @@ void LookupDialog::onOpen(Dialog& dialog) {
 
 void LookupDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent event) {
   if (id == IDC_ENTRY_CLASS && event == ControlEvent::selectionChanged) chooseClass(dialog);
+  if (id == IDC_LOOKUP_CONTESTANT && event == ControlEvent::textChanged) {
+    showPerson(dialog, contest_, typedContestant(dialog));
+  }
   if (id == IDC_ENTRY_SCORE && event == ControlEvent::clicked) score(dialog);
   if (id == IDC_LOOKUP && event == ControlEvent::clicked) lookUp(dialog);
   endOn(dialog, id, event);

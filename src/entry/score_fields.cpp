@@ -30,7 +30,8 @@ void storeScores(Contest& contest, ContestantNumber number, std::int32_t classIn
   }
   if (typed.reasons) record.reasonsScore = *typed.reasons;
   if (typed.questions) record.questionsScore = *typed.questions;
-  scoreStored({number, classIndex, record});
+  scoreStored({{number, classIndex, record},
+               {typed.letter.has_value(), typed.reasons.has_value(), typed.questions.has_value()}});
 }
 
 }  // namespace scorvane

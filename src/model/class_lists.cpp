@@ -1,5 +1,7 @@
 #include "model/class_lists.h"
 
+#include <algorithm>
+
 #include "text/format.h"
 
 namespace scorvane {
@@ -27,6 +29,17 @@ std::vector<std::int32_t> reasonsClasses(const JudgingClasses& classes) {
 
 std::vector<std::int32_t> questionsClasses(const JudgingClasses& classes) {
   return classesWith(classes, [&](std::int32_t k) { return classes.hasQuestions(k); });
+}
+
+std::vector<std::vector<std::int32_t>> classesByCategory(const Contest& contest) {
+  std::vector<std::vector<std::int32_t>> members(
+      std::max<std::size_t>(contest.categories.size(), 1));
+  for (std::int32_t k = 0; k < contest.classes.count(); ++k) {
+    const std::int32_t category = contest.classes.category(k);
+    const bool exists = category >= 0 && static_cast<std::size_t>(category) < members.size();
+    members[exists ? static_cast<std::size_t>(category) : 0].push_back(k);
+  }
+  return members;
 }
 
 std::string classLine(const JudgingClasses& classes, std::int32_t index) {

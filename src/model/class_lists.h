@@ -14,6 +14,10 @@ namespace scorvane {
 [[nodiscard]] std::vector<std::int32_t> reasonsClasses(const JudgingClasses& classes);
 [[nodiscard]] std::vector<std::int32_t> questionsClasses(const JudgingClasses& classes);
 
+/// The classes of each category, one entry a category and one at least. A class without a category
+/// of its own is one of the first.
+[[nodiscard]] std::vector<std::vector<std::int32_t>> classesByCategory(const Contest& contest);
+
 /// A class as lists show it: its number, counted from 1 among all classes, and its name.
 [[nodiscard]] std::string classLine(const JudgingClasses& classes, std::int32_t index);
 

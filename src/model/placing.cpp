@@ -33,6 +33,27 @@ std::uint32_t cutsBetween(const std::array<std::uint32_t, 3>& cuts, std::size_t 
   return sum;
 }
 
+// Calls visit(first, second, points) for every pair that the contestant has the other way round
+// than the officials, neighbours first. Both letters name orders.
+template <typename Visit>
+void visitReversedPairs(PlacingLetter contestantLetter, PlacingLetter officialLetter,
+                        const Cuts& cuts, Visit visit) {
+  const Order placing = orderOfLetter(contestantLetter);
+  const auto official = positionsIn(orderOfLetter(officialLetter));
+  const std::array<std::uint32_t, 3> cutList = {static_cast<std::uint32_t>(cuts.cut1),
+                                                static_cast<std::uint32_t>(cuts.cut2),
+                                                static_cast<std::uint32_t>(cuts.cut3)};
+  for (std::size_t distance = 1; distance < placing.size(); ++distance) {
+    for (std::size_t i = 0; i + distance < placing.size(); ++i) {
+      const std::int32_t first = placing[i];
+      const std::int32_t second = placing[i + distance];
+      const std::size_t above = official[static_cast<std::size_t>(first - 1)];
+      const std::size_t below = official[static_cast<std::size_t>(second - 1)];
+      if (below < above) visit(first, second, cutsBetween(cutList, below, above));
+    }
+  }
+}
+
 }  // namespace
 
 bool isOrderLetter(PlacingLetter letter) {
@@ -47,20 +68,23 @@ std::array<std::int32_t, 4> orderOfLetter(PlacingLetter letter) {
 std::int32_t placingScore(PlacingLetter contestantLetter, PlacingLetter officialLetter,
                           const Cuts& cuts) {
   if (!isOrderLetter(contestantLetter) || !isOrderLetter(officialLetter)) return 0;
-  const Order placing = orderOfLetter(contestantLetter);
-  const auto official = positionsIn(orderOfLetter(officialLetter));
-  const std::array<std::uint32_t, 3> cutList = {static_cast<std::uint32_t>(cuts.cut1),
-                                                static_cast<std::uint32_t>(cuts.cut2),
-                                                static_cast<std::uint32_t>(cuts.cut3)};
   std::uint32_t lost = 0;
-  for (std::size_t i = 0; i < placing.size(); ++i) {
-    for (std::size_t j = i + 1; j < placing.size(); ++j) {
-      const std::size_t above = official[static_cast<std::size_t>(placing[i] - 1)];
-      const std::size_t below = official[static_cast<std::size_t>(placing[j] - 1)];
-      if (below < above) lost += cutsBetween(cutList, below, above);
-    }
-  }
+  visitReversedPairs(contestantLetter, officialLetter, cuts,
+                     [&](std::int32_t, std::int32_t, std::uint32_t points) { lost += points; });
   return static_cast<std::int32_t>(static_cast<std::uint32_t>(kTopScore) - lost);
+}
+
+std::vector<LostPair> lostPairs(PlacingLetter contestantLetter, PlacingLetter officialLetter,
+                                const Cuts& cuts) {
+  std::vector<LostPair> pairs;
+  if (!isOrderLetter(contestantLetter) || !isOrderLetter(officialLetter)) return pairs;
+  visitReversedPairs(contestantLetter, officialLetter, cuts,
+                     [&](std::int32_t first, std::int32_t second, std::uint32_t points) {
+                       if (points != 0) {
+                         pairs.push_back({first, second, static_cast<std::int32_t>(points)});
+                       }
+                     });
+  return pairs;
 }
 
 bool validateCuts(std::uint32_t cut1, std::uint32_t cut2, std::uint32_t cut3) {

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstdint>
+#include <vector>
 
 namespace scorvane {
 
@@ -39,6 +40,21 @@ struct Cuts {
 /// below 0.
 [[nodiscard]] std::int32_t placingScore(PlacingLetter contestantLetter,
                                         PlacingLetter officialLetter, const Cuts& cuts);
+
+/// A pair of animals that a contestant has the other way round than the officials, and what it
+/// cost: `first` was placed above `second`.
+struct LostPair {
+  std::int32_t first = 0;
+  std::int32_t second = 0;
+  std::int32_t points = 0;
+  friend bool operator==(const LostPair&, const LostPair&) = default;
+};
+
+/// Where the points of a placing went: the pairs that cost any, neighbours in the contestant's
+/// order first. Their points add up (modulo 2^32) to 50 less the placing score. None when either
+/// letter is outside 'A' to 'X'.
+[[nodiscard]] std::vector<LostPair> lostPairs(PlacingLetter contestantLetter,
+                                              PlacingLetter officialLetter, const Cuts& cuts);
 
 /// Whether a class's cuts are legal: their total at most 15; with a total of 15 the middle cut at
 /// most 5, with 14 at most 8. The values are unsigned, as a field of digits holds them.

@@ -1,6 +1,24 @@
 #include "model/team_index.h"
 
+#include <algorithm>
+
 namespace scorvane {
+
+namespace {
+
+const std::string kNoTeam;
+
+}  // namespace
+
+const std::string& teamOf(const Contest& contest, ContestantNumber number) {
+  if (!contest.contestantNames.contains(number)) return kNoTeam;
+  for (const auto& [name, team] : contest.teams) {
+    if (std::find(team.members.begin(), team.members.end(), number) != team.members.end()) {
+      return name;
+    }
+  }
+  return kNoTeam;
+}
 
 TeamIndex::TeamIndex(const Contest& contest)
     : contest_(contest), teams_(contest.contestantNames.size()) {
@@ -14,9 +32,8 @@ TeamIndex::TeamIndex(const Contest& contest)
 }
 
 const std::string& TeamIndex::teamOf(ContestantNumber number) const {
-  static const std::string none;
   const std::string* team = find(number);
-  return team == nullptr ? none : *team;
+  return team == nullptr ? kNoTeam : *team;
 }
 
 const std::string* TeamIndex::find(ContestantNumber number) const {

@@ -8,6 +8,9 @@
 
 namespace scorvane {
 
+/// The same as TeamIndex::teamOf() for a single contestant.
+[[nodiscard]] const std::string& teamOf(const Contest& contest, ContestantNumber number);
+
 /// Made once for a report; the contest must outlive it and stay as it is.
 class TeamIndex {
  public:

@@ -12,7 +12,7 @@
 namespace scorvane {
 
 /// The address that every footer invites to; fixed when the program is built.
-inline constexpr const char* kWebAddress = SCORVANE_WEB_ADDRESS;
+inline constexpr const char* kWebAddress = SCORVANE_FOOTER_ADDRESS;
 
 /// Rows at the foot of a page that take no line of the report.
 inline constexpr std::int32_t kBottomMargin = 4;

@@ -6,6 +6,7 @@
 #include "model/class_lists.h"
 #include "model/numbering.h"
 #include "model/placing.h"
+#include "model/record_cursor.h"
 #include "reports/report_parts.h"
 #include "text/format.h"
 #include "text/report_marks.h"
@@ -13,26 +14,6 @@
 namespace scorvane {
 
 namespace {
-
-// Reads one contestant's records class by class in ascending order, without a search per cell.
-class RecordCursor {
- public:
-  explicit RecordCursor(const ClassScores* scores) {
-    if (scores == nullptr) return;
-    next_ = scores->begin();
-    end_ = scores->end();
-  }
-  // The record of a class, a blank one when it is missing. `classIndex` must not go back.
-  const ScoreRecord& at(std::int32_t classIndex) {
-    static const ScoreRecord blank;
-    while (next_ != end_ && next_->first < classIndex) ++next_;
-    return next_ != end_ && next_->first == classIndex ? next_->second : blank;
-  }
-
- private:
-  ClassScores::const_iterator next_{};
-  ClassScores::const_iterator end_{};
-};
 
 // A line of fixedPart + perClass * (number of all classes) hyphens.
 std::string makeRule(const JudgingClasses& classes, std::size_t fixedPart, std::size_t perClass) {

@@ -1,5 +1,7 @@
 #include "results/rankings.h"
 
+#include <limits>
+
 #include "model/class_lists.h"
 #include "model/team_index.h"
 #include "results/individual_ranking.h"
@@ -25,7 +27,17 @@ std::vector<MemberRow> memberRows(const Contest& contest,
     rows.push_back(
         {number, &contestantName(contest, number), totalsOf(contest, totals, number).score});
   }
+  for (const std::size_t slot : countingSlots(contest, totals, team)) rows[slot].counts = true;
   return rows;
+}
+
+// The first contestant with a name from a position of the ranking on; null when there is none.
+const RankValues* nextNamed(const Contest& contest, const std::vector<IndividualRankEntry>& ranking,
+                            std::size_t from) {
+  for (std::size_t i = from; i < ranking.size(); ++i) {
+    if (!contestantName(contest, ranking[i].contestantNumber).empty()) return &ranking[i].values;
+  }
+  return nullptr;
 }
 
 }  // namespace
@@ -39,6 +51,13 @@ ReportRequest wholeContestRequest(const Contest& contest, ScoreKind kind) {
   return request;
 }
 
+ReportRequest everybodyRequest(const Contest& contest, ScoreKind kind) {
+  ReportRequest request = wholeContestRequest(contest, kind);
+  request.numToReport = std::numeric_limits<std::int32_t>::max();
+  request.percent = false;
+  return request;
+}
+
 std::vector<IndividualRow> individualRows(const Contest& contest, const ReportRequest& request) {
   const std::size_t named = countNamed(contest);
   const std::int64_t wanted = rowsToList(request, named);
@@ -48,7 +67,8 @@ std::vector<IndividualRow> individualRows(const Contest& contest, const ReportRe
   const TeamIndex teams(contest);
   std::vector<IndividualRow> rows;
   RankValues previous;
-  for (std::size_t i = 0; i < ranking.size(); ++i) {
+  std::size_t i = 0;
+  for (; i < ranking.size(); ++i) {
     const auto& [number, values] = ranking[i];
     const std::string& name = contestantName(contest, number);
     if (!name.empty()) {
@@ -57,13 +77,26 @@ std::vector<IndividualRow> individualRows(const Contest& contest, const ReportRe
       // Odd but required, docs/required-behaviour.md: nameless-neighbour-shows-tie
       const bool hasNext = place < named && i + 1 < ranking.size();
       const RankValues next = hasNext ? ranking[i + 1].values : RankValues{};
-      rows.push_back({static_cast<int>(place), number, &name, &teams.teamOf(number), values.score,
-                      tieColumns(order, values, previous, next)});
+      rows.push_back({static_cast<int>(place),
+                      number,
+                      &name,
+                      &teams.teamOf(number),
+                      values.score,
+                      tieColumns(order, values, previous, next),
+                      {}});
+      if (place > 1) {
+        noteTie(order, previous, rows[place - 2].outcome, values, rows[place - 1].outcome);
+      }
       previous = values;
     }
     // Asked after each entry, listed or not.
     // Odd but required, docs/required-behaviour.md: zero-rows-list-the-leader
     if (static_cast<std::int64_t>(rows.size()) >= wanted) break;
+  }
+  const RankValues* next = nextNamed(contest, ranking, i + 1);
+  TieOutcome ofNext;
+  if (next != nullptr && !rows.empty()) {
+    noteTie(order, previous, rows.back().outcome, *next, ofNext);
   }
   return rows;
 }
@@ -75,12 +108,16 @@ std::vector<TeamRow> teamRows(const Contest& contest, const ReportRequest& reque
   const std::vector<TeamRankEntry> ranking = rankTeams(contest, totals, order);
   std::vector<TeamRow> rows;
   RankValues previous;
+  TieOutcome ofThis;
   for (std::size_t i = 0; i < ranking.size(); ++i) {
     const auto& [name, team] = *ranking[i].team;
     const RankValues& values = ranking[i].values;
     const RankValues next = i + 1 < ranking.size() ? ranking[i + 1].values : RankValues{};
     rows.push_back({static_cast<int>(i) + 1, &name, &team.coach, memberRows(contest, totals, team),
-                    values.score, tieColumns(order, values, previous, next)});
+                    values.score, tieColumns(order, values, previous, next), ofThis});
+    TieOutcome ofNext;
+    if (i + 1 < ranking.size()) noteTie(order, values, rows.back().outcome, next, ofNext);
+    ofThis = ofNext;
     previous = values;
     if (static_cast<std::int64_t>(rows.size()) >= wanted) break;
   }

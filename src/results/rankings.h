@@ -18,12 +18,14 @@ struct IndividualRow {
   const std::string* team = nullptr;  ///< "" without a team
   std::int32_t score = 0;
   TieColumns ties;
+  TieOutcome outcome;  ///< against the contestants with a name, listed or behind the last one
 };
 
 struct MemberRow {
   ContestantNumber number = 0;
   const std::string* name = nullptr;  ///< "" for a slot without a person
   std::int32_t score = 0;             ///< the member's own, whether it counts or not
+  bool counts = false;                ///< toward the team's score, a slot without a person as 0
 };
 
 struct TeamRow {
@@ -33,10 +35,14 @@ struct TeamRow {
   std::vector<MemberRow> members;  ///< of the regular slots, in slot order
   std::int32_t score = 0;
   TieColumns ties;
+  TieOutcome outcome;
 };
 
 /// The request of the menu commands: every class, number and percentage as set, no title.
 [[nodiscard]] ReportRequest wholeContestRequest(const Contest& contest, ScoreKind kind);
+
+/// The same for a list that leaves nobody out.
+[[nodiscard]] ReportRequest everybodyRequest(const Contest& contest, ScoreKind kind);
 
 /// The contestants with a name, best first, as many as the request asks for. Asked for none it
 /// returns the leader, or no row when the leader has no name. A percentage is taken of all

@@ -96,6 +96,18 @@ RankValues totalsOf(const Contest& contest, const std::vector<IndividualRankEntr
   return position == totals.size() ? RankValues{} : totals[position].values;
 }
 
+std::vector<std::size_t> countingSlots(const Contest& contest,
+                                       const std::vector<IndividualRankEntry>& totals,
+                                       const Team& team) {
+  std::vector<std::int32_t> scores;
+  for (std::size_t slot = 0; slot < regularSlots(contest.settings, team); ++slot) {
+    scores.push_back(memberTotals(contest, totals, team.members[slot]).score);
+  }
+  std::vector<std::size_t> counting;
+  chooseCountingSlots(contest.settings, scores, counting);
+  return counting;
+}
+
 std::vector<TeamRankEntry> rankTeams(const Contest& contest,
                                      const std::vector<IndividualRankEntry>& totals,
                                      TieOrder order) {

@@ -36,6 +36,11 @@ struct TeamRankEntry {
                                   const std::vector<IndividualRankEntry>& totals,
                                   ContestantNumber number);
 
+/// The slots whose members make up a team's total by `totals`, best first.
+[[nodiscard]] std::vector<std::size_t> countingSlots(const Contest& contest,
+                                                     const std::vector<IndividualRankEntry>& totals,
+                                                     const Team& team);
+
 /// All teams, best first. A team's values are the sums over the numToScore best of its regular
 /// members, the very same members for the score and for the values that break ties. A slot whose
 /// contestant has no name counts as a member with zeros.

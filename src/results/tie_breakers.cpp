@@ -46,6 +46,19 @@ TieColumns tieColumns(TieOrder order, const RankValues& row, const RankValues& p
   return columns;
 }
 
+void noteTie(TieOrder order, const RankValues& row, TieOutcome& ofRow, const RankValues& next,
+             TieOutcome& ofNext) {
+  const std::span<const RankField> fields = rankFields(order);
+  const std::size_t equal = equalFields(fields, row, next);
+  if (equal == fields.size()) {
+    ofRow.equalsNext = ofNext.equalsPrevious = true;
+  } else if (equal > 0) {
+    ofRow.rule = static_cast<int>(equal);
+    ofRow.own = row.*fields[equal].field;
+    ofRow.next = next.*fields[equal].field;
+  }
+}
+
 std::string tieBreakerReport() {
   return "\n\n\t                  Rules for Breaking Ties\n\n"
          "\n\n\n\tScoring and tie-breakers for overall placings (non-reasons scores):\n\n"

@@ -91,6 +91,21 @@ struct TieColumns {
 [[nodiscard]] TieColumns tieColumns(TieOrder order, const RankValues& row,
                                     const RankValues& previous, const RankValues& next);
 
+/// How a row stands to the listed rows before and after it.
+struct TieOutcome {
+  bool equalsPrevious = false;  ///< in everything that the ordering compares: a true tie
+  bool equalsNext = false;
+  /// What put it before the next row of the same score: 1 for the ordering's first value that
+  /// breaks ties, and so on; 0 when the scores differ or nothing does.
+  int rule = 0;
+  std::int32_t own = 0;  ///< the deciding values
+  std::int32_t next = 0;
+};
+
+/// Compares two rows that follow each other and notes the outcome with both.
+void noteTie(TieOrder order, const RankValues& row, TieOutcome& ofRow, const RankValues& next,
+             TieOutcome& ofNext);
+
 /// The rules in plain words for the officials, the same for every contest. To be changed together
 /// with the orderings.
 [[nodiscard]] std::string tieBreakerReport();

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <limits>
 
+#include "model/class_lists.h"
 #include "model/team_index.h"
 #include "results/individual_ranking.h"
 #include "results/team_ranking.h"
@@ -13,18 +14,6 @@ namespace scorvane {
 namespace {
 
 constexpr std::size_t kNotShown = std::numeric_limits<std::size_t>::max();
-
-// The classes of each category.
-std::vector<std::vector<std::int32_t>> classesByCategory(const Contest& contest) {
-  std::vector<std::vector<std::int32_t>> members(
-      std::max<std::size_t>(contest.categories.size(), 1));
-  for (std::int32_t k = 0; k < contest.classes.count(); ++k) {
-    const std::int32_t category = contest.classes.category(k);
-    const bool exists = category >= 0 && static_cast<std::size_t>(category) < members.size();
-    members[exists ? static_cast<std::size_t>(category) : 0].push_back(k);
-  }
-  return members;
-}
 
 // A hundred thousand contestants judging thirty classes with everything need a third of this.
 constexpr std::size_t kMostCells = 32U << 20U;

@@ -19,6 +19,7 @@
 #include "storage/safe_save.h"
 #include "text/format.h"
 #include "text/report_marks.h"
+#include "text/unicode.h"
 
 namespace scorvane {
 
@@ -83,7 +84,12 @@ bool agreesToReplaceForeignChanges(Window& owner) {
       "%s\r\n"
       "OK saves your contest there, and the other changes are lost.\r\n"
       "Cancel does NOT save it.  Use File->Save As to save your contest under another name.\r\n",
-      currentFileName().c_str()));
+      shownPath(currentFileName()).c_str()));
+}
+
+void sayNotSaved(Window& owner) {
+  contestWasNotSaved(NotSaved::failed);
+  owner.show(kNotSaved, "File Save Error");
 }
 
 void saveToCurrentFile(Window& owner, ForeignChanges foreignChanges) {
@@ -93,11 +99,7 @@ void saveToCurrentFile(Window& owner, ForeignChanges foreignChanges) {
     if (!agreesToReplaceForeignChanges(owner)) return contestWasNotSaved(NotSaved::cancelled);
     saving = save(bytes, ForeignChanges::replace);
   }
-  if (saving == Saving::failed) {
-    contestWasNotSaved(NotSaved::failed);
-    owner.show(kNotSaved, "File Save Error");
-    return;
-  }
+  if (saving == Saving::failed) return sayNotSaved(owner);
   // The contest in memory gets the placeholder that was written for it.
   if (currentContest().categories.empty()) currentContest().categories = {kNoCategory};
 }
@@ -105,8 +107,9 @@ void saveToCurrentFile(Window& owner, ForeignChanges foreignChanges) {
 void showFault(Window& owner, ContestFault fault, const std::string& path) {
   switch (fault) {
     case ContestFault::unreadable:
-      owner.show(formatText("Invalid file name (%s) , or file does not exist.", path.c_str()),
-                 "Information");
+      owner.show(
+          formatText("Invalid file name (%s) , or file does not exist.", shownPath(path).c_str()),
+          "Information");
       break;
     case ContestFault::notAContest:
       owner.show("Illegal or corrupt data file.", "Error!");
@@ -131,13 +134,14 @@ FileQuestion contestFileQuestion(FileQuestion::Purpose purpose) {
 void startNewContest() {
   leaveContest();
   currentContest() = newContest();
+  contestIsNew();
   currentFileName().clear();
   reportText() = kWelcomeText;
 }
 
 bool openContest(Window& owner, const std::string& path) {
   std::variant<LoadedContest, ContestFault> loading = ContestFault::unreadable;
-  if (path.size() <= kMaxPathLength) loading = loadContestFile(sessionFiles(), path);
+  if (countCharacters(path) <= kMaxPathLength) loading = loadContestFile(sessionFiles(), path);
   if (const auto* fault = std::get_if<ContestFault>(&loading)) {
     startNewContest();
     showFault(owner, *fault, path);
@@ -175,6 +179,7 @@ void saveContestAs(Window& owner) {
   currentFileName().clear();
   auto path = owner.chooseFile(contestFileQuestion(FileQuestion::Purpose::save));
   if (!path) return contestWasNotSaved(NotSaved::cancelled);
+  if (countCharacters(*path) > kMaxPathLength) return sayNotSaved(owner);
   currentFileName() = std::move(*path);
   // Choosing the name was the consent to replace what is there.
   saveToCurrentFile(owner, ForeignChanges::replace);

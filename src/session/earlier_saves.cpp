@@ -132,6 +132,25 @@ std::vector<EarlierSave> earlierSaves(FileSystem& files, const std::string& cont
   return saves;
 }
 
+namespace {
+
+// A former folder may be that of another contest by now, whose file has the name again.
+bool mayThin(FileSystem& files, const std::string& folder, const std::string& own) {
+  const std::string owner = readNote(files, folder).contestPath;
+  return folder == own || owner.empty() || !exists(files, owner);
+}
+
+void thin(FileSystem& files, const std::string& contestPath) {
+  const std::vector<EarlierSave> saves = earlierSaves(files, contestPath);
+  const std::string own = folderOf(files, contestPath);
+  for (const std::size_t i : superfluousSaves(saves)) {
+    const std::string& path = saves[i].path;
+    if (mayThin(files, path.substr(0, path.rfind('/')), own)) files.remove(path);
+  }
+}
+
+}  // namespace
+
 std::optional<std::string> readEarlierSave(FileSystem& files, const EarlierSave& save) {
   return files.readWhole(save.path);
 }
@@ -140,12 +159,14 @@ Keeping keepEarlierSave(FileSystem& files, const std::string& contestPath, std::
                         bool isUnsavedRest, std::optional<std::int64_t> time) {
   if (files.localDataFolder().empty() || bytes.size() > kMostBytes) return Keeping::failed;
   const std::string folder = folderOf(files, contestPath);
+  if (!files.makeFolders(folder)) return Keeping::failed;
+  // Another program must not take the same number.
+  const auto lock = files.lockForSaving(folder + kNoteName);
   const KeptFiles kept = keptIn(files, folder, contestPath);
   if (!kept.saves.empty() && kept.saves[0].size == bytes.size() &&
       readEarlierSave(files, kept.saves[0]) == bytes) {
     return Keeping::known;
   }
-  if (!files.makeFolders(folder)) return Keeping::failed;
   if (!time && !isUnsavedRest) time = files.lastChange(contestPath);
   KeptName name;
   name.time = std::max<std::int64_t>(time.value_or(files.now()) / kTicksPerSecond, 0);
@@ -154,6 +175,7 @@ Keeping keepEarlierSave(FileSystem& files, const std::string& contestPath, std::
   name.sequence = kept.lastSequence + 1;
   if (!makeFile(files, folder + "/" + name.text(), bytes)) return Keeping::failed;
   makeNote(files, folder, {contestPath.empty() ? "" : fullPath(files, contestPath), ""});
+  if (isUnsavedRest) thin(files, contestPath);
   return Keeping::kept;
 }
 
@@ -164,9 +186,8 @@ void forgetNewestSave(FileSystem& files, const std::string& contestPath) {
 
 void tidyEarlierSaves(FileSystem& files, const std::string& contestPath, std::uint64_t hash) {
   const std::string folder = folderOf(files, contestPath);
-  const std::vector<EarlierSave> saves = keptIn(files, folder, contestPath).saves;
-  if (saves.empty()) return;
-  for (const std::size_t i : superfluousSaves(saves)) files.remove(saves[i].path);
+  if (keptIn(files, folder, contestPath).saves.empty()) return;
+  thin(files, contestPath);
   const std::string content = contentName(hash);
   for (const ListedFile& file : files.list(folder)) {
     if (file.name.starts_with(kContentPrefix) && file.name != content) {
@@ -183,7 +204,8 @@ void followRenamedContest(FileSystem& files, const std::string& contestPath, std
     const std::string folder = earlierSavesFolder(files) + "/" + entry.name;
     if (!entry.isFolder || !exists(files, folder + "/" + contentName(hash))) continue;
     const std::string former = readNote(files, folder).contestPath;
-    if (former.empty() || exists(files, former)) continue;
+    if (former.empty()) continue;
+    if (exists(files, former) && !reachesSameFile(files, former, contestPath)) continue;
     if (files.makeFolders(own)) makeNote(files, own, {fullPath(files, contestPath), entry.name});
     return;
   }

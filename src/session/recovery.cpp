@@ -3,7 +3,6 @@
 #include <cstdlib>
 #include <utility>
 
-#include "model/new_contest.h"
 #include "session/data_folder.h"
 #include "session/earlier_saves.h"
 #include "session/open_contest.h"
@@ -11,6 +10,7 @@
 #include "storage/content_hash.h"
 #include "storage/contest_writer.h"
 #include "storage/safe_save.h"
+#include "text/unicode.h"
 
 namespace scorvane {
 
@@ -19,8 +19,8 @@ namespace {
 /// What is kept of the open contest.
 struct Kept {
   FileState grewFrom;
-  /// The contest's bytes as of that state, and as of the last rewriting of the copy; nothing when
-  /// they are a new contest's, or not known.
+  /// The contest's bytes as of that state or as a new contest, and as of the last rewriting of the
+  /// copy; nothing when they are not known.
   std::optional<std::uint64_t> savedHash;
   std::optional<std::uint64_t> copiedHash;
 
@@ -49,17 +49,12 @@ Kept& kept() {
   return keeper().kept;
 }
 
-std::uint64_t savedHash() {
-  return kept().savedHash ? *kept().savedHash : contentHash(writeContest(newContest()));
-}
-
 // A copy that another run left, and that could not be put anywhere else, is not written over.
 bool claimPath(FileSystem& files) {
   if (!kept().path.empty()) return true;
   constexpr int kMostCopies = 50;
   if (files.localDataFolder().empty() || !files.makeFolders(recoveryFolder(files))) return false;
-  const std::string name =
-      contestKey(files, kept().grewFrom.exists ? kept().grewFrom.path : currentFileName());
+  const std::string name = contestKey(files, kept().grewFrom.exists ? kept().grewFrom.path : "");
   for (int i = 1; i <= kMostCopies; ++i) {
     const std::string path = copyPath(files, name, i);
     FileSystem::Claim claim = files.claim(path);
@@ -118,6 +113,7 @@ void discardCopy() {
 void startKeepingWork(FileSystem& files) {
   keeper() = {};
   keeper().files = &files;
+  contestIsNew();
   keepUntitledRests(files);
 }
 
@@ -143,7 +139,10 @@ void scoreStored(const TypedScore& score) {
   const std::string line = typedScoreLine(score);
   kept().typed += line;
   kept().copiedHash.reset();
-  if (!append(line)) rewriteCopy(writeContest(currentContest()));
+  if (append(line)) return;
+  kept().file.reset();
+  kept().isCopyWhole = false;
+  if (mayTryAgain(sessionFiles())) rewriteCopy(writeContest(currentContest()));
 }
 
 void contestChanged() {
@@ -151,7 +150,7 @@ void contestChanged() {
   std::string bytes = writeContest(currentContest());
   const std::uint64_t hash = contentHash(bytes);
   if (hash == kept().copiedHash) return;
-  if (hash == savedHash() && !kept().saveFailed) {
+  if (hash == kept().savedHash && !kept().saveFailed) {
     const FileState grewFrom = kept().grewFrom;
     const auto saved = kept().savedHash;
     discardCopy();
@@ -168,11 +167,15 @@ void sayIfWorkIsNotKept(Window& owner) {
   if (!keeper().hasToSay || keeper().hasSaid) return;
   keeper().hasSaid = true;
   owner.show("Scorvane could not keep a recovery copy of your work in this folder:\r\n" +
-                 recoveryFolder(sessionFiles()) +
+                 shownPath(recoveryFolder(sessionFiles())) +
                  "\r\n"
                  "Perhaps the disk is full.  Saving goes on as usual, but scores typed since the "
                  "last save would be lost if the computer failed.\r\n",
              "Warning");
+}
+
+void contestIsNew() {
+  if (isKeepingWork()) kept().savedHash = contentHash(writeContest(currentContest()));
 }
 
 void contestHasFile(const std::string& path, std::string_view bytes) {
@@ -197,7 +200,7 @@ void leaveContest() {
   FileSystem& files = sessionFiles();
   const std::string bytes = writeContest(currentContest());
   const FileState& grewFrom = kept().grewFrom;
-  const bool isSaved = contentHash(bytes) == savedHash() && !kept().saveFailed;
+  const bool isSaved = contentHash(bytes) == kept().savedHash && !kept().saveFailed;
   if (kept().saveFailed && !kept().isCopyWhole) {
     kept().failedAt.reset();  // the last attempt
     rewriteCopy(bytes);

@@ -40,6 +40,8 @@ void sayIfWorkIsNotKept(Window& owner);
 
 // What opening and saving tell.
 
+/// The contest is a new one: what it holds now, today's date included, is no work.
+void contestIsNew();
 /// The contest was read from, or saved to, a file.
 void contestHasFile(const std::string& path, std::string_view bytes);
 /// The contest was not saved, as the operator thought better of it, or as that failed: then what is

@@ -74,10 +74,30 @@ std::string originLine(const FileState& grewFrom, std::string_view base) {
   return checked(line.append("\t").append(grewFrom.path));
 }
 
+namespace {
+
+constexpr char kLetterTyped = 'L', kReasonsTyped = 'R', kQuestionsTyped = 'Q';
+
+TypedScore readTyped(std::string_view line) {
+  TypedScore score{parseScoreLine(line), {}};
+  const std::string_view fields = line.substr(line.rfind('\t') + 1);
+  score.fields = {fields.find(kLetterTyped) != std::string_view::npos,
+                  fields.find(kReasonsTyped) != std::string_view::npos,
+                  fields.find(kQuestionsTyped) != std::string_view::npos};
+  return score;
+}
+
+}  // namespace
+
 std::string typedScoreLine(const TypedScore& score) {
   const ScoreRecord& record = score.record;
-  return checked(formatText("%d\t%d\t%c\t%d\t%d\t%d", score.number, score.classIndex, record.letter,
-                            record.placingScore, record.reasonsScore, record.questionsScore));
+  std::string line =
+      formatText("%d\t%d\t%c\t%d\t%d\t%d\t", score.number, score.classIndex, record.letter,
+                 record.placingScore, record.reasonsScore, record.questionsScore);
+  if (score.fields.letter) line += kLetterTyped;
+  if (score.fields.reasons) line += kReasonsTyped;
+  if (score.fields.questions) line += kQuestionsTyped;
+  return checked(std::move(line));
 }
 
 RecoveryCopy readRecoveryCopy(std::string_view bytes) {
@@ -96,7 +116,7 @@ RecoveryCopy readRecoveryCopy(std::string_view bytes) {
     if (fields.nextOrEmpty() == kOriginKey) {
       copy.grewFrom = readOrigin(fields, *line, baseHash);
     } else {
-      copy.typed.push_back(parseScoreLine(*line));
+      copy.typed.push_back(readTyped(*line));
     }
   }
   copy.baseIsWhole = copy.grewFrom && contentHash(copy.base) == baseHash;
@@ -106,7 +126,7 @@ RecoveryCopy readRecoveryCopy(std::string_view bytes) {
 std::optional<Contest> recoveredContest(const RecoveryCopy& copy) {
   std::optional<Contest> contest;
   auto reading = readContest(copy.base);
-  if (auto* read = std::get_if<Contest>(&reading)) {
+  if (auto* read = std::get_if<Contest>(&reading); read != nullptr && copy.baseIsWhole) {
     contest = std::move(*read);
   } else {
     contest = salvageContest(copy.base);
@@ -117,14 +137,13 @@ std::optional<Contest> recoveredContest(const RecoveryCopy& copy) {
 
 std::optional<Contest> recoveredOver(const Contest& file, const RecoveryCopy& copy) {
   if (copy.baseIsWhole) return recoveredContest(copy);
+  const auto rest = salvageContest(copy.base);
+  if (!rest || rest->classes.className != file.classes.className) return std::nullopt;
   std::optional<Contest> contest = file;
-  if (const auto rest = salvageContest(copy.base)) {
-    if (rest->classes.className != file.classes.className) return std::nullopt;
-    for (const auto& [number, records] : rest->scores) {
-      if (!file.contestantNames.contains(number)) continue;
-      for (const auto& [classIndex, record] : records) {
-        if (record != ScoreRecord{}) contest->scores[number][classIndex] = record;
-      }
+  for (const auto& [number, records] : rest->scores) {
+    if (!file.contestantNames.contains(number)) continue;
+    for (const auto& [classIndex, record] : records) {
+      if (record != ScoreRecord{}) contest->scores[number][classIndex] = record;
     }
   }
   addTyped(copy, *contest);

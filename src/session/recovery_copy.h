@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "model/contest.h"
+#include "storage/file.h"
 #include "storage/score_reader.h"
 
 namespace scorvane {
@@ -22,15 +23,26 @@ struct FileState {
   std::uint64_t hash = 0;
   std::int64_t changed = 0;
 
-  /// Whether a file is this very one, perhaps under another name.
+  /// Whether a file is this very one, perhaps under another name. Memory sticks round the time of
+  /// the last change to two seconds, and only show it when they are plugged in again.
   [[nodiscard]] bool isSameFile(const FileState& other) const {
+    constexpr std::int64_t kRounding = 2 * kTicksPerSecond;
     return exists && other.exists && size == other.size && hash == other.hash &&
-           changed == other.changed;
+           changed - other.changed <= kRounding && other.changed - changed <= kRounding;
   }
 };
 
+/// Which scores of a card were typed.
+struct TypedFields {
+  bool letter = false;
+  bool reasons = false;
+  bool questions = false;
+};
+
 /// A contestant's record for a class after a score was typed.
-using TypedScore = ScoreLine;
+struct TypedScore : ScoreLine {
+  TypedFields fields{};
+};
 
 struct RecoveryCopy {
   std::optional<FileState> grewFrom;  ///< nothing when that line is damaged
@@ -41,7 +53,7 @@ struct RecoveryCopy {
 
 /// The line that follows the contest file `base`.
 [[nodiscard]] std::string originLine(const FileState& grewFrom, std::string_view base);
-/// A score line of the contest file with its check value.
+/// A score line of the contest file with what was typed and its check value.
 [[nodiscard]] std::string typedScoreLine(const TypedScore& score);
 
 /// Any bytes are safe; every added line that is whole is read.

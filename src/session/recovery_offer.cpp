@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <ctime>
-#include <set>
+#include <map>
 #include <utility>
 #include <vector>
 
@@ -24,9 +24,8 @@ namespace {
 struct FoundCopy {
   FoundCopy(FileSystem& files, const ListedFile& listed)
       : path(recoveryFolder(files) + "/" + listed.name) {
+    changed = listed.changed;
     claim = files.claim(path).hold;
-    // After a power cut a folder's list may still tell of the time when the file was opened.
-    changed = files.lastChange(path).value_or(listed.changed);
     if (claim != nullptr) bytes = files.readWhole(path);
     if (bytes) copy = readRecoveryCopy(*bytes);
   }
@@ -45,6 +44,10 @@ struct FoundCopy {
 std::vector<ListedFile> listedCopies(FileSystem& files) {
   std::vector<ListedFile> copies = files.list(recoveryFolder(files));
   std::erase_if(copies, [](const ListedFile& file) { return !file.name.ends_with(".scv"); });
+  // After a power cut a folder's list may still tell of the time when the file was opened.
+  for (ListedFile& copy : copies) {
+    copy.changed = files.lastChange(recoveryFolder(files) + "/" + copy.name).value_or(copy.changed);
+  }
   std::stable_sort(copies.begin(), copies.end(),
                    [](const ListedFile& a, const ListedFile& b) { return a.changed > b.changed; });
   return copies;
@@ -81,20 +84,26 @@ struct RecoveredWork {
 
 RecoveredWork workIn(const Contest& file, const Contest& recovered, const RecoveryCopy& copy) {
   RecoveredWork work;
-  std::set<std::pair<ContestantNumber, std::int32_t>> listed;
-  const auto list = [&](ContestantNumber number, std::int32_t classIndex) {
+  std::map<std::pair<ContestantNumber, std::int32_t>, std::size_t> listed;
+  const auto list = [&](ContestantNumber number, std::int32_t classIndex, TypedFields fields) {
     if (!recovered.contestantNames.contains(number)) return;
-    if (!listed.emplace(number, classIndex).second) return;
-    work.scores.push_back({number, classIndex, scoreRecord(recovered, number, classIndex)});
+    const ScoreRecord record = scoreRecord(recovered, number, classIndex);
+    const ScoreRecord before = scoreRecord(file, number, classIndex);
+    const auto [at, isNew] = listed.emplace(std::pair(number, classIndex), work.scores.size());
+    if (isNew) work.scores.push_back({{number, classIndex, record}, {}});
+    TypedFields& all = work.scores[at->second].fields;
+    all.letter |= fields.letter || record.letter != before.letter;
+    all.reasons |= fields.reasons || record.reasonsScore != before.reasonsScore;
+    all.questions |= fields.questions || record.questionsScore != before.questionsScore;
   };
-  for (const TypedScore& score : copy.typed) list(score.number, score.classIndex);
+  for (const TypedScore& score : copy.typed) list(score.number, score.classIndex, score.fields);
   if (file.classes.className == recovered.classes.className) {
     for (const auto& [number, records] : recovered.scores) {
       for (const auto& [classIndex, record] : records) {
         // A placing score alone was worked out anew and not typed.
         ScoreRecord before = scoreRecord(file, number, classIndex);
         before.placingScore = record.placingScore;
-        if (record != before) list(number, classIndex);
+        if (record != before) list(number, classIndex, {});
       }
     }
   }
@@ -143,8 +152,10 @@ bool wantsBack(Window& owner, const RecoveredWork& work, const std::string& unti
   return owner.ask(question) == Answer::yes;
 }
 
-std::string scoreOrDashes(bool carried, std::int32_t score) {
-  return carried ? std::to_string(score) : "---";
+// Nothing for a score that was not typed, as the card may not carry it yet.
+std::string typedText(bool carried, bool typed, std::int32_t score) {
+  if (!carried) return "---";
+  return typed ? std::to_string(score) : "";
 }
 
 std::string recoveredReport(const Contest& contest, const RecoveredWork& work) {
@@ -157,16 +168,19 @@ std::string recoveredReport(const Contest& contest, const RecoveredWork& work) {
   out += std::string(77, '-') + "\n";
   for (const TypedScore& score : work.scores) {
     const std::int32_t k = score.classIndex;
-    appendFormat(out, "%6d %-20.20s %2d. %-20.20s   %c    %7s %9s\n", score.number,
-                 contestantName(contest, score.number).c_str(), k + 1, classes.name(k).c_str(),
-                 score.record.letter,
-                 scoreOrDashes(classes.hasReasons(k), score.record.reasonsScore).c_str(),
-                 scoreOrDashes(classes.hasQuestions(k), score.record.questionsScore).c_str());
+    appendFormat(
+        out, "%6d %-20.20s %2d. %-20.20s   %c    %7s %9s\n", score.number,
+        contestantName(contest, score.number).c_str(), k + 1, classes.name(k).c_str(),
+        score.fields.letter ? score.record.letter : kNoLetter,
+        typedText(classes.hasReasons(k), score.fields.reasons, score.record.reasonsScore).c_str(),
+        typedText(classes.hasQuestions(k), score.fields.questions, score.record.questionsScore)
+            .c_str());
   }
   return out;
 }
 
-std::optional<std::string> offer(Window& owner, const FoundCopy& found) {
+/// One question at an opening is enough: what else was left goes to the earlier saves.
+std::optional<std::string> offer(Window& owner, const FoundCopy& found, bool& hasAsked) {
   FileSystem& files = sessionFiles();
   const Contest file = currentContest();
   const bool grewFromFile = found.copy.grewFrom && found.copy.grewFrom->isSameFile(savedState());
@@ -176,7 +190,7 @@ std::optional<std::string> offer(Window& owner, const FoundCopy& found) {
     files.remove(found.path);
     return std::nullopt;
   }
-  if (grewFromFile && recovered) {
+  if (grewFromFile && recovered && !std::exchange(hasAsked, true)) {
     const RecoveredWork work = workIn(file, *recovered, found.copy);
     if (wantsBack(owner, work, clockTime(found.changed, files.now()))) {
       keepIfDamaged(files, found, savedState().path);
@@ -196,28 +210,30 @@ std::optional<std::string> offerRecovery(Window& owner) {
   if (!isKeepingWork()) return std::nullopt;
   FileSystem& files = sessionFiles();
   const std::string key = contestKey(files, savedState().path);
-  const auto movedHere = [&files](const RecoveryCopy& copy) {
-    if (!copy.grewFrom || !copy.grewFrom->isSameFile(savedState())) return false;
-    const auto status = files.status(copy.grewFrom->path);
-    return !status || !status->exists;
+  const FileState opened = savedState();
+  const auto movedHere = [&](const RecoveryCopy& copy) {
+    if (!copy.grewFrom || !copy.grewFrom->isSameFile(opened)) return false;
+    const std::string& path = copy.grewFrom->path;
+    const auto status = files.status(path);
+    return !status || !status->exists || reachesSameFile(files, path, opened.path);
   };
+  std::optional<std::string> report;
+  bool hasAsked = false;
   for (const ListedFile& file : listedCopies(files)) {
     const FoundCopy found(files, file);
     if (!found.bytes || (!isCopyOf(file.name, key) && !movedHere(found.copy))) continue;
-    if (auto report = offer(owner, found)) return report;
+    if (auto broughtBack = offer(owner, found, hasAsked)) report = std::move(broughtBack);
   }
-  return std::nullopt;
+  return report;
 }
 
 void keepUntitledRests(FileSystem& files) {
   removeLeftovers(files);
   const std::string key = contestKey(files, "");
   for (const ListedFile& file : listedCopies(files)) {
+    if (!isCopyOf(file.name, key)) continue;  // it may be large, and its contest comes later
     const FoundCopy found(files, file);
-    if (!found.bytes) continue;
-    const bool hasFile =
-        found.copy.grewFrom ? found.copy.grewFrom->exists : !isCopyOf(file.name, key);
-    if (!hasFile) moveToEarlierSaves(files, found, "");
+    if (found.bytes) moveToEarlierSaves(files, found, "");
   }
 }
 

@@ -104,8 +104,10 @@ void selectMember(Dialog& dialog, const Contest& contest) {
   dialog.setNumber(IDC_MEMBER_NUMBER, *number);
   dialog.setText(IDC_MEMBER_NAME, contestantName(contest, *number));
   dialog.setText(IDC_MEMBER_GROUP, std::string(1, groupOfNumber(contest.settings, *number)));
-  dialog.focus(IDC_MEMBER_NAME);
-  dialog.selectText(IDC_MEMBER_NAME);
+  if (!dialog.isMovingThroughLines()) {
+    dialog.focus(IDC_MEMBER_NAME);
+    dialog.selectText(IDC_MEMBER_NAME);
+  }
   dialog.setDefaultButton(IDC_UPDATE_MEMBER);
 }
 

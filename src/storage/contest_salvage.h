@@ -8,8 +8,9 @@
 
 namespace scorvane {
 
-/// The contest of all lines that are whole: each record that has the shape of its section counts,
-/// whatever number of them was promised. Nothing when not even that makes a contest.
+/// The contest of all lines that are whole. No score comes under another contestant or class than
+/// it was stored for: a damaged class keeps its number under a name that says so, and so do all
+/// classes where lines were lost. Nothing when what is left makes no contest.
 [[nodiscard]] std::optional<Contest> salvageContest(std::string_view bytes);
 
 }  // namespace scorvane

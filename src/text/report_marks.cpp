@@ -2,15 +2,8 @@
 
 namespace scorvane {
 
-namespace {
-
-// Thirty classes and a hundred thousand contestants stay far below this.
-constexpr std::size_t kLongestReport = 128U << 20U;
-
-}  // namespace
-
-bool closeIfTooLong(std::string& report) {
-  if (report.size() <= kLongestReport) return false;
+bool closeIfTooLong(std::string& report, std::size_t longest) {
+  if (report.size() <= longest) return false;
   report += "\nThis report is too long; it ends here.\n";
   return true;
 }

@@ -2,6 +2,7 @@
 // text, and how long one may grow.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace scorvane {
@@ -16,8 +17,14 @@ inline constexpr const char* kPageBreakLine = "               ------- Page Break
 inline constexpr const char* kSmallFontLine = "--- Small Font ---";
 inline constexpr const char* kLargeFontLine = "--- Large Font ---";
 
+/// Thirty classes and a hundred thousand contestants stay far below this.
+inline constexpr std::size_t kLongestReport = 128U << 20U;
+/// For reports that are handed out on paper: ten thousand contestants judging thirty classes stay
+/// below this.
+inline constexpr std::size_t kLongestHandOut = 56U << 20U;
+
 /// Whether a report has grown beyond all use (a damaged contest file can ask for a grid larger
 /// than the memory). Then a last line says that it ends here, and the builder must stop.
-[[nodiscard]] bool closeIfTooLong(std::string& report);
+[[nodiscard]] bool closeIfTooLong(std::string& report, std::size_t longest = kLongestReport);
 
 }  // namespace scorvane

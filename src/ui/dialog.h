@@ -92,6 +92,15 @@ class Dialog : public Window {
   }
   /// Selects a line, or none. Raises no event.
   virtual void select(ControlId id, std::optional<int> index) = 0;
+  /// Selects the first line with a key, or none when there is no such line. Raises no event.
+  void selectKey(ControlId id, const LineKey& key) {
+    int index = 0;
+    while (index < lineCount(id) && lineKey(id, index) != key) ++index;
+    select(id, index);
+  }
+  /// Whether the operator is moving through a list by its keys (arrows, Page, Home, End): what
+  /// answers the selection then leaves the focus in the list.
+  [[nodiscard]] virtual bool isMovingThroughLines() const = 0;
   /// The selected lines of a multiple-selection list, ascending.
   [[nodiscard]] virtual std::vector<int> selections(ControlId id) const = 0;
   virtual void setSelected(ControlId id, int index, bool selected) = 0;

@@ -5,7 +5,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
-#include <cstdlib>
+#include <iterator>
 #include <map>
 #include <utility>
 
@@ -57,6 +57,7 @@ class NativeDialog final : public Dialog {
   void setLines(ControlId id, const std::vector<ListLine>& lines) override;
   [[nodiscard]] std::optional<int> selection(ControlId id) const override;
   void select(ControlId id, std::optional<int> index) override;
+  [[nodiscard]] bool isMovingThroughLines() const override;
   [[nodiscard]] std::vector<int> selections(ControlId id) const override;
   void setSelected(ControlId id, int index, bool selected) override;
   void linkScrolling(std::vector<ControlId> ids) override;
@@ -72,7 +73,6 @@ class NativeDialog final : public Dialog {
   [[nodiscard]] const LineMessages& lineMessages(ControlId id) const;
   [[nodiscard]] bool hasLine(ControlId id, int index) const;
   void keepKey(ControlId id, LRESULT index, const LineKey& key);
-  void useColumnFont();
   void widenFor(ControlId id, const std::string& line);
   void drawDefaultButtons();
 
@@ -119,7 +119,7 @@ LRESULT CALLBACK linkedListProcedure(HWND list, UINT message, WPARAM wParam, LPA
 
 INT_PTR NativeDialog::initialize(HWND window) {
   window_ = window;
-  useColumnFont();
+  columnFont_ = useColumnFont(window);
   prepareLargeFields(window);
   enableTypeAhead(window);
   behaviour_.onOpen(*this);
@@ -146,19 +146,6 @@ INT_PTR NativeDialog::command(ControlId id, WORD notification) {
 INT_PTR NativeDialog::closeBox() {
   if (!ended_) behaviour_.onClose(*this);
   return TRUE;
-}
-
-// Blanks align the columns of list lines, so lists need a fixed-pitch font.
-void NativeDialog::useColumnFont() {
-  const auto dialogFont = reinterpret_cast<HFONT>(SendMessageA(window_, WM_GETFONT, 0, 0));
-  LOGFONTA font{};
-  if (dialogFont == nullptr || GetObjectA(dialogFont, sizeof font, &font) == 0) return;
-  columnFont_ = makeFixedFont(std::abs(static_cast<int>(font.lfHeight)));
-  for (HWND child = GetWindow(window_, GW_CHILD); child != nullptr;
-       child = GetWindow(child, GW_HWNDNEXT)) {
-    if (controlKind(child) != ControlKind::list) continue;
-    SendMessageA(child, WM_SETFONT, reinterpret_cast<WPARAM>(columnFont_.get()), FALSE);
-  }
 }
 
 // Marks the button that Enter presses: the push button that has the focus, else the default one.
@@ -292,6 +279,14 @@ std::optional<int> NativeDialog::selection(ControlId id) const {
 void NativeDialog::select(ControlId id, std::optional<int> index) {
   const int line = index && hasLine(id, *index) ? *index : -1;
   send(id, lineMessages(id).select, static_cast<WPARAM>(line));
+}
+
+bool NativeDialog::isMovingThroughLines() const {
+  HWND focus = GetFocus();
+  if (focus == nullptr || controlKind(focus) != ControlKind::list) return false;
+  constexpr int kMovingKeys[] = {VK_UP, VK_DOWN, VK_PRIOR, VK_NEXT, VK_HOME, VK_END};
+  return std::any_of(std::begin(kMovingKeys), std::end(kMovingKeys),
+                     [](int key) { return GetKeyState(key) < 0; });
 }
 
 std::vector<int> NativeDialog::selections(ControlId id) const {

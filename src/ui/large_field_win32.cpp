@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include "text/unicode_win32.h"
 #include "ui/control_kind_win32.h"
 
 namespace scorvane {
@@ -40,25 +41,13 @@ void prepareLargeFields(NativeWindow dialog) {
 
 std::string unicodeTextOf(NativeWindow field) {
   std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(field)), L'\0');
-  text.resize(static_cast<std::size_t>(
-      std::max(GetWindowTextW(field, text.data(), static_cast<int>(text.size()) + 1), 0)));
-  const auto convert = [&text](char* to, int room) {
-    return WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), to, room,
-                               nullptr, nullptr);
-  };
-  std::string utf8(text.empty() ? 0 : static_cast<std::size_t>(convert(nullptr, 0)), '\0');
-  if (!utf8.empty()) convert(utf8.data(), static_cast<int>(utf8.size()));
-  return utf8;
+  const int length = GetWindowTextW(field, text.data(), static_cast<int>(text.size()) + 1);
+  text.resize(static_cast<std::size_t>(std::max(length, 0)));
+  return utf8OfWide(text);
 }
 
 void setUnicodeTextOf(NativeWindow field, std::string_view utf8) {
-  std::wstring text(utf8.size(), L'\0');  // no character takes more units than bytes
-  const int length =
-      utf8.empty() ? 0
-                   : MultiByteToWideChar(CP_UTF8, 0, utf8.data(), static_cast<int>(utf8.size()),
-                                         text.data(), static_cast<int>(text.size()));
-  text.resize(static_cast<std::size_t>(length));
-  SetWindowTextW(field, text.c_str());
+  if (const auto wide = wideOf(utf8)) SetWindowTextW(field, wide->c_str());
 }
 
 }  // namespace scorvane

@@ -31,7 +31,7 @@ bool chooseLine(HWND list, char typed) {
   const auto line = lineBeginningWith(linesOf(list), typed,
                                       current == LB_ERR ? std::nullopt : std::optional(current));
   if (!line) return false;
-  if (*line == current) return true;
+  // The line that is chosen already is chosen again, as a click does.
   SendMessageA(list, LB_SETCURSEL, static_cast<WPARAM>(*line), 0);
   const auto id = static_cast<WORD>(GetDlgCtrlID(list));
   SendMessageA(GetParent(list), WM_COMMAND, MAKEWPARAM(id, LBN_SELCHANGE),

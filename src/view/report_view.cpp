@@ -47,6 +47,12 @@ ViewSize pictureSize(const ViewSize& own, const ViewSize& client) {
   return {static_cast<int>(width), static_cast<int>(width * own.height / own.width)};
 }
 
+int zoomedPoints(int points, int steps) {
+  constexpr int kSmallest = 4;
+  constexpr int kLargest = 40;
+  return std::clamp(points + steps, kSmallest, kLargest);
+}
+
 int ScrollBar::clamped(int wanted) const {
   const int last = std::max(0, maximum - std::max(page - 1, 0));
   return std::clamp(wanted, 0, last);

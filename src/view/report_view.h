@@ -28,6 +28,11 @@ inline constexpr int kPicturePosition = 50;
 /// area would cut it; it then keeps kPicturePosition to the right and below as well.
 [[nodiscard]] ViewSize pictureSize(const ViewSize& own, const ViewSize& client);
 
+/// The size of the report's font in points as the program starts.
+inline constexpr int kReportPoints = 10;
+/// The size that lies so many steps from `points`, larger above 0; from 4 to 40 points.
+[[nodiscard]] int zoomedPoints(int points, int steps);
+
 /// One scroll bar: positions from 0 to `maximum`, of which `page` are in view at once.
 struct ScrollBar {
   int maximum = 0;

@@ -20,7 +20,6 @@ struct PictureResource {
 
 constexpr PictureResource kPicture = {IDB_WELCOME, 96};
 constexpr PictureResource kDensePicture = {IDB_WELCOME_DENSE, 192};
-constexpr int kFontPoints = 10;
 
 ViewSize clientSize(HWND window) {
   RECT client{};
@@ -70,7 +69,7 @@ int thumbPosition(HWND window, int bar, WORD reported) {
 }  // namespace
 
 ReportWindow::ReportWindow(NativeWindow window, const std::string& text)
-    : window_(window), text_(text) {
+    : window_(window), text_(text), dotsPerInch_(resolutionOf(window)) {
   loadFont();
   loadPicture();
   view_.open(text_, measureFont());
@@ -81,8 +80,7 @@ ReportWindow::ReportWindow(NativeWindow window, const std::string& text)
 }
 
 void ReportWindow::loadFont() {
-  dotsPerInch_ = resolutionOf(window_);
-  font_ = makeFixedFont(MulDiv(kFontPoints, dotsPerInch_, 72));
+  font_ = makeFixedFont(MulDiv(points_, dotsPerInch_, 72));
 }
 
 void ReportWindow::loadPicture() {
@@ -115,9 +113,15 @@ void ReportWindow::refresh() {
 }
 
 void ReportWindow::changeResolution() {
+  dotsPerInch_ = resolutionOf(window_);
+  loadPicture();
+  takeUpFont();
+}
+
+// The first line stays the first.
+void ReportWindow::takeUpFont() {
   const int position = view_.vertical().position;
   loadFont();
-  loadPicture();
   view_.refresh(text_, measureFont(), clientSize(window_));
   view_.scrollVertically(ScrollMove::track, position);
   setBars();
@@ -161,10 +165,15 @@ bool ReportWindow::handle(unsigned message, std::uintptr_t wParam, std::intptr_t
       scroll(SB_HORZ, LOWORD(wParam), HIWORD(wParam));
       return true;
     case WM_MOUSEWHEEL:
+      if ((LOWORD(wParam) & MK_CONTROL) != 0) {
+        useFontOf(zoomedPoints(points_, GET_WHEEL_DELTA_WPARAM(wParam) / WHEEL_DELTA));
+        return true;
+      }
       shift(0, view_.turnWheel(GET_WHEEL_DELTA_WPARAM(wParam)));
       return true;
     case WM_KEYDOWN:
-      return scrollByKey(static_cast<unsigned>(wParam));
+      return GetKeyState(VK_CONTROL) < 0 ? zoomByKey(static_cast<unsigned>(wParam))
+                                         : scrollByKey(static_cast<unsigned>(wParam));
     default:
       return false;
   }
@@ -207,6 +216,31 @@ bool ReportWindow::scrollByKey(unsigned key) {
   }
   shift(0, view_.scrollVertically(*move));
   return true;
+}
+
+bool ReportWindow::zoomByKey(unsigned key) {
+  switch (key) {
+    case VK_OEM_PLUS:
+    case VK_ADD:
+      useFontOf(zoomedPoints(points_, 1));
+      return true;
+    case VK_OEM_MINUS:
+    case VK_SUBTRACT:
+      useFontOf(zoomedPoints(points_, -1));
+      return true;
+    case '0':
+    case VK_NUMPAD0:
+      useFontOf(kReportPoints);
+      return true;
+    default:
+      return scrollByKey(key);
+  }
+}
+
+void ReportWindow::useFontOf(int points) {
+  if (points == points_) return;
+  points_ = points;
+  takeUpFont();
 }
 
 // Scrolls the window and repaints it. A move across has no lasting effect.

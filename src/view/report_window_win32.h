@@ -31,6 +31,9 @@ class ReportWindow {
   void setBar(int bar, const ScrollBar& values, std::optional<ScrollBar>& shown);
   void scroll(int bar, unsigned request, int thumb);
   bool scrollByKey(unsigned key);
+  bool zoomByKey(unsigned key);
+  void useFontOf(int points);
+  void takeUpFont();
   void shift(int across, int down);
   void paint();
   void drawPicture(void* context, const ViewSize& client) const;
@@ -40,6 +43,7 @@ class ReportWindow {
   const std::string& text_;
   ReportView view_;
   int dotsPerInch_ = 96;
+  int points_ = kReportPoints;
   GraphicsObject font_;
   GraphicsObject picture_;
   int pictureDotsPerInch_ = 96;

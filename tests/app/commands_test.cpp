@@ -18,6 +18,7 @@ namespace scorvane {
 namespace {
 
 constexpr int kCopy = 32777, kGenerate = 32867, kSheet = 32843, kReasons = 32823;
+constexpr int kCustom = 32800, kRound = 32862;
 constexpr int kHelp = 32857, kFont = 32809, kAbout = 104;
 
 // Chooses what a dialog must be told, and presses Enter.
@@ -97,6 +98,10 @@ TEST_F(Commands, SayWhatIsInTheirWay) {
   run(kReasons);
   run(1);  // no command
   expectApproved(window.log, "app/obstacles.txt");
+  start();
+  window.operate = [](MemoryDialog& dialog) { dialog.pressEscape(); };
+  for (const int id : {kCustom, kRound}) run(id);
+  EXPECT_EQ(reportText(), "before\n") << "a report nobody chose";
 }
 
 TEST_F(Commands, GenerateAReasonsOrderFromTheTime) {

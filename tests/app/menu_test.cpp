@@ -52,16 +52,20 @@ TEST(Menu, HasTheKeysOfAbout) {
   EXPECT_EQ(keys, "\"?\", 104, ASCII\n\"/\", 104, ASCII\n");
 }
 
-// A letter pressed with Alt leads to one control only.
-TEST(Dialogs, HaveMnemonicsOfTheirOwn) {
+// A letter pressed with Alt leads to one control only, D to Done everywhere. With larger dialogs
+// the buttons would be beyond a display of 1280 by 720 dots at 150 per cent.
+TEST(Dialogs, HaveMnemonicsOfTheirOwnAndFitASmallDisplay) {
   EXPECT_FALSE(dialogTemplates().empty());
   for (const auto& [name, dialog] : dialogTemplates()) {
+    EXPECT_LE(dialog.width, 440) << name;
+    EXPECT_LE(dialog.height, 210) << name;
     std::set<int> letters;
     for (const TemplateControl& control : dialog.controls) {
       const std::size_t mark = control.caption.find('&');
       if (mark == std::string::npos) continue;
       EXPECT_TRUE(letters.insert(std::toupper(control.caption[mark + 1])).second)
           << name << ": " << control.caption;
+      EXPECT_EQ(control.caption[mark + 1] == 'D', control.caption == "&Done") << name;
     }
   }
 }

@@ -154,6 +154,24 @@ class PaintingTest(DesktopTest):
         self.show(CONTESTANTS)
         self.expect(0)
 
+    def test_a_wide_report_is_made_to_fit(self):
+        self.show_first_report(self.sample("state.scv"))
+        own = self.lettering.width, self.lettering.height
+
+        def expect_size(smaller):
+            def shown():
+                self.lettering = Lettering.learned(self.picture(self.main), self.lines) or self.lettering
+                size = self.lettering.width, self.lettering.height
+                return size < own if smaller else size == own
+            wait_for(shown, "the report in other letters")
+        for change, back in (((("mousemove", *self.main.client_area()[:2], "keydown", "ctrl", "click", WHEEL_DOWN,
+                                "click", WHEEL_DOWN, "keyup", "ctrl")), ("ctrl+0",)),
+                             (("key", "ctrl+minus", "key", "ctrl+KP_Subtract"), ("ctrl+equal", "ctrl+KP_Add"))):
+            self.desktop.mouse(*change)
+            expect_size(smaller=True)
+            self.desktop.keys(*back)
+            expect_size(smaller=False)
+
     def test_a_narrow_window_scrolls_across_by_its_bar_alone(self):
         self.show_first_report(self.sample("state.scv"))
         self.main.resize(500, 400)

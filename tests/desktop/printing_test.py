@@ -22,7 +22,7 @@ def expected_pages(report, body_lines):
     lines = report.replace("\t", " ").split("\n")[:-1]
     head = ["State Livestock Judging Championship         October 03, 2026", "Senior Division - Printed TIME"]
     bodies = [lines[i:i + body_lines] for i in range(4, len(lines), body_lines)]
-    footer = "        Tabulated by Scorvane       -Page {:<2}-       visit www.scorvane.example"
+    footer = "        Tabulated by Scorvane       -Page {:<2}-       visit Scorvane"
     return [[line.rstrip() for line in [*head, *lines[:4], *body, footer.format(number)] if line.strip()]
             for number, body in enumerate(bodies, 1)]
 

@@ -61,7 +61,12 @@ class Setup(DesktopTest):
         self.assertEqual(dialog.lines(1019), ["Ash", "Elm"])
         dialog.choose(1019, "Ash")
         self.assertEqual(dialog.lines(1060), ["204 - Cy   A", "205 - Dee   B", "206 - Eve   C (alternate)"])
-        dialog.close()
+        # The arrow keys stay in the list.
+        for name in ("Dee", "Eve"):
+            self.desktop.keys(*(("alt+b", "Home", "Down") if name == "Dee" else ("Down",)))
+            wait_for(lambda: dialog.text(1020) == name, f"the member {name}")
+            self.assertEqual(dialog.focused(), 1060)
+        self.desktop.keys("alt+d")
         self.done(dialog)
 
     def correct_a_name(self):
@@ -83,6 +88,33 @@ class Setup(DesktopTest):
         self.fill_in_teams()
         self.correct_a_name()
         self.assertEqual(self.file.read_bytes(), (ROOT / "tests/desktop/set_up.scv").read_bytes())
+
+
+class SmallDisplay(DesktopTest):
+    """1280 by 720 dots at 150 per cent, where the letters here are lower than those of Windows by a seventh."""
+    DIALOGS = (32787, 32788, 32789, 32864, 32856, 32791, 32822, 32823, 32826, 32843, 32800, 32862, 33023, 104)
+
+    def test_every_dialog_fits(self):
+        for dpi in (96, 144, 192):
+            self.desktop.set_dpi(dpi)
+            self.addCleanup(self.desktop.set_dpi, 96)
+            app = self.start(self.sample())
+            app.main().command(32789)  # a save, for the earlier ones to be there
+            teams = app.window("Setup Teams")
+            teams.choose(1019, "Alder County 4-H")
+            teams.click(1005)
+            teams.close()
+            app.wait_closed(teams)
+            sizes = {}
+            for command in self.DIALOGS:
+                app.main().command(command)
+                dialog = app.window()
+                sizes[dialog.title()] = dialog.rectangle()[2:]
+                dialog.close()
+                app.wait_closed(dialog)
+            app.close()
+            self.assertEqual({name: size for name, size in sizes.items()
+                              if size[0] > 1280 * dpi / 144 or size[1] > 617 * dpi / 144}, {}, dpi)
 
 
 if __name__ == "__main__":

@@ -48,6 +48,27 @@ TEST(PlacingScore, SubtractsTheCutsOfEveryReversedPair) {
   }
 }
 
+// All placings under all cuts: each pair stands the other way round with the officials, none is
+// told twice, and they add up to what was lost, also of a score below 0.
+TEST(LostPairs, AddUpToWhatWasLost) {
+  EXPECT_EQ(lostPairs('J', 'S', {2, 3, 4}),
+            (std::vector<LostPair>{{3, 4, 9}, {2, 4, 5}, {3, 1, 7}, {2, 1, 3}}));
+  EXPECT_EQ(lostPairs('X', 'A', {0, 13, 0}).size(), 4U);
+  EXPECT_TRUE(lostPairs('Z', 'A', {2, 3, 4}).empty());
+  EXPECT_TRUE(lostPairs('A', ' ', {2, 3, 4}).empty());
+  for (std::int32_t code = 0; code < 16 * 16 * 16; ++code) {
+    const Cuts cuts = {code % 16, code / 16 % 16, code / 256};
+    if (cuts.cut1 + cuts.cut2 + cuts.cut3 > 15) continue;
+    for (char official = 'A'; official <= 'X'; ++official) {
+      for (char letter = 'A'; letter <= 'X'; ++letter) {
+        std::int32_t lost = 0;
+        for (const LostPair& pair : lostPairs(letter, official, cuts)) lost += pair.points;
+        ASSERT_EQ(lost, 50 - placingScore(letter, official, cuts)) << letter << official << code;
+      }
+    }
+  }
+}
+
 TEST(Cuts, AreLegalUpToFifteenWithASmallMiddleCut) {
   using Three = std::array<std::uint32_t, 3>;
   for (const auto& [a, b, c] : {Three{5, 5, 5}, {3, 8, 3}, {0, 13, 0}}) {

@@ -1,11 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <random>
-
 #include "model/class_lists.h"
 #include "results/individual_ranking.h"
 #include "results/team_ranking.h"
-#include "tests/support/contest_builder.h"
+#include "tests/support/random_contest.h"
 
 namespace scorvane {
 
@@ -69,37 +67,6 @@ RankValues teamSlowly(const Contest& contest, const Team& team, ScoreKind kind,
            sum.totalOverall + member.totalOverall, sum.setReasons + member.setReasons};
   }
   return sum;
-}
-
-// Few different scores, so that ties go deep; some contestants without some or all records, some
-// teams without some of their slots.
-Contest randomContest(std::mt19937& random) {
-  const auto upTo = [&](int most) {
-    return static_cast<int>(random() % (static_cast<unsigned>(most) + 1U));
-  };
-  ContestBuilder builder;
-  const std::int32_t perTeam = 1 + upTo(4);
-  builder.members(perTeam, perTeam + upTo(2), upTo(5));
-  const int classes = upTo(4);
-  for (int k = 0; k < classes; ++k) {
-    builder.addClass({.reasons = upTo(1) == 1, .questions = upTo(1) == 1});
-  }
-  for (int t = 0; t < 1 + upTo(12); ++t) {
-    std::vector<std::string> members;
-    for (int slot = 0; slot < builder.contest.settings.totalNumPerTeam; ++slot) {
-      members.emplace_back(upTo(5) == 0 ? "" : "Ann");
-    }
-    const std::string name = "Team " + std::to_string(t);
-    builder.team(name, "", members);
-    if (upTo(5) == 0) builder.contest.teams[name].members.resize(1);
-  }
-  for (const auto& [number, name] : builder.contest.contestantNames) {
-    for (int k = 0; k < classes; ++k) {
-      if (upTo(9) == 0) continue;
-      builder.contest.scores[number][k] = {'A', upTo(2) - 1, upTo(2), upTo(2)};
-    }
-  }
-  return builder.contest;
 }
 
 template <typename Ranking, typename Slowly>

@@ -1,6 +1,10 @@
 #include "session/earlier_saves.h"
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <set>
 
 #include "session/contest_file.h"
 #include "session/data_folder.h"
@@ -189,6 +193,76 @@ TEST_F(KeptSaves, AreFoundUnderAContestsNewName) {
   rename("moved.scv", "again.scv");
   open("again.scv");
   EXPECT_EQ(kept("again.scv"), "Three;Two;County Fair;");
+}
+
+/// The machine's own files with a folder for application data.
+struct LocalSaves : testing::Test {
+  LocalSaves() { ::setenv("XDG_DATA_HOME", folder.path().c_str(), 1); }
+  ~LocalSaves() override { ::unsetenv("XDG_DATA_HOME"); }
+
+  /// One that takes no room on the disk.
+  void keepLarge(const std::string& contestPath, int number) const {
+    const std::string path = earlierSavesFolder(files) + "/" + contestKey(files, contestPath) +
+                             "/0000000" + std::to_string(number) + "-9-150000000-rest.scv";
+    ASSERT_TRUE(files.create(path).file->resize(150'000'000));
+  }
+
+  TemporaryFolder folder;
+  FileSystem& files = systemFiles();
+};
+
+TEST_F(LocalSaves, HaveOneLimitOfSizeAlsoWithoutAFileOrUnderTwoNames) {
+  const auto keep = [&](const std::string& path, const std::string& bytes) {
+    return keepEarlierSave(files, path, bytes, true);
+  };
+  EXPECT_EQ(keep("", "a\r\n"), Keeping::kept);
+  keepLarge("", 2);
+  keepLarge("", 3);
+  EXPECT_EQ(keep("", "b\r\n"), Keeping::kept);
+  EXPECT_EQ(earlierSaves(files, "").size(), 2U);
+
+  const std::string before = folder.file("before.scv");
+  const std::string after = folder.file("after.scv");
+  EXPECT_EQ(keep(before, "a\r\n"), Keeping::kept);
+  keepLarge(before, 2);
+  keepLarge(before, 3);
+  tidyEarlierSaves(files, before, 5);
+  EXPECT_EQ(earlierSaves(files, before).size(), 1U);
+  followRenamedContest(files, after, 5);
+  keepLarge(before, 4);
+  EXPECT_EQ(keep(after, "b\r\n"), Keeping::kept);
+  keepLarge(after, 5);
+  EXPECT_EQ(earlierSaves(files, after).size(), 3U);
+  ASSERT_EQ(files.create(before).outcome, FileOutcome::done);  // another contest by that name
+  tidyEarlierSaves(files, after, 6);
+  EXPECT_EQ(earlierSaves(files, after).size(), 3U);
+  files.remove(before);
+  tidyEarlierSaves(files, after, 6);
+  EXPECT_EQ(earlierSaves(files, after).size(), 2U);
+}
+
+TEST_F(LocalSaves, OfTwoProgramsAreAllKeptAndNumberedOnce) {
+  constexpr int kSaves = 60;
+  const auto keepAll = [&](const std::string& program) {
+    bool isKept = true;
+    for (int i = 0; i < kSaves; ++i) {
+      // Of one length and one time, so that only the number tells their files apart.
+      const std::string bytes = program + std::to_string(100 + i) + "\r\n";
+      isKept &= keepEarlierSave(files, kPath, bytes, true, 7) == Keeping::kept;
+    }
+    return isKept;
+  };
+  const pid_t other = ::fork();
+  if (other == 0) ::_exit(keepAll("B") ? 0 : 1);
+  EXPECT_TRUE(keepAll("A"));
+  int status = -1;
+  ::waitpid(other, &status, 0);
+  EXPECT_EQ(status, 0);
+  std::set<std::string> contents;
+  for (const EarlierSave& save : earlierSaves(files, kPath)) {
+    contents.insert(*readEarlierSave(files, save));
+  }
+  EXPECT_EQ(contents.size(), 2U * kSaves);
 }
 
 // The port's own sides: the folder of this machine.

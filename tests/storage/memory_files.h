@@ -219,7 +219,7 @@ class MemoryFiles : public FileSystem {
   [[nodiscard]] std::size_t freeRoom() const {
     std::size_t used = 0;
     for (const auto& [path, file] : files) used += file.content.size();
-    return room - used;
+    return room - std::min(room, used);
   }
 
   std::map<std::string, std::weak_ptr<void>> claims_;

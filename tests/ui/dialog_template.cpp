@@ -60,7 +60,7 @@ std::vector<TemplateControl> controlsOf(const std::string& script) {
 const std::map<std::string, DialogTemplate>& dialogTemplates() {
   static const std::map<std::string, DialogTemplate> templates = [] {
     std::map<std::string, DialogTemplate> found;
-    const std::regex head(R"re((\w+) DIALOGEX.*\n.*\nCAPTION "(.*)")re");
+    const std::regex head(R"re((\w+) DIALOGEX 0, 0, (\d+), (\d+)\n.*\nCAPTION "(.*)")re");
     for (const auto& entry : std::filesystem::recursive_directory_iterator(SOURCE_DIR "/src")) {
       if (entry.path().extension() != ".rc") continue;
       const std::string script = textOf(entry.path());
@@ -68,7 +68,7 @@ const std::map<std::string, DialogTemplate>& dialogTemplates() {
       if (!std::regex_search(script, dialog, head)) continue;
       const std::string id = dialog.str(1);
       found[id.starts_with("IDD_") && definedIds().count(id) != 0 ? std::to_string(idOf(id)) : id] =
-          {dialog.str(2), controlsOf(script)};
+          {dialog.str(4), std::stoi(dialog.str(2)), std::stoi(dialog.str(3)), controlsOf(script)};
     }
     return found;
   }();

@@ -22,6 +22,8 @@ struct TemplateControl {
 
 struct DialogTemplate {
   std::string caption;
+  int width = 0;  ///< in dialog units, as is the height
+  int height = 0;
   std::vector<TemplateControl> controls;  ///< in tab order
 };
 

@@ -78,6 +78,12 @@ class MemoryDialog : public Scripted<Dialog> {
   void click(ControlId id);
   /// Chooses one line of a list or combo box; a multiple-selection list toggles it.
   void choose(ControlId id, int line);
+  /// Goes to a list and by its arrow keys to a line.
+  void moveTo(ControlId id, int line) {
+    isMoving_ = true;
+    choose(id, line);
+    isMoving_ = false;
+  }
   /// Enter: the focused button, else the default button, else kOkId.
   void pressEnter();
   void pressEscape() { raise(kCancelId, ControlEvent::clicked); }
@@ -110,6 +116,7 @@ class MemoryDialog : public Scripted<Dialog> {
   void setLines(ControlId id, const std::vector<ListLine>& lines) override;
   [[nodiscard]] std::optional<int> selection(ControlId id) const override;
   void select(ControlId id, std::optional<int> index) override;
+  [[nodiscard]] bool isMovingThroughLines() const override { return isMoving_; }
   [[nodiscard]] std::vector<int> selections(ControlId id) const override;
   void setSelected(ControlId id, int index, bool selected) override;
   void linkScrolling(std::vector<ControlId> ids) override { linkedLists_ = std::move(ids); }
@@ -128,12 +135,14 @@ class MemoryDialog : public Scripted<Dialog> {
   void raise(ControlId id, ControlEvent event);
 
   DialogBehaviour& behaviour_;
+  const std::string resource_;
   std::string caption_;
   std::map<ControlId, Control> controls_;
   std::vector<ControlId> linkedLists_;
   ControlId focused_ = 0;
   ControlId defaultButton_ = kOkId;
   std::optional<int> result_;
+  bool isMoving_ = false;
 };
 
 }  // namespace scorvane

@@ -91,6 +91,7 @@ const std::map<std::string, Step> kSteps = {
     {"focus", [](auto& dialog, auto id, auto&) { dialog.focus(id); }},
     {"default", [](auto& dialog, auto id, auto&) { dialog.setDefaultButton(id); }},
     {"choose", [](auto& dialog, auto id, auto& text) { dialog.choose(id, std::stoi(text) - 1); }},
+    {"move", [](auto& dialog, auto id, auto& text) { dialog.moveTo(id, std::stoi(text) - 1); }},
     {"unselect", [](auto& dialog, auto id, auto&) { dialog.select(id, std::nullopt); }},
     {"Enter", [](auto& dialog, auto, auto&) { dialog.pressEnter(); }},
     {"Escape", [](auto& dialog, auto, auto&) { dialog.pressEscape(); }},

@@ -6,6 +6,7 @@
 //   fill Coach 1018: Oak                         a control by its id; its name is for the reader
 //   paste, press, focus, set, default            likewise; the last two no operator can do
 //   choose Teams 1019: 2                         the second line
+//   move Teams 1019: 2                           the same by the arrow keys
 //   unselect Teams 1019
 //   Enter, Escape, close                         the last is the close box
 //   answer: Cancel                               to the next question

@@ -1,0 +1,116 @@
+#include "results/award_lists.h"
+
+#include <array>
+
+#include "model/class_lists.h"
+#include "text/format.h"
+
+namespace scorvane {
+
+namespace {
+
+// A hundred thousand contestants judging thirty classes of twenty categories need half of this.
+constexpr std::size_t kMostVisits = 128U << 20U;
+
+// What ranking one list goes through.
+std::size_t visitsPerList(const Contest& contest) {
+  std::size_t visits = contest.classes.className.size();
+  for (const auto& [number, records] : contest.scores) visits += 8 + records.size();
+  for (const auto& [name, team] : contest.teams) visits += 8 + 8 * team.members.size();
+  return visits;
+}
+
+ReportRequest categoryRequest(const Contest& contest, std::size_t category,
+                              std::vector<std::int32_t> classes) {
+  ReportRequest request;
+  request.classes = std::move(classes);
+  request.numToReport = contest.settings.numToReport;
+  request.percent = contest.settings.reportPercent;
+  request.title = categoryName(contest, static_cast<std::int32_t>(category));
+  return request;
+}
+
+// By an ordering and its values that break ties. The values of the questions ranking are those of
+// the reasons ranking, taken over the questions.
+const char* decider(ScoreKind kind, TieOrder order, int rule) {
+  const bool first = rule == 1;
+  switch (order) {
+    case TieOrder::overall:
+      return first ? "reasons" : "lower placings in reasons classes";
+    case TieOrder::reasons:
+      if (!first) return "the overall score";
+      return kind == ScoreKind::questions ? "lower placings in questions classes"
+                                          : "lower placings in reasons classes";
+    case TieOrder::category:
+      break;
+  }
+  if (first) return "reasons in the category";
+  return rule == 2 ? "reasons in all classes" : "the overall score";
+}
+
+std::string inWords(ScoreKind kind, TieOrder order, int place, const TieOutcome& outcome) {
+  std::string words;
+  if (outcome.equalsPrevious || outcome.equalsNext) {
+    words = "tied with ";
+    if (outcome.equalsPrevious) words += placeInWords(place - 1);
+    if (outcome.equalsPrevious && outcome.equalsNext) words += " and ";
+    if (outcome.equalsNext) words += placeInWords(place + 1);
+    words += ", no rule breaks it";
+  }
+  if (outcome.rule > 0) {
+    appendFormat(words, "%swon on %s, %d to %d", words.empty() ? "" : "; ",
+                 decider(kind, order, outcome.rule), outcome.own, outcome.next);
+  }
+  return words;
+}
+
+}  // namespace
+
+std::optional<std::vector<ReportRequest>> awardRequests(const Contest& contest) {
+  std::vector<ReportRequest> requests;
+  const auto count = static_cast<std::size_t>(contest.classes.count());
+  auto categories = classesByCategory(contest);
+  for (std::size_t category = 0; category < categories.size(); ++category) {
+    const std::size_t size = categories[category].size();
+    // A category of all classes would have the overall awards once more.
+    if (size == 0 || size == count) continue;
+    requests.push_back(categoryRequest(contest, category, std::move(categories[category])));
+  }
+  if (!reasonsClasses(contest.classes).empty()) {
+    requests.push_back(wholeContestRequest(contest, ScoreKind::reasons));
+  }
+  if (!questionsClasses(contest.classes).empty()) {
+    requests.push_back(wholeContestRequest(contest, ScoreKind::questions));
+  }
+  requests.push_back(wholeContestRequest(contest, ScoreKind::overall));
+  if (requests.size() > 4 && requests.size() > kMostVisits / visitsPerList(contest)) {
+    return std::nullopt;
+  }
+  return requests;
+}
+
+const std::string& awardName(const ReportRequest& request) {
+  static const std::array<std::string, kScoreKinds.size()> kNames = {"Overall", "Placings",
+                                                                     "Reasons", "Questions"};
+  return request.title.empty() ? kNames.at(static_cast<std::size_t>(request.kind)) : request.title;
+}
+
+std::string placeInWords(int place) {
+  const int ones = place % 10;
+  const bool isTeen = place / 10 % 10 == 1;
+  const char* ending = isTeen || ones == 0 || ones > 3 ? "th"
+                       : ones == 1                     ? "st"
+                       : ones == 2                     ? "nd"
+                                                       : "rd";
+  return formatText("%d%s", place, ending);
+}
+
+std::string tieInWords(const ReportRequest& request, const IndividualRow& row) {
+  return inWords(request.kind, row.ties.order, row.place, row.outcome);
+}
+
+std::string tieInWords(const ReportRequest& request, const TeamRow& row) {
+  return inWords(request.kind, row.ties.order, row.place, row.outcome);
+}
+
+}  // namespace scorvane

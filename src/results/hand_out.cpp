@@ -1,0 +1,57 @@
+#include "results/hand_out.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "text/format.h"
+#include "text/report_marks.h"
+
+namespace scorvane {
+
+namespace {
+
+// A letter page has 66 lines, of which the head takes seven and the foot four.
+constexpr std::size_t kLinesOnPage = 54;
+
+std::size_t countLines(std::string_view text) {
+  return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+}
+
+}  // namespace
+
+void HandOut::beginPage(std::string title) {
+  title_ = std::move(title);
+  turnPage();
+}
+
+void HandOut::turnPage() {
+  if (hasPages_) text_.append(kPageBreakLine).append("\n");
+  hasPages_ = true;
+  text_ += title_;
+  linesOnPage_ = countLines(title_);
+}
+
+void HandOut::add(std::string_view block) {
+  const std::size_t lines = countLines(block);
+  const bool isFirst = linesOnPage_ == countLines(title_);
+  if (!isFirst && linesOnPage_ + lines > kLinesOnPage) turnPage();
+  text_ += block;
+  linesOnPage_ += lines;
+}
+
+bool HandOut::isTooLong() {
+  return closeIfTooLong(text_, kLongestHandOut);
+}
+
+std::string placingText(PlacingLetter letter) {
+  if (letter == kNoLetter) return "-";
+  if (!isOrderLetter(letter)) return {letter};
+  const auto order = orderOfLetter(letter);
+  return formatText("%c %d%d%d%d", letter, order[0], order[1], order[2], order[3]);
+}
+
+std::string cutsText(const Cuts& cuts) {
+  return formatText("%d-%d-%d", cuts.cut1, cuts.cut2, cuts.cut3);
+}
+
+}  // namespace scorvane

@@ -1,0 +1,40 @@
+// Reports that are handed out page by page.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "model/placing.h"
+
+namespace scorvane {
+
+/// Puts blocks of lines on pages of paper: a block goes to the next page when it does not fit on
+/// this one. One that fits on no page runs on.
+class HandOut {
+ public:
+  /// Every printed page repeats the opening's four lines at its head.
+  explicit HandOut(std::string opening) : text_(std::move(opening)) {}
+
+  /// Begins a page with its title lines, which are repeated on the further pages that its blocks
+  /// need.
+  void beginPage(std::string title);
+  void add(std::string_view block);
+  /// Whether the report has grown beyond all use. It then says so and must not be added to.
+  [[nodiscard]] bool isTooLong();
+  [[nodiscard]] std::string take() { return std::move(text_); }
+
+ private:
+  void turnPage();
+
+  std::string text_;
+  std::string title_;
+  std::size_t linesOnPage_ = 0;
+  bool hasPages_ = false;
+};
+
+/// A placing as letter and order, "B 1243"; "Z" alone, and "-" for none.
+[[nodiscard]] std::string placingText(PlacingLetter letter);
+/// "2-3-4"
+[[nodiscard]] std::string cutsText(const Cuts& cuts);
+
+}  // namespace scorvane
