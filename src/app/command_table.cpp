@@ -9,6 +9,7 @@
 #include "app/window_commands.h"
 #include "output/save_report.h"
 #include "reasons/reasons_reports.h"
+#include "reports/differences_report.h"
 #include "reports/entry_progress_report.h"
 #include "reports/listing_reports.h"
 #include "reports/round_reports.h"
@@ -62,6 +63,12 @@ template <ReasonsSheet form>
 std::optional<std::string> sheet(const Contest& contest, const ReportRequest& request) {
   if (!request.classIndex) return std::nullopt;
   return reasonsSheet(contest, form, *request.classIndex);
+}
+
+std::optional<std::string> comparison(const Contest& contest, const ReportRequest& request) {
+  if (request.other == nullptr) return std::nullopt;
+  return differencesReport(contest, *request.other,
+                           {"Comparison with " + request.otherName, "Here", "There"});
 }
 
 std::optional<std::string> roundVerification(const Contest& contest, const ReportRequest& request) {
@@ -156,6 +163,8 @@ constexpr std::array kCommands = {
     Command{33012, "Tools", "Class Analysis", Report{plain<classAnalysisReport>}},
     Command{33014, "Tools", "Entry Progress", Report{plain<entryProgressReport>}},
     Command{33024, "Tools", "Move Or Clear Cards ...", runMoveCards},
+    Command{33021, "Tools", "Compare With Another File ...", Report{comparison, askOtherContest}},
+    Command{33022, "Tools", "Bring In Scores ...", runBringInScores},
     Command{33023, "Tools", "Earlier Saves ...", runEarlierSaves},
 
     Command{32857, "Help", "Scorvane Help (F1)", helpCommand},

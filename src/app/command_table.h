@@ -18,6 +18,10 @@ struct Command {
   /// What choosing it in the menu does: an action of its own, or showing a report.
   std::variant<void (*)(MainWindow& window), Report> does;
 
+  /// The caption without the dots of a command that asks first.
+  [[nodiscard]] constexpr std::string_view name() const {
+    return caption.substr(0, caption.size() - (caption.ends_with(" ...") ? 4 : 0));
+  }
   /// The report that the command shows; null when it does something else.
   [[nodiscard]] const Report* report() const { return std::get_if<Report>(&does); }
 };

@@ -1,5 +1,6 @@
 #include "app/shown_report.h"
 
+#include <memory>
 #include <utility>
 
 #include "reasons/reasons_class_dialog.h"
@@ -8,9 +9,12 @@
 #include "reports/round_verification_ids.h"
 #include "results/custom_report_dialog.h"
 #include "results/custom_report_ids.h"
+#include "session/contest_file.h"
 #include "session/open_contest.h"
 #include "session/recovery.h"
+#include "storage/contest_loader.h"
 #include "text/report_marks.h"
+#include "text/unicode.h"
 
 namespace scorvane {
 
@@ -55,6 +59,21 @@ std::optional<ReportRequest> askCustom(MainWindow& window) {
   CustomReportDialog dialog;
   window.runDialog(IDD_CUSTOM_REPORT, dialog);
   return dialog.request();
+}
+
+std::optional<ReportRequest> askOtherContest(MainWindow& window) {
+  const auto path = window.chooseFile(contestFileQuestion(FileQuestion::Purpose::open));
+  if (!path) return std::nullopt;
+  auto loading = loadContestFile(sessionFiles(), *path);
+  auto* loaded = std::get_if<LoadedContest>(&loading);
+  if (loaded == nullptr) {
+    window.show("The file\n" + shownPath(*path) + "\nis missing, damaged or not a contest.", "Error");
+    return std::nullopt;
+  }
+  ReportRequest request;
+  request.other = std::make_shared<const Contest>(std::move(loaded->contest));
+  request.otherName = shownPath(path->substr(path->find_last_of("/\\") + 1));
+  return request;
 }
 
 void runReport(MainWindow& window, const Report& report) {

@@ -24,6 +24,8 @@ struct Report {
 std::optional<ReportRequest> askReasonsClass(MainWindow& window);
 std::optional<ReportRequest> askRound(MainWindow& window);
 std::optional<ReportRequest> askCustom(MainWindow& window);
+/// Asks for another contest file, and says so when it cannot be read.
+std::optional<ReportRequest> askOtherContest(MainWindow& window);
 
 /// Asks what the report needs, builds it of the current contest and shows it. Without it the report
 /// on screen stays.

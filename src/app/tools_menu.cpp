@@ -8,10 +8,14 @@
 #include "entry/move_cards_dialog.h"
 #include "exchange/earlier_saves_dialog.h"
 #include "exchange/import_roster_dialog.h"
+#include "model/bring_in_scores.h"
 #include "reports/differences_report.h"
 #include "reports/listing_reports.h"
+#include "reports/merge_report.h"
+#include "session/contest_file.h"
 #include "session/open_contest.h"
 #include "session/recovery.h"
+#include "text/format.h"
 #include "text/report_marks.h"
 
 namespace scorvane {
@@ -53,6 +57,28 @@ void runEarlierSaves(MainWindow& window) {
     showReport(window, kWelcomeText);
   }
   showContestTitle(window);
+  sayIfWorkIsNotKept(window);
+}
+
+void runBringInScores(MainWindow& window) {
+  const auto request = askOtherContest(window);
+  if (!request) return;
+  BroughtScores brought = bringInScores(currentContest(), *request->other);
+  const std::string report = broughtScoresReport(brought);
+  if (!brought.broughtIn.empty()) {
+    if (!window.confirm(formatText("%d scores that are missing here will be brought in from %s.  "
+                                   "%d scores differ and stay as they are.  Continue?",
+                                   static_cast<int>(brought.broughtIn.size()),
+                                   request->otherName.c_str(),
+                                   static_cast<int>(brought.differing.size())))) {
+      return;
+    }
+    currentContest() = std::move(brought.contest);
+    contestChanged();
+    saveCurrent(window);
+    showContestTitle(window);
+  }
+  showReport(window, report);
   sayIfWorkIsNotKept(window);
 }
 

@@ -15,4 +15,8 @@ void runMoveCards(MainWindow& window);
 /// back the welcome text is shown, as the old report told of another contest.
 void runEarlierSaves(MainWindow& window);
 
+/// Asks for another file of the contest, takes over the scores that are missing here after the
+/// operator agreed, and shows what was brought in and what differs.
+void runBringInScores(MainWindow& window);
+
 }  // namespace scorvane

@@ -11,7 +11,7 @@
 namespace scorvane {
 
 CliResult nothingDone(const std::string& reason) {
-  return {kFailed, "", std::string(kContestProgram) + ": " + reason + "\n"};
+  return {kFailed, "", remark(kContestProgram, reason)};
 }
 
 std::variant<ContestInFile, std::string> ContestInFile::open(FileSystem& files,
@@ -23,7 +23,7 @@ std::variant<ContestInFile, std::string> ContestInFile::open(FileSystem& files,
     opened.contest = newContest();
     return opened;
   }
-  auto loading = openContest(path, files);
+  auto loading = openContest(path, files, kContestProgram, opened.remarks);
   if (auto* refusal = std::get_if<std::string>(&loading)) return std::move(*refusal);
   auto& loaded = std::get<LoadedContest>(loading);
   opened.contest = std::move(loaded.contest);

@@ -6,7 +6,7 @@
 #include <variant>
 
 #include "cli/program.h"
-#include "storage/contest_reader.h"
+#include "model/contest.h"
 #include "storage/file.h"
 
 namespace scorvane {
@@ -22,6 +22,7 @@ class ContestInFile {
   static std::variant<ContestInFile, std::string> open(FileSystem& files, const std::string& path);
 
   Contest contest;
+  std::string remarks;  ///< what is to be said of its file, for standard error
 
   /// Writes the contest into `into`, or else back into its own file, safely; returns why that was
   /// not done. What somebody else has put into the file since it was read is never written over.

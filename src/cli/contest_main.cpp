@@ -2,7 +2,6 @@
 #include "cli/contest_options.h"
 #include "cli/contest_runner.h"
 #include "cli/program.h"
-#include "cli/system.h"
 
 namespace scorvane {
 
@@ -11,7 +10,7 @@ namespace {
 CliResult answer(const CommandLine& arguments) {
   ContestOptions options;
   if (const auto refusal = readContestOptions(arguments, options)) {
-    return refuseUsage(kContestProgram, contestText(*refusal));
+    return refuseUsage(kContestProgram, *refusal);
   }
   return runContestTool(options, systemFiles());
 }

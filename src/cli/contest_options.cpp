@@ -42,6 +42,27 @@ void declareImport(CLI::App& app, ImportOptions& o) {
   command->footer(kImportStatus);
 }
 
+void declareMerge(CLI::App& app, MergeOptions& o) {
+  CLI::App* command = app.add_subcommand("merge", "joins two files of one contest");
+  command->description(
+      "Joins what two people typed into files of one contest, and prints what differs. Without\n"
+      "their common ancestor only scores missing in OURS are taken over from THEIRS.");
+  command->set_help_flag("-h,--help", "prints this text");
+  command->add_option("OURS", o.ours, "the contest file whose values stay")
+      ->type_name("")
+      ->required();
+  command->add_option("THEIRS", o.theirs, "the other contest file")->type_name("")->required();
+  command->add_option("--base", o.base, "the contest as both files had it last")
+      ->type_name("ANCESTOR");
+  command->add_option("--into", o.into, "where the contest goes; may be OURS")
+      ->type_name("OUT")
+      ->required();
+  command->footer(
+      "Exit status: 0 done; 1 nothing done: a file cannot be read or written; 2 wrong usage; 3 "
+      "done,\n"
+      "and values differ, something was left out, a removal lost or numbers changed.");
+}
+
 Refusal refuseRest(const CLI::App& app) {
   const std::string first = app.remaining(true).at(0);
   const std::vector<CLI::App*> given = app.get_subcommands();
@@ -61,6 +82,7 @@ Refusal readContestOptions(std::span<const std::string_view> arguments, ContestO
                        "prints the version");
   app.set_help_flag("-h,--help", "prints this text");
   declareImport(app, options.importRoster);
+  declareMerge(app, options.merge);
   try {
     app.parse(libraryArguments(arguments));
   } catch (const CLI::CallForHelp&) {
@@ -74,8 +96,9 @@ Refusal readContestOptions(std::span<const std::string_view> arguments, ContestO
   } catch (const CLI::ParseError& error) {
     return error.what();
   }
-  if (!app.got_subcommand("import")) return "no command is named";
-  options.action = Action::importRoster;
+  const bool isImport = app.got_subcommand("import");
+  if (!isImport && !app.got_subcommand("merge")) return "no command is named";
+  options.action = isImport ? Action::importRoster : Action::merge;
   return std::nullopt;
 }
 

@@ -7,14 +7,16 @@
 #include <string_view>
 
 #include "cli/import_command.h"
+#include "cli/merge_command.h"
 
 namespace scorvane {
 
 struct ContestOptions {
-  enum class Action { help, version, importRoster };
+  enum class Action { help, version, importRoster, merge };
   Action action = Action::help;
   std::string help;  ///< what --help prints, of the whole program or of a command
   ImportOptions importRoster;
+  MergeOptions merge;
 };
 
 /// Reads the arguments behind the program's name. Returns why a command line cannot be followed, as

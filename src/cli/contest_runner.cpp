@@ -10,6 +10,8 @@ CliResult runContestTool(const ContestOptions& options, FileSystem& files) {
       return {0, std::string(kContestProgram) + " " SCORVANE_VERSION "\n", ""};
     case Action::importRoster:
       return runImport(options.importRoster, files);
+    case Action::merge:
+      return runMerge(options.merge, files);
     case Action::help:
       break;
   }

@@ -15,12 +15,13 @@ CliResult runImport(const ImportOptions& options, FileSystem& files) {
 
   const RosterPlan plan = planRoster(*bytes, opened.contest);
   CliResult result;
+  result.error = opened.remarks;
   for (const std::string& line : planLines(plan, opened.contest)) result.output += line + '\n';
   result.output += planSummary(plan) + '\n';
   const auto fail = [&result](const std::string& reason) {
-    CliResult failed = nothingDone(reason);
-    failed.output = std::move(result.output);
-    return failed;
+    result.status = kFailed;
+    result.error += nothingDone(reason).error;
+    return result;
   };
   if (plan.holdsNobody) return fail("the sheet holds no team and no contestant");
   if (!plan.problems.empty()) {

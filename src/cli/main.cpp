@@ -11,11 +11,10 @@ namespace {
 CliResult answer(const CommandLine& arguments) {
   CliOptions options;
   if (const auto refusal = readOptions(arguments, options)) {
-    return refuseUsage(kReportProgram, contestText(*refusal));
+    return refuseUsage(kReportProgram, *refusal);
   }
   if (options.title) options.title = contestText(*options.title);
   if (options.category) options.category = contestText(*options.category);
-  if (options.action == CliOptions::Action::allReports) makeFolder(options.folder);
   return runCli(options, systemFiles());
 }
 

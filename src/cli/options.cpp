@@ -24,6 +24,7 @@ constexpr std::array kGroups = {
     QuestionGroup{askReasonsClass, "Reasons Score Sheets, Verify Reasons Scores"},
     QuestionGroup{askRound, "Round Verification Report"},
     QuestionGroup{askCustom, "Custom/Category Report"},
+    QuestionGroup{askOtherContest, "Compare With Another File"},
 };
 
 constexpr const char* kPurpose =
@@ -77,7 +78,7 @@ void declare(CLI::App& app, CliOptions& o, Words& words) {
 
   const CLI::Validator fromOne =
       CLI::Range(1, std::numeric_limits<std::int32_t>::max()).description("");
-  const auto [sheets, round, custom] = kGroups;
+  const auto [sheets, round, custom, comparison] = kGroups;
   app.add_option("--class", words.classNumber, "class number, from 1")
       ->check(fromOne)
       ->group(sheets.heading);
@@ -101,6 +102,9 @@ void declare(CLI::App& app, CliOptions& o, Words& words) {
   };
   addFlag("--percent", o.request.percent, "the number is a percentage");
   addFlag("--team", o.request.team, "teams instead of individuals");
+  app.add_option("--with", o.other, "the contest file to compare with")
+      ->type_name("FILE")
+      ->group(comparison.heading);
   app.footer(kExitStatus);
 }
 
@@ -109,8 +113,8 @@ Refusal findReport(const std::string& word, CliOptions& options) {
   std::vector<std::string> captions;
   for (const Command& command : commandTable()) {
     if (command.report() == nullptr) continue;
-    captions.push_back(inQuotes(command.caption));
-    if (id ? command.id != *id : !sameWord(word, command.caption)) continue;
+    captions.push_back(inQuotes(command.name()));
+    if (id ? command.id != *id : !sameWord(word, command.name())) continue;
     options.commands.push_back(&command);
     return std::nullopt;
   }
@@ -130,11 +134,12 @@ Refusal checkUse(const CLI::App& app, const CliOptions& options) {
     }
   }
   for (const Command* command : options.commands) {
-    const std::string needs = inQuotes(command->caption) + " needs ";
+    const std::string needs = inQuotes(command->name()) + " needs ";
     if (command->report()->ask == askReasonsClass && !options.request.classIndex) {
       return needs + "--class";
     }
     if (command->report()->ask == askRound && !options.request.round) return needs + "--round";
+    if (command->report()->ask == askOtherContest && !options.other) return needs + "--with";
   }
   return std::nullopt;
 }

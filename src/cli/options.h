@@ -22,6 +22,7 @@ struct CliOptions {
   ReportRequest request;
   std::optional<std::string> title;
   std::optional<std::string> category;
+  std::optional<std::string> other;        ///< path of the contest to compare with
   std::vector<std::int32_t> classNumbers;  ///< from 1; empty when not given
   std::optional<std::int32_t> number;      ///< rows, or per cent of them
 };

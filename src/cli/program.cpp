@@ -4,21 +4,29 @@
 #include <exception>
 
 #include "cli/system.h"
+#include "text/characters.h"
 
 namespace scorvane {
 
 namespace {
 
+// A file or another program gets every byte; a terminal obeys some.
 bool print(std::string_view text) {
+  std::string shown;
+  if (isOutputTerminal()) text = shown = withoutCommands(text);
   const bool written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
   return std::fflush(stdout) == 0 && written;
 }
 
 }  // namespace
 
+std::string remark(const char* program, const std::string& text) {
+  return withoutCommands(withoutControlCharacters(std::string(program) + ": " + text)) + "\n";
+}
+
 CliResult refuseUsage(const char* program, const std::string& reason) {
-  const std::string name = program;
-  return {kWrongUsage, "", name + ": " + reason + "\n" + name + " --help explains everything.\n"};
+  return {kWrongUsage, "",
+          remark(program, contestText(reason)) + program + " --help explains everything.\n"};
 }
 
 int runProgram(const char* program, int argc, char** argv,

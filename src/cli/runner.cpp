@@ -1,6 +1,7 @@
 #include "cli/runner.h"
 
 #include <algorithm>
+#include <exception>
 #include <tuple>
 #include <utility>
 #include <variant>
@@ -17,7 +18,7 @@ namespace {
 using Action = CliOptions::Action;
 
 CliResult failed(const std::string& reason) {
-  return {kFailed, "", std::string(kReportProgram) + ": " + reason + "\n"};
+  return {kFailed, "", remark(kReportProgram, reason)};
 }
 
 // Why the contest cannot follow the options: it lacks the class, round or category asked for.
@@ -76,34 +77,58 @@ ReportRequest requestOf(const Contest& contest, const CliOptions& options) {
   return request;
 }
 
-CliResult printReports(const Contest& contest, const CliOptions& options) {
+CliResult printReports(const Contest& contest, const CliOptions& options, FileSystem& files) {
   if (const auto missing = missingPart(contest, options)) return failed(*missing);
-  const ReportRequest request = requestOf(contest, options);
+  ReportRequest request = requestOf(contest, options);
   CliResult result;
+  if (options.other) {
+    auto opened = openContest(*options.other, files, kReportProgram, result.error);
+    if (const auto* refusal = std::get_if<std::string>(&opened)) return failed(*refusal);
+    request.other =
+        std::make_shared<const Contest>(std::move(std::get<LoadedContest>(opened).contest));
+    request.otherName = contestText(options.other->substr(options.other->find_last_of("/\\") + 1));
+  }
   for (const Command* command : options.commands) {
     // Whatever a report needs has been looked for by now.
-    result.output += command->report()->build(contest, request).value();
+    std::string report = command->report()->build(contest, request).value();
+    if (result.output.empty()) {
+      result.output = std::move(report);
+    } else {
+      result.output += report;
+    }
   }
   return result;
 }
 
 std::string fileNameOf(const Command& command) {
-  std::string name(command.caption);
+  std::string name(command.name());
   std::replace(name.begin(), name.end(), '/', '-');
   return name + ".txt";
 }
 
+// A report that asks nothing needs nothing. Returns why it is not there.
+std::optional<std::string> writeReport(const Report& report, const Contest& contest,
+                                       const std::string& path, FileSystem& files) {
+  try {
+    const std::string text = withWindowsLineEnds(report.build(contest, {}).value());
+    if (saveSafely(files, path, text)) return std::nullopt;
+    return "cannot write '" + contestText(path) + "'";
+  } catch (const std::exception& error) {
+    return "cannot make '" + contestText(path) + "': " + error.what();
+  }
+}
+
 CliResult writeAllReports(const Contest& contest, const std::string& folder, FileSystem& files) {
   CliResult result;
+  // Should that fail, each report says so.
+  static_cast<void>(files.makeFolders(folder));
   for (const Command& command : commandTable()) {
     const Report* report = command.report();
     if (report == nullptr || report->ask != nullptr) continue;
-    // A report that asks nothing needs nothing.
-    const std::string text = report->build(contest, {}).value();
-    const std::string path = folder + "/" + fileNameOf(command);
-    if (!saveSafely(files, path, withWindowsLineEnds(text))) {
-      return failed("cannot write '" + contestText(path) + "'");
-    }
+    const auto why = writeReport(*report, contest, folder + "/" + fileNameOf(command), files);
+    if (!why) continue;
+    result.status = kFailed;
+    result.error += remark(kReportProgram, *why);
   }
   return result;
 }
@@ -112,7 +137,7 @@ std::string reportList() {
   std::string list;
   for (const Command& command : commandTable()) {
     if (command.report() == nullptr) continue;
-    list += std::to_string(command.id) + "\t" + std::string(command.caption) + "\n";
+    list += std::to_string(command.id) + "\t" + std::string(command.name()) + "\n";
   }
   return list;
 }
@@ -131,11 +156,15 @@ CliResult runCli(const CliOptions& options, FileSystem& files) {
     case Action::allReports:
       break;
   }
-  const auto opened = openContest(options.contest, files);
+  std::string remarks;
+  const auto opened = openContest(options.contest, files, kReportProgram, remarks);
   if (const auto* refusal = std::get_if<std::string>(&opened)) return failed(*refusal);
   const Contest& contest = std::get<LoadedContest>(opened).contest;
-  return options.action == Action::allReports ? writeAllReports(contest, options.folder, files)
-                                              : printReports(contest, options);
+  CliResult result = options.action == Action::allReports
+                         ? writeAllReports(contest, options.folder, files)
+                         : printReports(contest, options, files);
+  result.error.insert(0, remarks);
+  return result;
 }
 
 }  // namespace scorvane

@@ -8,7 +8,7 @@
 namespace scorvane {
 
 /// Follows the options; contest files are read from, and --all writes to, `files`. The folder of
-/// --all must exist.
+/// --all is made once the contest was read; every report is tried.
 [[nodiscard]] CliResult runCli(const CliOptions& options, FileSystem& files);
 
 }  // namespace scorvane

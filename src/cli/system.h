@@ -10,6 +10,9 @@ namespace scorvane {
 /// Keeps the system from changing line ends on standard output.
 void makeStandardOutputBinary();
 
+/// Whether standard output is a terminal.
+[[nodiscard]] bool isOutputTerminal();
+
 /// Prepares for a need of about so many bytes of memory, so that they come faster. Nothing depends
 /// on it.
 void expectMemory(std::size_t bytes);
@@ -21,8 +24,5 @@ void expectMemory(std::size_t bytes);
 /// A word of the command line in the 8-bit text that contests have, and that answers are written
 /// in.
 [[nodiscard]] std::string contestText(const std::string& word);
-
-/// Makes a folder; one that is there already is fine. What cannot be made shows when it is used.
-void makeFolder(const std::string& path);
 
 }  // namespace scorvane

@@ -16,7 +16,9 @@ void makeStandardOutputBinary() {
   _setmode(_fileno(stdout), _O_BINARY);
 }
 
-void expectMemory(std::size_t /*bytes*/) {}
+bool isOutputTerminal() {
+  return _isatty(_fileno(stdout)) != 0;
+}
 
 // The words that main() gets are in 8-bit text, bent to what that has.
 std::vector<std::string> commandLineWords(int /*count*/, char** /*words*/) {
@@ -32,8 +34,6 @@ std::string contestText(const std::string& word) {
   return shownPath(word);
 }
 
-void makeFolder(const std::string& path) {
-  if (const auto wide = wideOf(path)) CreateDirectoryW(wide->c_str(), nullptr);
-}
+void expectMemory(std::size_t /*bytes*/) {}
 
 }  // namespace scorvane

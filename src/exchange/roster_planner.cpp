@@ -15,7 +15,6 @@ namespace {
 
 /// How much of a team's name the award lists show.
 constexpr std::size_t kShownTeamName = 21;
-constexpr std::size_t kLineRoom = kMaxContestLine - kLineEnd.size();
 
 std::size_t digitsOf(std::int64_t number) {
   std::string digits;

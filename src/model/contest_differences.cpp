@@ -265,12 +265,8 @@ class Comparison {
   void sortInOrderOfCards() {
     const auto pile = [this](const ScoreDifference& score) {
       const Contest& contest = here_.contestantNames.contains(score.number) ? here_ : there_;
-      ReasonsPlace place = {groupOfLetter(groupOfContestant(contest, score.number)), 0};
-      if (score.value == ScoreValue::reasons) {
-        place = reasonsPlaceOf(contest, score.number);
-        if (!place.isAssigned()) place.group = std::numeric_limits<std::int32_t>::max();
-      }
-      return std::tuple(score.classMatch, score.value, place.group, place.position, score.number);
+      return std::tuple(score.classMatch, score.value,
+                        cardPosition(contest, score.value, score.number));
     };
     using Pile = decltype(pile(ScoreDifference{}));
     std::vector<std::pair<Pile, ScoreDifference>> piled;
@@ -290,6 +286,25 @@ class Comparison {
 
 }  // namespace
 
+CardPosition cardPosition(const Contest& contest, ScoreValue value, ContestantNumber number) {
+  if (value != ScoreValue::reasons) {
+    return {groupOfLetter(groupOfContestant(contest, number)), 0, number};
+  }
+  const ReasonsPlace place = reasonsPlaceOf(contest, number);
+  const std::int32_t last = std::numeric_limits<std::int32_t>::max();
+  return {place.isAssigned() ? place.group : last, place.position, number};
+}
+
+void sortAsCardsLie(const Contest& contest, std::vector<ContestantScore>& scores) {
+  const auto position = [&](const ContestantScore& score) {
+    return std::tuple(score.classIndex, score.value,
+                      cardPosition(contest, score.value, score.number));
+  };
+  std::sort(scores.begin(), scores.end(), [&](const ContestantScore& a, const ContestantScore& b) {
+    return position(a) < position(b);
+  });
+}
+
 bool isEntered(ScoreValue value, const ScoreRecord& record) {
   return valueOf(value, record) != (value == ScoreValue::letter ? kNoLetter : 0);
 }
@@ -300,29 +315,36 @@ std::string scoreText(ScoreValue value, const ScoreRecord& record) {
   return isShown ? std::to_string(valueOf(value, record)) : "";
 }
 
-std::vector<ClassMatch> matchClasses(const JudgingClasses& here, const JudgingClasses& there) {
+std::vector<ClassMatch> matchNames(const std::vector<std::string>& here,
+                                   const std::vector<std::string>& there, bool byPosition) {
   std::map<std::string_view, std::vector<std::int32_t>> left;  // of each name, the first one last
-  for (std::int32_t k = there.count() - 1; k >= 0; --k) left[there.name(k)].push_back(k);
-  std::vector<bool> isMatched(static_cast<std::size_t>(there.count()));
+  for (auto k = static_cast<std::int32_t>(there.size()) - 1; k >= 0; --k) {
+    left[there[static_cast<std::size_t>(k)]].push_back(k);
+  }
+  std::vector<bool> isMatched(there.size());
   std::vector<ClassMatch> matches;
-  for (std::int32_t k = 0; k < here.count(); ++k) {
-    matches.push_back({k, std::nullopt});
-    const auto found = left.find(here.name(k));
+  for (const std::string& name : here) {
+    matches.push_back({static_cast<std::int32_t>(matches.size()), std::nullopt});
+    const auto found = left.find(name);
     if (found == left.end() || found->second.empty()) continue;
     matches.back().there = found->second.back();
     isMatched[static_cast<std::size_t>(found->second.back())] = true;
     found->second.pop_back();
   }
-  for (std::int32_t k = 0; k < there.count(); ++k) {
-    const auto position = static_cast<std::size_t>(k);
-    if (isMatched[position]) continue;
-    if (here.count() == there.count() && !matches[position].there) {
-      matches[position].there = k;
+  for (std::size_t k = 0; k < there.size(); ++k) {
+    if (isMatched[k]) continue;
+    const auto index = static_cast<std::int32_t>(k);
+    if (byPosition && here.size() == there.size() && !matches[k].there) {
+      matches[k].there = index;
     } else {
-      matches.push_back({std::nullopt, k});
+      matches.push_back({std::nullopt, index});
     }
   }
   return matches;
+}
+
+std::vector<ClassMatch> matchClasses(const JudgingClasses& here, const JudgingClasses& there) {
+  return matchNames(here.className, there.className, true);
 }
 
 ContestDifferences contestDifferences(const Contest& here, const Contest& there) {

@@ -23,9 +23,14 @@ struct Sides {
 /// A class by its index (from 0) in each contest; one of them can lack it.
 using ClassMatch = Sides<std::optional<std::int32_t>>;
 
-/// Which classes are the same: those of one name, equal names in order; then, when both contests
-/// have as many classes, those without such a match at the same position. First all classes from
-/// here in their order, then those that are only there.
+/// Which of two lists of names are the same: equal names in order; then, when asked for and both
+/// lists are equally long, those without such a match at the same position. First all from here in
+/// their order, then those that are only there.
+[[nodiscard]] std::vector<ClassMatch> matchNames(const std::vector<std::string>& here,
+                                                 const std::vector<std::string>& there,
+                                                 bool byPosition);
+
+/// Which classes are the same, by name and then by position.
 [[nodiscard]] std::vector<ClassMatch> matchClasses(const JudgingClasses& here,
                                                    const JudgingClasses& there);
 
@@ -70,6 +75,28 @@ struct ScoreCounts {
   std::int64_t differing = 0;
   Sides<std::int64_t> onlyOn;
 };
+
+/// One score of one contest, and what two sides have for it.
+struct ContestantScore {
+  std::int32_t classIndex = 0;
+  ScoreValue value = ScoreValue::letter;
+  ContestantNumber number = 0;
+  Sides<ScoreRecord> records;
+};
+
+/// Sorts scores of a contest in the order in which its cards lie.
+void sortAsCardsLie(const Contest& contest, std::vector<ContestantScore>& scores);
+
+/// Where a card lies in its pile: by group, for reasons scores by reasons group and position; then
+/// by number.
+struct CardPosition {
+  std::int32_t group = 0;
+  std::int32_t position = 0;
+  ContestantNumber number = 0;
+  friend auto operator<=>(const CardPosition&, const CardPosition&) = default;
+};
+[[nodiscard]] CardPosition cardPosition(const Contest& contest, ScoreValue value,
+                                        ContestantNumber number);
 
 struct ContestDifferences {
   std::vector<Difference> values;  ///< in the order of DifferenceKind

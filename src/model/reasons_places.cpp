@@ -6,6 +6,17 @@
 
 namespace scorvane {
 
+namespace {
+
+void unassignThoseWithoutCell(Contest& contest) {
+  for (auto& [number, place] : contest.reasonsPlace) {
+    if (!place.isAssigned()) continue;
+    if (contest.reasonsOrder.cell(place.position, place.group) != number) place = {};
+  }
+}
+
+}  // namespace
+
 std::int64_t reasonsRows(const Contest& contest) {
   return static_cast<std::int64_t>(contest.teams.size()) * contest.settings.totalNumPerTeam;
 }
@@ -14,6 +25,21 @@ void resetReasonsOrder(Contest& contest, std::int64_t rows) {
   contest.reasonsOrder.reset(rows, contest.settings.numReasonsGroups);
   contest.reasonsPlace.clear();
   for (const auto& [number, name] : contest.contestantNames) contest.reasonsPlace[number] = {};
+}
+
+void rebuildReasonsOrder(Contest& contest) {
+  ReasonsOrder& order = contest.reasonsOrder;
+  order.reset(reasonsRows(contest), contest.settings.numReasonsGroups);
+  std::vector<ReasonsOrder::Cells::Entry> cells;
+  std::size_t assigned = 0;
+  for (const auto& [number, place] : contest.reasonsPlace) {
+    if (!place.isAssigned()) continue;
+    ++assigned;
+    if (place.group >= order.columnCount()) continue;
+    cells.push_back({{place.group, place.position}, number});
+  }
+  order.setCells(std::move(cells));
+  if (order.cells().size() != assigned) unassignThoseWithoutCell(contest);
 }
 
 void setReasonsPlace(Contest& contest, ContestantNumber number, ReasonsPlace place) {

@@ -16,6 +16,10 @@ namespace scorvane {
 /// Makes the reasons order an empty one of `rows` rows, and every contestant unassigned.
 void resetReasonsOrder(Contest& contest, std::int64_t rows);
 
+/// Makes the table from the places. A place outside the table, or one that a later contestant holds
+/// too, is given up, so that the person turns up among the unassigned.
+void rebuildReasonsOrder(Contest& contest);
+
 /// Puts a contestant into a cell of the table, which must exist; the place follows.
 void setReasonsPlace(Contest& contest, ContestantNumber number, ReasonsPlace place);
 

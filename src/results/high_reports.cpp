@@ -2,6 +2,7 @@
 
 #include "results/rankings.h"
 #include "text/format.h"
+#include "text/report_marks.h"
 
 namespace scorvane {
 
@@ -76,6 +77,7 @@ std::string highTeamReport(const Contest& contest, const ReportRequest& request)
   for (const TeamRow& row : teamRows(contest, request)) {
     appendTeam(out, row);
     appendOtherMembersAndCoach(out, row);
+    if (closeIfTooLong(out)) break;
   }
   return out;
 }

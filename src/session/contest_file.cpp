@@ -13,7 +13,7 @@
 #include "session/recovery.h"
 #include "session/recovery_offer.h"
 #include "storage/content_hash.h"
-#include "storage/contest_reader.h"
+#include "storage/contest_loader.h"
 #include "storage/contest_writer.h"
 #include "storage/file.h"
 #include "storage/safe_save.h"
@@ -104,8 +104,8 @@ void saveToCurrentFile(Window& owner, ForeignChanges foreignChanges) {
   if (currentContest().categories.empty()) currentContest().categories = {kNoCategory};
 }
 
-void showFault(Window& owner, ContestFault fault, const std::string& path) {
-  switch (fault) {
+void showFault(Window& owner, const ContestFault& fault, const std::string& path) {
+  switch (fault.kind) {
     case ContestFault::unreadable:
       owner.show(
           formatText("Invalid file name (%s) , or file does not exist.", shownPath(path).c_str()),
@@ -118,6 +118,36 @@ void showFault(Window& owner, ContestFault fault, const std::string& path) {
       owner.show("Number of scores in the file is not correct.  None read.", "Information");
       break;
   }
+}
+
+/// Finishes the save in place whose copy was read instead of the file.
+void finishSave(Window& owner, const std::string& path, const LoadedContest& loaded) {
+  FileSystem& files = sessionFiles();
+  const auto lock = files.lockForSaving(path);
+  const bool isSaved = saveSafely(files, path, loaded.bytes);
+  if (isSaved) {
+    files.remove(loaded.copy);
+  } else {
+    // What the file holds is not somebody else's work.
+    knownContent().hash = contentHash(files.readWhole(path).value_or(""));
+    contestWasNotSaved(NotSaved::failed);
+  }
+  owner.show(
+      "Scorvane or the computer was stopped while it saved this contest, and the file was left "
+      "unfinished.\r\n\r\n"
+      "The contest as it was to be saved was found in this copy and is open now:\r\n" +
+          loaded.copy + "\r\n\r\n" +
+          (isSaved ? "It has been saved to its file again.\r\n"
+                   : "It could NOT be saved to its file again.  Use File->Save As to save it "
+                     "to another location.\r\n"),
+      "Information");
+}
+
+void showOddities(Window& owner, std::string oddities) {
+  for (std::size_t end = 0; (end = oddities.find('\n', end)) != std::string::npos; end += 2) {
+    oddities.insert(end, 1, '\r');
+  }
+  owner.show("This file was opened, but it may be damaged:\r\n\r\n" + oddities, "Information");
 }
 
 }  // namespace
@@ -140,7 +170,7 @@ void startNewContest() {
 }
 
 bool openContest(Window& owner, const std::string& path) {
-  std::variant<LoadedContest, ContestFault> loading = ContestFault::unreadable;
+  std::variant<LoadedContest, ContestFault> loading = ContestFault{};
   if (countCharacters(path) <= kMaxPathLength) loading = loadContestFile(sessionFiles(), path);
   if (const auto* fault = std::get_if<ContestFault>(&loading)) {
     startNewContest();
@@ -153,6 +183,8 @@ bool openContest(Window& owner, const std::string& path) {
   currentFileName() = path;
   knownContent() = {path, contentHash(loaded.bytes)};
   contestHasFile(path, loaded.bytes);
+  if (!loaded.copy.empty()) finishSave(owner, path, loaded);
+  if (!loaded.oddities.empty()) showOddities(owner, loaded.oddities);
   if (isKeepingWork()) followRenamedContest(sessionFiles(), path, savedState().hash);
   reportText() = offerRecovery(owner).value_or(kWelcomeText);
   return true;

@@ -4,9 +4,12 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "model/contest.h"
 
 namespace scorvane {
 
@@ -34,6 +37,10 @@ using ClassSet = std::vector<std::int32_t>;
 struct ReportRequest {
   std::optional<std::int32_t> classIndex = {};  ///< of the reasons sheets, from 0
   std::optional<std::int32_t> round = {};       ///< of the round verification, from 0
+
+  // The comparison.
+  std::shared_ptr<const Contest> other = {};
+  std::string otherName = {};
 
   // The rankings.
   ScoreKind kind = ScoreKind::overall;

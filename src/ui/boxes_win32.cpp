@@ -5,6 +5,7 @@
 
 #include <array>
 
+#include "text/characters.h"
 #include "text/unicode_win32.h"
 #include "ui/dialog_win32.h"
 
@@ -69,7 +70,8 @@ Answer askOver(NativeWindow owner, const Message& message) {
     style |= MB_DEFBUTTON2;
   }
   if (message.informationIcon) style |= MB_ICONINFORMATION;
-  switch (MessageBoxA(owner, message.text.c_str(), message.caption.c_str(), style)) {
+  const std::string text = withoutCommands(message.text);
+  switch (MessageBoxA(owner, text.c_str(), message.caption.c_str(), style)) {
     case IDOK:
       return Answer::ok;
     case IDYES:

@@ -1,0 +1,47 @@
+#include "cli/merge_command.h"
+
+#include <utility>
+#include <variant>
+
+#include "cli/contest_files.h"
+#include "cli/contest_input.h"
+#include "cli/system.h"
+#include "model/bring_in_scores.h"
+#include "model/contest_merge.h"
+#include "reports/merge_report.h"
+
+namespace scorvane {
+
+namespace {
+
+CliResult finish(ContestInFile& ours, Contest merged, const std::string& report, bool isSmooth,
+                 const MergeOptions& options, FileSystem& files) {
+  ours.contest = std::move(merged);
+  if (const auto refusal = ours.save(files, options.into)) return nothingDone(*refusal);
+  return {isSmooth ? 0 : kDoneWithDifferences, report, ours.remarks};
+}
+
+}  // namespace
+
+CliResult runMerge(const MergeOptions& options, FileSystem& files) {
+  const auto status = files.status(options.ours);
+  if (status && !status->exists) return nothingDone("cannot read '" + contestText(options.ours) + "'");
+  auto opening = ContestInFile::open(files, options.ours);
+  if (const auto* refusal = std::get_if<std::string>(&opening)) return nothingDone(*refusal);
+  auto& ours = std::get<ContestInFile>(opening);
+  const auto theirs = openContest(options.theirs, files, kContestProgram, ours.remarks);
+  if (const auto* refusal = std::get_if<std::string>(&theirs)) return nothingDone(*refusal);
+  const Contest& other = std::get<LoadedContest>(theirs).contest;
+  if (!options.base) {
+    BroughtScores brought = bringInScores(ours.contest, other);
+    const std::string report = broughtScoresReport(brought);
+    return finish(ours, std::move(brought.contest), report, brought.isSmooth(), options, files);
+  }
+  const auto base = openContest(*options.base, files, kContestProgram, ours.remarks);
+  if (const auto* refusal = std::get_if<std::string>(&base)) return nothingDone(*refusal);
+  Merge merge = mergeContests(std::get<LoadedContest>(base).contest, ours.contest, other);
+  const std::string report = mergeReport(merge);
+  return finish(ours, std::move(merge.contest), report, merge.isSmooth(), options, files);
+}
+
+}  // namespace scorvane

@@ -1,0 +1,374 @@
+#include "model/merge_identity.h"
+
+#include <algorithm>
+#include <limits>
+#include <string_view>
+#include <utility>
+
+#include "model/contest_differences.h"
+
+namespace scorvane {
+
+namespace {
+
+constexpr std::size_t kUnknown = std::numeric_limits<std::size_t>::max();
+constexpr Side kSides[] = {kBase, kOurs, kTheirs};
+
+// A contestant in a team's slot.
+struct Member {
+  std::size_t slot = 0;
+  ContestantNumber number = 0;
+  std::string name;
+  std::size_t position = 0;  // in contestantNames
+};
+
+class RosterMatcher {
+ public:
+  explicit RosterMatcher(const ThreeContests& contests) : contests_(contests) {
+    for (const Side side : kSides) {
+      const Contest& contest = *contests_[side];
+      personAt_[side].assign(contest.contestantNames.size(), kUnknown);
+      teams_[side].resize(contest.contestantNames.size());
+      for (const auto& entry : contest.teams) {
+        for (const Member& member : membersOf(side, entry.first)) {
+          teams_[side][member.position].push_back(&entry.first);
+        }
+      }
+    }
+  }
+
+  SameRoster run() {
+    addUnmatched(kBase);
+    match(kBase, kOurs);
+    match(kBase, kTheirs);
+    matchRenumbered(kOurs, kTheirs);
+    matchRenumbered(kTheirs, kOurs);
+    addUnmatched(kOurs);
+    match(kOurs, kTheirs);
+    addUnmatched(kTheirs);
+    for (const Side side : kSides) {
+      std::vector<FlatMap<ContestantNumber, std::size_t>::Entry> entries;
+      entries.reserve(personAt_[side].size());
+      for (const auto& entry : contests_[side]->contestantNames) {
+        entries.emplace_back(entry.first, personAt_[side][entries.size()]);
+      }
+      same_.personOf[side] =
+          FlatMap<ContestantNumber, std::size_t>::fromEntries(std::move(entries));
+    }
+    return std::move(same_);
+  }
+
+ private:
+  std::vector<Member> membersOf(Side side, const std::string& team) const {
+    std::vector<Member> members;
+    const Contest& contest = *contests_[side];
+    std::size_t slot = 0;
+    for (const ContestantNumber number : contest.teams.at(team).members) {
+      const std::size_t position = contest.contestantNames.positionOf(number);
+      if (position < contest.contestantNames.size()) {
+        members.push_back({slot, number, entryAt(side, position).second, position});
+      }
+      ++slot;
+    }
+    return members;
+  }
+
+  void addUnmatched(Side side) {
+    const Contest& contest = *contests_[side];
+    std::size_t position = 0;
+    for (const auto& entry : contest.contestantNames) {
+      std::size_t& person = personAt_[side][position++];
+      if (person != kUnknown) continue;
+      person = same_.people.size();
+      same_.people.emplace_back()[side] = entry.first;
+    }
+    for (const auto& [name, team] : contest.teams) {
+      if (!same_.teamOf[side].emplace(name, same_.teams.size()).second) continue;
+      same_.teams.emplace_back()[side] = name;
+    }
+  }
+
+  // What is `from`'s own (the ancestor's, or what ours has and the ancestor lacks) can be the same
+  // as what is still unmatched on the other side.
+  void match(Side from, Side to) {
+    matchTeams(from, to);
+    for (const auto& [name, id] : same_.teamOf[to]) {
+      const auto& other = same_.teams[id][from];
+      if (other) matchMembers(from, *other, to, name);
+    }
+    std::size_t position = 0;
+    for (const auto& [number, name] : contests_[to]->contestantNames) {
+      const std::size_t here = position++;
+      const std::size_t there = contests_[from]->contestantNames.positionOf(number);
+      if (!isFree(to, here) || !isFree(from, there, to)) continue;
+      const bool isSameName = name == contestantName(*contests_[from], number);
+      const bool isAlone = teams_[to][here].empty(), wasAlone = teams_[from][there].empty();
+      const bool isKnown = isAlone || (isSameName && (wasAlone || !name.empty()));
+      if (from == kBase ? isKnown : isSameName && isAlone && wasAlone) {
+        link(from, there, to, here, number);
+      }
+    }
+    if (from != kBase) matchStrays(from, to);
+  }
+
+  // Whoever has another name and another number than in the ancestor can still be known by what the
+  // other side calls the member.
+  void matchRenumbered(Side known, Side side) {
+    for (const auto& [name, id] : same_.teamOf[side]) {
+      if (!same_.teams[id][known]) continue;
+      const std::vector<Member> there = membersOf(known, *same_.teams[id][known]);
+      for (const Member& member : membersOf(side, name)) {
+        for (const Member& other : there) {
+          if (!isFree(side, member.position)) break;
+          const std::size_t person = personAt_[known][other.position];
+          if (person == kUnknown || same_.people[person][side] || member.name.empty()) continue;
+          if (member.name == other.name)
+            link(known, other.position, side, member.position, member.number);
+        }
+      }
+    }
+  }
+
+  // Somebody whom a full team had no room for has no team since; such people are known by name.
+  void matchStrays(Side from, Side to) {
+    std::map<std::string_view, std::vector<std::size_t>> added;
+    for (std::size_t there = personAt_[from].size(); there-- > 0;) {
+      if (isFree(from, there, to)) added[entryAt(from, there).second].push_back(there);
+    }
+    for (std::size_t here = 0; here < personAt_[to].size(); ++here) {
+      const auto& [number, name] = entryAt(to, here);
+      if (!isFree(to, here) || name.empty()) continue;
+      auto& same = added[name];
+      const auto found = std::find_if(same.rbegin(), same.rend(), [&](std::size_t there) {
+        return teams_[from][there].empty() || teams_[to][here].empty();
+      });
+      if (found == same.rend()) continue;
+      link(from, *found, to, here, number);
+      same.erase(std::next(found).base());
+    }
+  }
+
+  const decltype(Contest::contestantNames)::Entry& entryAt(Side side, std::size_t position) const {
+    return contests_[side]->contestantNames.begin()[static_cast<std::ptrdiff_t>(position)];
+  }
+
+  bool isFree(Side to, std::size_t position) const { return personAt_[to][position] == kUnknown; }
+
+  bool isFree(Side from, std::size_t position, Side to) const {
+    if (position >= personAt_[from].size()) return false;
+    const Three<ContestantNumber>& person = same_.people[personAt_[from][position]];
+    return !person[to] && (from == kBase || !person[kBase]);
+  }
+
+  void link(Side from, std::size_t there, Side to, std::size_t here, ContestantNumber number) {
+    personAt_[to][here] = personAt_[from][there];
+    same_.people[personAt_[from][there]][to] = number;
+  }
+
+  void linkTeams(Side from, const std::string& there, Side to, const std::string& here) {
+    const std::size_t id = same_.teamOf[from].at(there);
+    same_.teamOf[to].emplace(here, id);
+    same_.teams[id][to] = here;
+  }
+
+  bool isFreeTeam(Side from, const std::string& name, Side to) const {
+    const auto found = same_.teamOf[from].find(name);
+    if (found == same_.teamOf[from].end()) return false;
+    const Three<std::string>& team = same_.teams[found->second];
+    return !team[to] && (from == kBase || !team[kBase]);
+  }
+
+  // Of one name with a member in common, then with a member of one number and name, then with the
+  // same people, then of one coach and the same numbers, then of one name.
+  void matchTeams(Side from, Side to) {
+    const auto byName = [](Side, const std::string& name) { return name; };
+    matchTeamsBy(from, to, byName, true);
+    if (from == kBase) matchRenamedTeams(from, to);
+    matchTeamsBy(from, to, byName, false);
+  }
+
+  void matchRenamedTeams(Side from, Side to) {
+    for (const auto& entry : contests_[to]->teams) {
+      if (!same_.teamOf[to].contains(entry.first)) matchRenamed(from, to, entry.first);
+    }
+    matchTeamsBy(
+        from, to,
+        [this](Side side, const std::string& name) {
+          std::string names, none;
+          for (const Member& member : membersOf(side, name)) {
+            names += member.name + '\n';
+            none += '\n';
+          }
+          return names == none ? "" : names;
+        },
+        false);
+    matchTeamsBy(
+        from, to,
+        [this](Side side, const std::string& name) {
+          const Team& team = contests_[side]->teams.at(name);
+          std::string key = team.coach;
+          if (key.empty()) return key;
+          for (const ContestantNumber number : team.members) key += '\n' + std::to_string(number);
+          return key;
+        },
+        false);
+  }
+
+  // Of the same key, which is not empty.
+  template <typename Key>
+  void matchTeamsBy(Side from, Side to, Key keyOf, bool needsCommonMember) {
+    std::map<std::string, std::string> known;
+    for (const auto& entry : contests_[from]->teams) {
+      if (isFreeTeam(from, entry.first, to)) known[keyOf(from, entry.first)] = entry.first;
+    }
+    for (const auto& entry : contests_[to]->teams) {
+      if (same_.teamOf[to].contains(entry.first)) continue;
+      const std::string key = keyOf(to, entry.first);
+      const auto found = known.find(key);
+      if (key.empty() || found == known.end() || !isFreeTeam(from, found->second, to)) continue;
+      if (needsCommonMember && !sharesName(from, found->second, to, entry.first)) continue;
+      linkTeams(from, found->second, to, entry.first);
+    }
+  }
+
+  bool sharesName(Side from, const std::string& other, Side to, const std::string& team) const {
+    const std::vector<Member> there = membersOf(from, other);
+    const std::vector<Member> here = membersOf(to, team);
+    return std::any_of(here.begin(), here.end(), [&](const Member& member) {
+      return std::any_of(there.begin(), there.end(), [&](const Member& known) {
+        return !member.name.empty() && known.name == member.name;
+      });
+    });
+  }
+
+  void matchRenamed(Side from, Side to, const std::string& name) {
+    for (const Member& member : membersOf(to, name)) {
+      const std::size_t there = contests_[from]->contestantNames.positionOf(member.number);
+      if (member.name.empty() || contestantName(*contests_[from], member.number) != member.name) {
+        continue;
+      }
+      for (const std::string* team : teams_[from][there]) {
+        if (!isFreeTeam(from, *team, to)) continue;
+        linkTeams(from, *team, to, name);
+        return;
+      }
+    }
+  }
+
+  template <typename Same>
+  std::size_t linkMembers(Side from, const std::vector<Member>& there, Side to,
+                          const std::vector<Member>& here, Same isSame) {
+    std::size_t linked = 0;
+    for (const Member& member : here) {
+      for (const Member& other : there) {
+        if (!isFree(to, member.position)) break;
+        if (!isFree(from, other.position, to) || !isSame(other, member)) continue;
+        link(from, other.position, to, member.position, member.number);
+        ++linked;
+      }
+    }
+    return linked;
+  }
+
+  void matchMembers(Side from, const std::string& team, Side to, const std::string& name) {
+    const std::vector<Member> there = membersOf(from, team);
+    const std::vector<Member> here = membersOf(to, name);
+    const auto matchBy = [&](auto isSame) { return linkMembers(from, there, to, here, isSame); };
+    const bool isNew = from != kBase;
+    std::size_t named = matchBy([](const Member& a, const Member& b) {
+      return a.number == b.number && a.name == b.name && !a.name.empty();
+    });
+    const std::size_t moved = matchBy(
+        [](const Member& a, const Member& b) { return a.name == b.name && !a.name.empty(); });
+    named += moved;
+    const auto isOnePlace = [&](const Member& a, const Member& b) {
+      return teams_[from][a.position].size() == 1 && teams_[to][b.position].size() == 1;
+    };
+    matchBy([&](const Member& a, const Member& b) {
+      const bool isPlausible = !isNew || named > 0 || a.name.empty() || b.name.empty();
+      return a.number == b.number && isPlausible && (a.name == b.name || isOnePlace(a, b));
+    });
+    if (moved > 0) {
+      matchBy(
+          [&](const Member& a, const Member& b) { return a.slot == b.slot && isOnePlace(a, b); });
+    }
+    if (isNew) {
+      matchBy([](const Member& a, const Member& b) { return a.name.empty() != b.name.empty(); });
+      matchBy([](const Member& a, const Member& b) { return a.name.empty() && b.name.empty(); });
+    }
+  }
+
+  ThreeContests contests_;
+  SameRoster same_;
+  std::array<std::vector<std::size_t>, 3> personAt_;  // by position in contestantNames
+  std::array<std::vector<std::vector<const std::string*>>, 3> teams_;  // likewise
+};
+
+// Whether what only its position makes the ancestor's has the name of something else on the other
+// side, which the ancestor lacks.
+bool isRatherAdded(const std::array<const std::vector<std::string>*, 3>& lists,
+                   const std::array<std::vector<ClassMatch>, 3>& matches, Side side,
+                   std::int32_t base, std::int32_t index) {
+  const Side other = side == kOurs ? kTheirs : kOurs;
+  const std::string& name = (*lists[side])[static_cast<std::size_t>(index)];
+  if (name == (*lists[kBase])[static_cast<std::size_t>(base)]) return false;
+  return std::any_of(matches[other].begin(), matches[other].end(), [&](const ClassMatch& match) {
+    return match.there && match.here != base &&
+           (*lists[other])[static_cast<std::size_t>(*match.there)] == name &&
+           (!match.here || (*lists[kBase])[static_cast<std::size_t>(*match.here)] != name);
+  });
+}
+
+}  // namespace
+
+std::vector<Three<std::int32_t>> sameNames(
+    const std::array<const std::vector<std::string>*, 3>& lists) {
+  std::vector<Three<std::int32_t>> same;
+  for (std::size_t k = 0; k < lists[kBase]->size(); ++k) {
+    same.emplace_back()[kBase] = static_cast<std::int32_t>(k);
+  }
+  std::array<std::vector<ClassMatch>, 3> matches;
+  for (const Side side : {kOurs, kTheirs}) {
+    matches[side] = matchNames(*lists[kBase], *lists[side], true);
+  }
+  std::array<std::vector<std::int32_t>, 3> added;
+  std::array<std::vector<std::string>, 3> addedNames;
+  for (const Side side : {kOurs, kTheirs}) {
+    for (const auto& [base, index] : matches[side]) {
+      if (base && (!index || !isRatherAdded(lists, matches, side, *base, *index))) {
+        same[static_cast<std::size_t>(*base)][side] = index;
+      } else if (index) {
+        added[side].push_back(*index);
+        addedNames[side].push_back((*lists[side])[static_cast<std::size_t>(*index)]);
+      }
+    }
+  }
+  for (const auto& [ours, theirs] : matchNames(addedNames[kOurs], addedNames[kTheirs], false)) {
+    Three<std::int32_t>& element = same.emplace_back();
+    if (ours) element[kOurs] = added[kOurs][static_cast<std::size_t>(*ours)];
+    if (theirs) element[kTheirs] = added[kTheirs][static_cast<std::size_t>(*theirs)];
+  }
+  return same;
+}
+
+MergedList::MergedList(const std::array<const std::vector<std::string>*, 3>& lists)
+    : elements(sameNames(lists)), stays(elements.size(), true), indexOf(elements.size()) {
+  for (const Side side : kSides) {
+    elementOf[side].resize(lists[side]->size());
+    for (std::size_t id = 0; id < elements.size(); ++id) {
+      const auto index = elements[id][side];
+      if (index) elementOf[side][static_cast<std::size_t>(*index)] = id;
+    }
+  }
+}
+
+void MergedList::arrange(std::vector<std::size_t> elementsInOrder) {
+  order = std::move(elementsInOrder);
+  for (std::size_t k = 0; k < order.size(); ++k) indexOf[order[k]] = static_cast<std::int32_t>(k);
+}
+
+SameRoster sameRoster(const ThreeContests& contests) {
+  return RosterMatcher(contests).run();
+}
+
+}  // namespace scorvane

@@ -1,0 +1,110 @@
+#include "model/contest_merge.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <random>
+
+#include "model/bring_in_scores.h"
+#include "storage/contest_writer.h"
+#include "tests/model/merge_laws.h"
+#include "tests/support/contest_builder.h"
+#include "tools/contest_maker.h"
+
+namespace scorvane {
+
+namespace {
+
+// SCORVANE_TRIPLES=10000 checks more contests.
+TEST(ContestMerge, KeepsItsLaws) {
+  const char* wanted = std::getenv("SCORVANE_TRIPLES");
+  const int triples = wanted == nullptr ? 400 : std::atoi(wanted);
+  int smooth = 0, differing = 0, lost = 0, renumbered = 0, joined = 0;
+  for (int round = 0; round < triples; ++round) {
+    std::mt19937 random(static_cast<std::uint32_t>(round));
+    const Choose choose = [&](std::uint32_t end) { return random() % end; };
+    const auto edited = [&](Contest contest, std::uint32_t edits) {
+      for (std::uint32_t i = choose(edits); i > 0; --i) editAtRandom(contest, choose);
+      return savedAndLoaded(contest);
+    };
+    const ContestPlan plan{.seed = choose(100),
+                           .contestants = static_cast<std::int32_t>(choose(12)),
+                           .perTeam = 1 + static_cast<std::int32_t>(choose(3)),
+                           .alternates = static_cast<std::int32_t>(choose(2)),
+                           .classes = static_cast<std::int32_t>(choose(5)),
+                           .reasonsClasses = 1,
+                           .questionsClasses = 1,
+                           .categories = 2,
+                           .groups = 2};
+    const Contest base = edited(makeContest(plan), 10);
+    const Contest ours = edited(base, 12), theirs = edited(base, 12);
+    const Merge merge = mergeContests(base, ours, theirs);
+    smooth += merge.isSmooth() ? 1 : 0;
+    differing += merge.values.empty() && merge.scores.empty() ? 0 : 1;
+    lost += merge.lostRemovals.empty() ? 0 : 1;
+    renumbered += merge.numbers.empty() ? 0 : 1;
+    joined += merge.contest != ours && merge.contest != theirs ? 1 : 0;
+    ASSERT_EQ(brokenMergeLaw(base, ours, theirs), "") << "round " << round << "\nbase\n"
+                                                      << writeContest(base) << "\nours\n"
+                                                      << writeContest(ours) << "\ntheirs\n"
+                                                      << writeContest(theirs) << "\nmerged\n"
+                                                      << writeContest(merge.contest);
+  }
+  for (const int count : {smooth, differing, lost, renumbered, joined}) {
+    EXPECT_GT(count, triples / 20);
+  }
+}
+
+TEST(ContestMerge, GivesClashingTeamsOtherNumbers) {
+  const auto with = [](ContestBuilder builder, const std::string& team, const char* first) {
+    builder.team(team, "", {first, "Bo", "Cy", "Di"});
+    builder.placings(105, team == "Elm" ? "A" : "B");
+    return savedAndLoaded(builder.contest);
+  };
+  ContestBuilder base;
+  base.addClass({.name = "Steers"}).team("Ash", "", {"An", "Ben", "Cal", "Dan"});
+  const Merge merge =
+      mergeContests(savedAndLoaded(base.contest), with(base, "Elm", "Al"), with(base, "Fir", "Ed"));
+  EXPECT_EQ(numberChangeLines(merge.numbers),
+            std::vector<std::string>{"105 to 108 are now 109 to 112"});
+  EXPECT_EQ(scoreRecord(merge.contest, 105, 0).letter, 'A');
+  EXPECT_EQ(scoreRecord(merge.contest, 109, 0).letter, 'B');
+  EXPECT_EQ(contestantName(merge.contest, 109), "Ed");
+}
+
+TEST(BringInScores, TakesOverWhatIsMissing) {
+  ContestBuilder builder;
+  builder.addClass({.name = "Steers"}).addClass({.name = "Ewes"}).team("Ash", "", {"An", "Ben"});
+  builder.placings(101, "A").placings(102, "B");
+  const Contest here = builder.contest;
+  Contest there = here;
+  there.scores[101][0].letter = 'C';
+  there.scores[101][1] = {'D', 0, 30, 0};
+  there.scores[102][0].letter = kNoLetter;
+  there.contestantNames[102] = "Bo";
+  const BroughtScores brought = bringInScores(here, there);
+  EXPECT_EQ(brought.broughtIn.size(), 2U);
+  EXPECT_EQ(brought.differing.size(), 1U);
+  EXPECT_EQ(brought.people.here, std::vector<std::string>{"102 Ben"});
+  EXPECT_EQ(brought.people.there, std::vector<std::string>{"102 Bo"});
+  EXPECT_EQ(scoreRecord(brought.contest, 101, 0), scoreRecord(here, 101, 0));
+  EXPECT_EQ(scoreRecord(brought.contest, 101, 1),
+            (ScoreRecord{'D', placingScore('D', 'A', {2, 3, 4}), 30, 0}));
+}
+
+TEST(ContestMerge, KnowsAnotherContest) {
+  ContestBuilder builder;
+  builder.addClass({.name = "Steers"}).team("Ash", "", {"An", "Ben", "Cal", "Dan"});
+  Contest other = builder.contest;
+  other.contestantNames[101] = other.contestantNames[102] = "Eve";
+  EXPECT_TRUE(isSameContest(builder.contest, other));
+  other.contestantNames[103] = "Eve";
+  EXPECT_FALSE(isSameContest(builder.contest, other));
+  other = builder.contest;
+  other.classes.className[0] = "Ewes";
+  EXPECT_FALSE(isSameContest(builder.contest, other));
+}
+
+}  // namespace
+
+}  // namespace scorvane
