@@ -14,13 +14,14 @@ CliResult runImport(const ImportOptions& options, FileSystem& files) {
   if (!bytes) return nothingDone("cannot read '" + contestText(options.roster) + "'");
 
   const RosterPlan plan = planRoster(*bytes, opened.contest);
-  CliResult result{0, "", opened.remarks};
+  CliResult result;
+  result.error = opened.remarks;
   for (const std::string& line : planLines(plan, opened.contest)) result.output += line + '\n';
   result.output += planSummary(plan) + '\n';
   const auto fail = [&result](const std::string& reason) {
-    CliResult failed = nothingDone(reason);
-    failed.output = std::move(result.output);
-    return failed;
+    result.status = kFailed;
+    result.error += nothingDone(reason).error;
+    return result;
   };
   if (plan.holdsNobody) return fail("the sheet holds no team and no contestant");
   if (!plan.problems.empty()) {

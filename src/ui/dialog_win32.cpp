@@ -5,7 +5,6 @@
 #include <commctrl.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <map>
 #include <utility>
 
@@ -73,7 +72,6 @@ class NativeDialog final : public Dialog {
   [[nodiscard]] const LineMessages& lineMessages(ControlId id) const;
   [[nodiscard]] bool hasLine(ControlId id, int index) const;
   void keepKey(ControlId id, LRESULT index, const LineKey& key);
-  void useColumnFont();
   void widenFor(ControlId id, const std::string& line);
 
   DialogBehaviour& behaviour_;
@@ -119,7 +117,7 @@ LRESULT CALLBACK linkedListProcedure(HWND list, UINT message, WPARAM wParam, LPA
 
 INT_PTR NativeDialog::initialize(HWND window) {
   window_ = window;
-  useColumnFont();
+  columnFont_ = useColumnFont(window);
   prepareLargeFields(window);
   enableTypeAhead(window);
   behaviour_.onOpen(*this);
@@ -146,19 +144,6 @@ INT_PTR NativeDialog::command(ControlId id, WORD notification) {
 INT_PTR NativeDialog::closeBox() {
   if (!ended_) behaviour_.onClose(*this);
   return TRUE;
-}
-
-// Blanks align the columns of list lines, so lists need a fixed-pitch font.
-void NativeDialog::useColumnFont() {
-  const auto dialogFont = reinterpret_cast<HFONT>(SendMessageA(window_, WM_GETFONT, 0, 0));
-  LOGFONTA font{};
-  if (dialogFont == nullptr || GetObjectA(dialogFont, sizeof font, &font) == 0) return;
-  columnFont_ = makeFixedFont(std::abs(static_cast<int>(font.lfHeight)));
-  for (HWND child = GetWindow(window_, GW_CHILD); child != nullptr;
-       child = GetWindow(child, GW_HWNDNEXT)) {
-    if (controlKind(child) != ControlKind::list) continue;
-    SendMessageA(child, WM_SETFONT, reinterpret_cast<WPARAM>(columnFont_.get()), FALSE);
-  }
 }
 
 LRESULT NativeDialog::send(ControlId id, UINT message, WPARAM wParam, LPARAM lParam) const {

@@ -3,6 +3,9 @@
 #include <windows.h>
 
 #include <array>
+#include <cstdlib>
+
+#include "ui/control_kind_win32.h"
 
 namespace scorvane {
 
@@ -43,6 +46,19 @@ GraphicsObject makeFixedFont(int height) {
   }
   // A stock object; deleting it does nothing.
   return GraphicsObject(GetStockObject(ANSI_FIXED_FONT));
+}
+
+GraphicsObject useColumnFont(NativeWindow dialog) {
+  const auto dialogFont = reinterpret_cast<HFONT>(SendMessageA(dialog, WM_GETFONT, 0, 0));
+  LOGFONTA font{};
+  if (dialogFont == nullptr || GetObjectA(dialogFont, sizeof font, &font) == 0) return {};
+  GraphicsObject columnFont = makeFixedFont(std::abs(static_cast<int>(font.lfHeight)));
+  for (HWND child = GetWindow(dialog, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    if (controlKind(child) != ControlKind::list) continue;
+    SendMessageA(child, WM_SETFONT, reinterpret_cast<WPARAM>(columnFont.get()), FALSE);
+  }
+  return columnFont;
 }
 
 int characterWidth(const GraphicsObject& fixedFont) {
