@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <string>
+#include <vector>
 
+#include "app/command_table.h"
 #include "fuzz/checks.h"
+#include "model/contest_findings.h"
 #include "model/numbering.h"
 #include "session/open_contest.h"
 #include "storage/contest_writer.h"
@@ -44,36 +47,50 @@ void requireScoresAsComputed(const Contest& contest) {
   }
 }
 
-constexpr std::size_t kFitsAnyLine = 100;
-
-bool isShort(const std::string& text) {
-  return text.size() <= kFitsAnyLine;
-}
-
-// Whether no line of the file has to leave anything out, and no value is one that loading mends.
-bool fitsTheFile(const Contest& contest) {
-  constexpr std::int32_t kSlotsOnAnyLine = 20;
-  const ContestSettings& settings = contest.settings;
-  if (settings.totalNumPerTeam > kSlotsOnAnyLine || !isShort(settings.contestName) ||
-      !isShort(settings.divisionName) || !isShort(settings.contestDate)) {
-    return false;
-  }
-  std::size_t categories = 0;
-  for (const std::string& name : contest.categories) categories += name.size() + 1;
-  const auto& classes = contest.classes.className;
-  const auto& names = contest.contestantNames;
+// Whether no value is one that loading mends.
+bool isKeptAsItIs(const Contest& contest) {
   const auto count = static_cast<std::int32_t>(contest.categories.size());
   const auto& indexes = contest.classes.categoryIndex;
-  return categories < 4 * kFitsAnyLine &&
-         std::all_of(indexes.begin(), indexes.end(),
+  return std::all_of(indexes.begin(), indexes.end(),
                      [count](auto i) { return i >= 0 && i < std::max(count, 1); }) &&
-         std::all_of(classes.begin(), classes.end(), isShort) &&
-         std::all_of(names.begin(), names.end(),
-                     [](const auto& entry) { return isShort(entry.second); }) &&
          std::all_of(contest.teams.begin(), contest.teams.end(), [](const auto& team) {
-           return isShort(team.first) && isShort(team.second.coach) && team.first != " " &&
-                  team.second.coach != " ";  // an empty text is written as a blank
+           return team.first != " " && team.second.coach != " ";  // an empty text is a blank there
          });
+}
+
+bool isTold(const std::vector<Finding>& cuts, CutText cut, ContestantNumber number,
+            std::int32_t classIndex) {
+  return std::any_of(cuts.begin(), cuts.end(), [&](const Finding& finding) {
+    return finding.cut == cut && finding.number == number && finding.classIndex == classIndex;
+  });
+}
+
+// Also of a contest with a text that is cut, all others survive; and categories always do, as
+// they are refused where they are typed.
+void requireTextsAlike(const Contest& contest, const Contest& loaded,
+                       const std::vector<Finding>& cuts) {
+  require(contest.categories.empty() || loaded.categories == contest.categories,
+          "every category is saved");
+  for (std::int32_t k = 0; k < contest.classes.count(); ++k) {
+    require(
+        isTold(cuts, CutText::className, 0, k) || loaded.classes.name(k) == contest.classes.name(k),
+        "every class's name is saved");
+    require(contest.categories.empty() || categoryName(loaded, loaded.classes.category(k)) ==
+                                              categoryName(contest, contest.classes.category(k)),
+            "every class stays in its category");
+  }
+  for (const auto& [number, name] : contest.contestantNames) {
+    require(
+        isTold(cuts, CutText::contestantName, number, 0) || contestantName(loaded, number) == name,
+        "every contestant's name is saved");
+  }
+  for (const auto& [name, team] : contest.teams) {
+    // A name that is cut can become that of another team.
+    const bool mayBeCut = std::any_of(cuts.begin(), cuts.end(), [](const Finding& finding) {
+      return finding.cut == CutText::teamName;
+    });
+    require(mayBeCut || loaded.teams.contains(name == " " ? "" : name), "every team is saved");
+  }
 }
 
 void requireAlike(Contest contest, Contest loaded) {
@@ -106,6 +123,7 @@ void ContestPromises::dialogActed(const MemoryDialog& dialog) {
   const Contest& contest = currentContest();
   // Clearing all teams leaves the reasons order as it is, and the numbers are given out again.
   if (command_ == kSetupTeams && contest.contestantNames.empty()) teamsCleared_ = true;
+  keepLedger(contest);
   checkReasonsOrder(contest);
   if (command_ != kSetupClasses) return;
   // The undo of a refused class leaves columns of different lengths until all are cleared.
@@ -113,6 +131,16 @@ void ContestPromises::dialogActed(const MemoryDialog& dialog) {
   for (const Message& message : dialog.desktop.messages) {
     classRefused_ = classRefused_ || message.text.rfind("Error:", 0) == 0 ||
                     message.text.rfind("Illegal value", 0) == 0;
+  }
+}
+
+// Scores come in by these menus only, or with another contest.
+void ContestPromises::keepLedger(const Contest& contest) {
+  const std::string_view menu = findCommand(command_)->menu;
+  if (menu == "Score" || menu == "File" || menu == "Tools") {
+    ledger_.enter(contest);
+  } else {
+    ledger_.watch(contest);
   }
 }
 
@@ -141,12 +169,14 @@ void ContestPromises::checkReasonsOrder(const Contest& contest) {
 }
 
 bool ContestPromises::comesBackAlike(const Contest& contest) const {
-  return fitsTheFile(contest) && strays_.empty() && !teamsCleared_;
+  return isKeptAsItIs(contest) && strays_.empty() && !teamsCleared_;
 }
 
 void ContestPromises::check(const Contest& contest) {
   require(classRefused_ || evenColumns(contest.classes), "the columns of classes are even");
   requireWholeTeams(contest);
+  keepLedger(contest);
+  ledger_.checkFindings(contest);
   checkReasonsOrder(contest);
   requireScoresAsComputed(contest);
   const std::string saved = writeContest(contest);
@@ -154,8 +184,10 @@ void ContestPromises::check(const Contest& contest) {
   require(evenColumns(loaded.classes), "the columns of loaded classes are even");
   requireWholeTeams(loaded);
   require(orderAgreesWithPlaces(loaded), "a loaded reasons order agrees with the places");
+  const std::vector<Finding> cuts = cutTexts(contest);
+  requireTextsAlike(contest, loaded, cuts);
   const std::string savedAgain = writeContest(loaded);
-  if (comesBackAlike(contest)) {
+  if (comesBackAlike(contest) && cuts.empty()) {
     require(savedAgain == saved, "loading and saving give the same bytes");
     requireAlike(contest, loaded);
   }

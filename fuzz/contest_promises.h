@@ -3,6 +3,7 @@
 
 #include <set>
 
+#include "fuzz/card_ledger.h"
 #include "model/contest.h"
 #include "tests/ui/memory_dialog.h"
 
@@ -11,6 +12,8 @@ namespace scorvane {
 /// Watches a session for the few actions that loosen a promise, and checks the rest.
 class ContestPromises {
  public:
+  explicit ContestPromises(const Contest& contest) { ledger_.enter(contest); }
+
   /// To be told of every command before it runs, and of every action in the dialog it opened.
   void commandStarts(int commandId) { command_ = commandId; }
   void dialogActed(const MemoryDialog& dialog);
@@ -19,9 +22,11 @@ class ContestPromises {
   void check(const Contest& contest);
 
  private:
+  void keepLedger(const Contest& contest);
   void checkReasonsOrder(const Contest& contest);
   [[nodiscard]] bool comesBackAlike(const Contest& contest) const;
 
+  CardLedger ledger_;
   int command_ = 0;
   bool classRefused_ = false;
   bool teamsCleared_ = false;

@@ -1,8 +1,8 @@
 // An operator who does anything: bytes become a small contest and a session on it, in which
 // commands and dialogs follow each other and are clicked, typed, pasted and chosen in, in any
 // order. After every command the contest must keep its promises and come through saving and loading
-// unchanged. Nothing reaches the disk: the contest has no file name, or one in a folder that does
-// not exist.
+// unchanged, and every score must be that of whoever handed in the card. Nothing reaches the disk:
+// the contest has no file name, or one in a folder that does not exist.
 #include <gtest/gtest.h>
 
 #include <cstddef>
@@ -81,7 +81,7 @@ std::string textOf(Bytes& bytes) {
 
 class Operator {
  public:
-  explicit Operator(Bytes& bytes) : bytes_(bytes) {
+  explicit Operator(Bytes& bytes) : bytes_(bytes), promises_(currentContest()) {
     window_.operate = [this](MemoryDialog& dialog) { work(dialog); };
   }
 
@@ -112,10 +112,12 @@ class Operator {
   }
 
   void answerEverything(ScriptedDesktop& desktop) {
-    // Far more than one action can ask.
-    desktop.answers.assign(8, bytes_.below(2) == 1 ? Answer::ok : Answer::cancel);
-    for (Answer& answer : desktop.answers) {
-      if (bytes_.below(4) == 3) answer = Answer::no;
+    static constexpr Answer kAnswers[] = {Answer::ok, Answer::cancel, Answer::no};
+    const int kind = bytes_.below(4);
+    // Far more than one action can ask; the last kind is OK, Cancel and No in turn.
+    desktop.answers.resize(8);
+    for (std::size_t i = 0; i < desktop.answers.size(); ++i) {
+      desktop.answers[i] = kAnswers[kind < 3 ? static_cast<std::size_t>(kind) : i % 3];
     }
     desktop.files.clear();
     desktop.messages.clear();
@@ -146,6 +148,10 @@ class Operator {
         break;
       case 3:
         if (dialog.focused() != 0) dialog.keys(textOf(bytes_));
+        break;
+      case 4:
+        useControl(dialog);
+        dialog.pressEnter();
         break;
       default:
         useControl(dialog);

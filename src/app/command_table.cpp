@@ -154,6 +154,7 @@ constexpr std::array kCommands = {
     Command{33011, "Tools", "Score Cards By Team", Report{plain<scoreCardsReport>}},
     Command{33012, "Tools", "Class Analysis", Report{plain<classAnalysisReport>}},
     Command{33014, "Tools", "Entry Progress", Report{plain<entryProgressReport>}},
+    Command{33024, "Tools", "Move Or Clear Cards ...", runMoveCards},
     Command{33023, "Tools", "Earlier Saves ...", runEarlierSaves},
 
     Command{32857, "Help", "Scorvane Help (F1)", helpCommand},

@@ -5,6 +5,7 @@
 
 #include "app/file_menu.h"
 #include "app/shown_report.h"
+#include "entry/move_cards_dialog.h"
 #include "exchange/earlier_saves_dialog.h"
 #include "reports/differences_report.h"
 #include "session/open_contest.h"
@@ -12,6 +13,15 @@
 #include "text/report_marks.h"
 
 namespace scorvane {
+
+void runMoveCards(MainWindow& window) {
+  const Contest before = currentContest();
+  MoveCardsDialog dialog(currentContest());
+  if (window.runDialog(IDD_MOVE_CARDS, dialog) != kOkId) return;
+  showReport(window, differencesReport(currentContest(), before,
+                                       {"Scores moved, exchanged or cleared", "Now", "Before"}));
+  sayIfWorkIsNotKept(window);
+}
 
 void runEarlierSaves(MainWindow& window) {
   std::vector<EarlierSave> saves;

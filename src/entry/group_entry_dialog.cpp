@@ -1,44 +1,16 @@
 #include "entry/group_entry_dialog.h"
 
-#include <algorithm>
 #include <tuple>
 #include <utility>
 #include <vector>
 
 #include "entry/last_score.h"
-#include "model/class_lists.h"
+#include "entry/score_lists.h"
 #include "text/format.h"
 
 namespace scorvane {
 
 namespace {
-
-std::vector<ListLine> linesOfClasses(const JudgingClasses& classes, EntryKind kind) {
-  const std::vector<std::int32_t> listed = kind == EntryKind::placings  ? allClasses(classes)
-                                           : kind == EntryKind::reasons ? reasonsClasses(classes)
-                                                                        : questionsClasses(classes);
-  std::vector<ListLine> lines;
-  lines.reserve(listed.size());
-  for (const std::int32_t index : listed) lines.push_back({classLine(classes, index), index});
-  return lines;
-}
-
-// A line's key is the group's letter and not its position: beyond "Z" a sorted list need not be in
-// the order of the letters.
-std::vector<ListLine> linesOfGroups(const std::vector<char>& letters) {
-  std::vector<ListLine> lines;
-  lines.reserve(letters.size());
-  for (const char letter : letters) lines.push_back({formatText("   %c   ", letter), letter});
-  return lines;
-}
-
-std::vector<ListLine> linesOfReasonsGroups(std::int32_t groups) {
-  std::vector<ListLine> lines;
-  for (std::int32_t group = 0; group < std::min(groups, kMostReasonsGroupsShown); ++group) {
-    lines.push_back({formatText("   %d   ", group + 1), group});
-  }
-  return lines;
-}
 
 std::optional<std::string> readNumber(std::optional<std::uint32_t> number, const char* scoreName,
                                       std::optional<std::int32_t>& score) {
@@ -68,9 +40,7 @@ std::optional<std::string> readScore(const Dialog& dialog, const GroupEntry& ent
 
 void GroupEntryDialog::onOpen(Dialog& dialog) {
   dialog.setLines(IDC_ENTRY_CLASS, linesOfClasses(contest_.classes, entry_.kind));
-  dialog.setLines(IDC_ENTRY_GROUP, entry_.kind == EntryKind::reasons
-                                       ? linesOfReasonsGroups(contest_.reasonsOrder.columnCount())
-                                       : linesOfGroups(contest_.groupLetters));
+  dialog.setLines(IDC_ENTRY_GROUP, linesOfGroups(contest_, entry_.kind));
   dialog.focus(entry_.field);
 }
 

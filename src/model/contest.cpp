@@ -20,12 +20,6 @@ void removeAt(std::vector<Element>& column, std::int32_t index) {
   }
 }
 
-// How many of the three scores of a card a record holds.
-int countEntered(const ScoreRecord& record) {
-  return (record.letter != kNoLetter ? 1 : 0) + (record.reasonsScore != 0 ? 1 : 0) +
-         (record.questionsScore != 0 ? 1 : 0);
-}
-
 const std::string kEmpty;
 
 }  // namespace
@@ -114,6 +108,11 @@ const std::string& categoryName(const Contest& contest, std::int32_t index) {
   if (contest.categories.empty()) return kEmpty;
   const bool exists = index >= 0 && static_cast<std::size_t>(index) < contest.categories.size();
   return contest.categories[exists ? static_cast<std::size_t>(index) : 0];
+}
+
+int countEntered(const ScoreRecord& record) {
+  return (record.letter != kNoLetter ? 1 : 0) + (record.reasonsScore != 0 ? 1 : 0) +
+         (record.questionsScore != 0 ? 1 : 0);
 }
 
 bool hasScores(const Contest& contest) {

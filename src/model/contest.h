@@ -127,6 +127,10 @@ struct Contest {
 /// Name of a category; the first one's when there is no such index, "" without categories.
 [[nodiscard]] const std::string& categoryName(const Contest& contest, std::int32_t index);
 
+/// How many of the three scores of a card a record holds: a letter, and reasons and questions
+/// scores other than 0.
+[[nodiscard]] int countEntered(const ScoreRecord& record);
+
 /// Whether any score was entered: some record holds a letter, or a reasons or questions score
 /// other than 0.
 [[nodiscard]] bool hasScores(const Contest& contest);

@@ -16,6 +16,13 @@ ContestantNumber after(ContestantNumber number, std::uint32_t step) {
   return static_cast<ContestantNumber>(static_cast<std::uint32_t>(number) + step);
 }
 
+// Scores of a contestant who had the number before stay when a team is removed.
+void startWithBlankRecords(Contest& contest, ContestantNumber number) {
+  ClassScores records;
+  for (std::int32_t k = 0; k < contest.classes.count(); ++k) records[k] = ScoreRecord{};
+  contest.scores[number] = std::move(records);
+}
+
 }  // namespace
 
 void setContestant(Contest& contest, ContestantNumber number, const std::string& name,
@@ -27,9 +34,7 @@ void setContestant(Contest& contest, ContestantNumber number, const std::string&
 void addContestant(Contest& contest, ContestantNumber number, const std::string& name,
                    std::optional<char> group) {
   setContestant(contest, number, name, group);
-  ClassScores records;
-  for (std::int32_t k = 0; k < contest.classes.count(); ++k) records[k] = ScoreRecord{};
-  contest.scores[number] = std::move(records);
+  startWithBlankRecords(contest, number);
 }
 
 void vacateNumber(Contest& contest, ContestantNumber number) {
@@ -64,7 +69,10 @@ std::vector<ContestantNumber> fillTeamSlots(Contest& contest,
   for (std::size_t slot = 0; slot < teamSlots(contest.settings); ++slot) {
     const bool isNamed = slot < named.size();
     const ContestantNumber number = isNamed ? named[slot] : next;
-    if (!isNamed) contest.contestantNames[number] = "";
+    if (!isNamed) {
+      contest.contestantNames[number] = "";
+      startWithBlankRecords(contest, number);
+    }
     members.push_back(number);
     next = after(number, 1);
   }

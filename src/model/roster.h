@@ -20,7 +20,9 @@ void addContestant(Contest& contest, ContestantNumber number, const std::string&
                    std::optional<char> group = std::nullopt);
 
 /// Takes the person out of a number, which stays with its team as a slot without a name. The
-/// person leaves the reasons order.
+/// person leaves the reasons order; the scores stay with the slot.
+///
+/// Odd but required, docs/required-behaviour.md: emptied-slot-keeps-its-scores
 void vacateNumber(Contest& contest, ContestantNumber number);
 
 /// Removes a contestant from the contest and the reasons order. The team keeps the number among
@@ -36,7 +38,7 @@ void discardContestants(Contest& contest, const std::vector<ContestantNumber>& n
                                      std::int32_t slot);
 
 /// The teamSlots() members of a team whose first slots hold `named`. Each slot beyond them
-/// takes the next number, which is entered without a name.
+/// takes the next number, which is entered without a name and with a blank record for every class.
 [[nodiscard]] std::vector<ContestantNumber> fillTeamSlots(
     Contest& contest, const std::vector<ContestantNumber>& named);
 

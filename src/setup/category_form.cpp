@@ -2,9 +2,11 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "setup/setup_ids.h"
+#include "storage/contest_writer.h"
 #include "ui/field_text.h"
 
 namespace scorvane {
@@ -13,6 +15,15 @@ namespace {
 
 void refuse(Dialog& dialog, const char* message) {
   dialog.show(message, "Information");
+}
+
+// What does not fit would be lost with the next save, and its classes would move to another
+// category. The text typed stays, to be shortened.
+void refuseTooLong(Dialog& dialog) {
+  refuse(dialog,
+         "The names of the categories are too long together to be saved.  Please use a shorter "
+         "name.");
+  dialog.focus(IDC_CATEGORY_NAME);
 }
 
 // Back to adding: nothing selected and an empty edit box, ready for the next category.
@@ -34,11 +45,12 @@ void addCategory(Dialog& dialog, std::vector<std::string>& categories) {
     return;
   }
   // A lone "none" means that there is no category yet.
-  if (categories.size() == 1 && categories[0] == kNoCategory) {
-    categories.clear();
-    dialog.removeLine(IDC_CATEGORY_LIST, 0);
-  }
-  categories.push_back(category);
+  const bool isFirst = categories.size() == 1 && categories[0] == kNoCategory;
+  std::vector<std::string> extended = isFirst ? std::vector<std::string>() : categories;
+  extended.push_back(category);
+  if (!categoriesFit(extended)) return refuseTooLong(dialog);
+  categories = std::move(extended);
+  if (isFirst) dialog.removeLine(IDC_CATEGORY_LIST, 0);
   dialog.addLine(IDC_CATEGORY_LIST, {category, category});
   startAdding(dialog);
 }
@@ -56,10 +68,15 @@ void updateCategory(Dialog& dialog, std::vector<std::string>& categories) {
     dialog.setText(IDC_CATEGORY_NAME, index < categories.size() ? categories[index] : "");
     return;
   }
+  std::vector<std::string> updated = categories;
+  // Odd but required, docs/required-behaviour.md: first-category-keeps-its-name
+  if (index > 0 && index < updated.size()) updated[index] = category;
+  // Categories that came from elsewhere can be too long already; shortening one is always allowed.
+  const bool isLonger = index < categories.size() && category.size() > categories[index].size();
+  if (isLonger && !categoriesFit(updated)) return refuseTooLong(dialog);
+  categories = std::move(updated);
   dialog.insertLine(IDC_CATEGORY_LIST, *selected, {category, category});
   dialog.removeLine(IDC_CATEGORY_LIST, *selected + 1);
-  // Odd but required, docs/required-behaviour.md: first-category-keeps-its-name
-  if (index > 0 && index < categories.size()) categories[index] = category;
   startAdding(dialog);
 }
 

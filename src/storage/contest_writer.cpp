@@ -26,13 +26,27 @@ std::string_view fieldOf(const std::string& text) {
   return std::string_view(text).substr(0, text.find_first_of("\t\r\0"sv));
 }
 
-/// Appends `before`, as much of the text as the line holds, and `after`.
-void appendLine(std::string& out, std::string_view before, std::string_view text,
+/// Texts that are not written whole.
+using CutTexts = std::vector<Finding>;
+
+Finding cutText(CutText cut, const std::string& text) {
+  Finding finding;
+  finding.kind = FindingKind::textCut;
+  finding.cut = cut;
+  finding.text = text;
+  return finding;
+}
+
+/// Appends `before`, as much of the text's field as the line holds, and `after`. Returns whether
+/// that is the whole text.
+bool appendLine(std::string& out, std::string_view before, const std::string& text,
                 std::string_view after) {
+  const std::string_view kept = fieldOf(text).substr(0, kLineRoom - before.size() - after.size());
   out += before;
-  out += text.substr(0, kLineRoom - before.size() - after.size());
+  out += kept;
   out += after;
   out += kLineEnd;
+  return kept.size() == text.size();
 }
 
 void appendSectionStart(std::string& out, std::string_view marker, std::int64_t count) {
@@ -42,12 +56,17 @@ void appendSectionStart(std::string& out, std::string_view marker, std::int64_t 
   out += kLineEnd;
 }
 
-void appendCategories(std::string& out, const std::vector<std::string>& categories) {
+void appendCategories(std::string& out, const std::vector<std::string>& categories,
+                      CutTexts& shortened) {
   std::string line(kCategoriesKey);
   for (const std::string& category : categories) {
-    if (line.size() + 1 >= kLineRoom) break;
-    line += '\t';
-    line += fieldOf(category).substr(0, kLineRoom - line.size());
+    std::string_view kept;
+    if (line.size() + 1 < kLineRoom) {
+      line += '\t';
+      kept = fieldOf(category).substr(0, kLineRoom - line.size());
+      line += kept;
+    }
+    if (kept.size() < category.size()) shortened.push_back(cutText(CutText::category, category));
   }
   // A single name that is empty would read back as the placeholder; so does none at all.
   if (line.size() <= kCategoriesKey.size() + 1) {
@@ -64,21 +83,27 @@ std::int32_t numberOf(const ContestSettings& settings, const SettingLine& line) 
   return settings.*std::get<std::int32_t ContestSettings::*>(line.value);
 }
 
-void appendSettings(std::string& out, const Contest& contest) {
+CutText cutOf(std::string ContestSettings::*text) {
+  if (text == &ContestSettings::contestName) return CutText::contestName;
+  return text == &ContestSettings::divisionName ? CutText::divisionName : CutText::contestDate;
+}
+
+void appendSettings(std::string& out, const Contest& contest, CutTexts& shortened) {
   for (const SettingLine& line : kSettingLines) {
     const std::string before = std::string(line.key) + "\t";
-    if (const auto* text = std::get_if<std::string ContestSettings::*>(&line.value)) {
-      appendLine(out, before, fieldOf(contest.settings.**text), "");
+    if (const auto* member = std::get_if<std::string ContestSettings::*>(&line.value)) {
+      const std::string& text = contest.settings.**member;
+      if (!appendLine(out, before, text, "")) shortened.push_back(cutText(cutOf(*member), text));
     } else {
       out += before;
       appendNumber(out, numberOf(contest.settings, line));
       out += kLineEnd;
     }
   }
-  appendCategories(out, contest.categories);
+  appendCategories(out, contest.categories, shortened);
 }
 
-void appendClasses(std::string& out, const JudgingClasses& classes) {
+void appendClasses(std::string& out, const JudgingClasses& classes, CutTexts& shortened) {
   appendSectionStart(out, kClassesMarker, classes.count());
   for (std::int32_t k = 0; k < classes.count(); ++k) {
     std::string fields;
@@ -92,11 +117,13 @@ void appendClasses(std::string& out, const JudgingClasses& classes) {
     fields += ',';
     appendNumber(fields, cuts.cut3);
     appendField(fields, classes.category(k));
-    appendLine(out, "", fieldOf(classes.name(k)), fields);
+    if (appendLine(out, "", classes.name(k), fields)) continue;
+    shortened.push_back(cutText(CutText::className, classes.name(k)));
+    shortened.back().classIndex = k;
   }
 }
 
-void appendContestants(std::string& out, const Contest& contest) {
+void appendContestants(std::string& out, const Contest& contest, CutTexts& shortened) {
   appendSectionStart(out, kContestantsMarker,
                      static_cast<std::int64_t>(contest.contestantNames.size()));
   std::string before;
@@ -106,13 +133,14 @@ void appendContestants(std::string& out, const Contest& contest) {
     after.clear();
     appendNumber(before, number);
     before += '\t';
-    const std::string_view field = fieldOf(name);
-    if (!field.empty()) {
+    if (!fieldOf(name).empty()) {
       const ReasonsPlace place = reasonsPlaceOf(contest, number);
       appendField(after, place.group);
       appendField(after, place.position);
     }
-    appendLine(out, before, field, after);
+    if (appendLine(out, before, name, after)) continue;
+    shortened.push_back(cutText(CutText::contestantName, name));
+    shortened.back().number = number;
   }
 }
 
@@ -128,8 +156,8 @@ std::string memberFields(const Team& team, std::int32_t slots) {
 
 // Members come first: on a crowded line the names are cut, down to a length that still tells
 // teams apart, before a member is left out.
-void appendTeam(std::string& out, const std::string& teamName, const Team& team,
-                std::int32_t slots) {
+void appendTeam(std::string& out, const std::string& teamName, const Team& team, std::int32_t slots,
+                CutTexts& shortened) {
   constexpr std::size_t kKeptName = 40;
   constexpr std::size_t kKeptCoach = 24;
   std::string_view name = fieldOf(teamName);
@@ -138,17 +166,24 @@ void appendTeam(std::string& out, const std::string& teamName, const Team& team,
   if (coach.empty()) coach = " ";
   const std::size_t kept =
       std::min(name.size(), kKeptName) + 1 + std::min(coach.size(), kKeptCoach);
+  const auto noteCut = [&shortened, &teamName](CutText cut, const std::string& text) {
+    shortened.push_back(cutText(cut, text));
+    shortened.back().teams = {teamName};
+  };
   std::string members = memberFields(team, slots);
   std::size_t room = kept;
   if (kept + members.size() <= kLineRoom) {
     room = kLineRoom - members.size();
   } else {
+    noteCut(CutText::members, teamName);
     members.resize(members.rfind('\t', kLineRoom - kept));
   }
   if (name.size() + 1 + coach.size() > room) {
     name = name.substr(0, room - 1 - std::min(coach.size(), kKeptCoach));
     coach = coach.substr(0, room - 1 - name.size());
   }
+  if (name.size() < teamName.size()) noteCut(CutText::teamName, teamName);
+  if (coach.size() < team.coach.size()) noteCut(CutText::coach, team.coach);
   out += name;
   out += '\t';
   out += coach;
@@ -156,10 +191,10 @@ void appendTeam(std::string& out, const std::string& teamName, const Team& team,
   out += kLineEnd;
 }
 
-void appendTeams(std::string& out, const Contest& contest) {
+void appendTeams(std::string& out, const Contest& contest, CutTexts& shortened) {
   appendSectionStart(out, kTeamsMarker, static_cast<std::int64_t>(contest.teams.size()));
   for (const auto& [name, team] : contest.teams) {
-    appendTeam(out, name, team, contest.settings.totalNumPerTeam);
+    appendTeam(out, name, team, contest.settings.totalNumPerTeam, shortened);
   }
 }
 
@@ -193,7 +228,29 @@ void appendScores(std::string& out, const Contest& contest) {
   }
 }
 
+/// All but the scores.
+void appendTexts(std::string& out, const Contest& contest, CutTexts& shortened) {
+  appendSettings(out, contest, shortened);
+  appendClasses(out, contest.classes, shortened);
+  appendContestants(out, contest, shortened);
+  appendTeams(out, contest, shortened);
+}
+
 }  // namespace
+
+std::vector<Finding> cutTexts(const Contest& contest) {
+  std::string out;
+  CutTexts shortened;
+  appendTexts(out, contest, shortened);
+  return shortened;
+}
+
+bool categoriesFit(const std::vector<std::string>& categories) {
+  std::string out;
+  CutTexts shortened;
+  appendCategories(out, categories, shortened);
+  return shortened.empty();
+}
 
 std::string writeContest(const Contest& contest) {
   constexpr std::size_t kUsualScoreLine = 20;
@@ -202,10 +259,8 @@ std::string writeContest(const Contest& contest) {
   std::string out;
   out.reserve(4096 + contest.contestantNames.size() *
                          (kUsualContestantLine + classCount * kUsualScoreLine));
-  appendSettings(out, contest);
-  appendClasses(out, contest.classes);
-  appendContestants(out, contest);
-  appendTeams(out, contest);
+  CutTexts shortened;
+  appendTexts(out, contest, shortened);
   appendScores(out, contest);
   for (int i = 0; i < 2; ++i) {
     out += kTrailerLine;

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "model/contest.h"
+#include "model/contest_findings.h"
 
 namespace scorvane {
 
@@ -12,5 +14,11 @@ namespace scorvane {
 /// numbers are never cut. A text ends at its first TAB, CR or NUL, which would be read as the end
 /// of the field or of the line. Without categories the category "none" is written.
 [[nodiscard]] std::string writeContest(const Contest& contest);
+
+/// Every text that writeContest() cuts, in the order of the file, as a finding of kind textCut.
+[[nodiscard]] std::vector<Finding> cutTexts(const Contest& contest);
+
+/// Whether the names have room on their line.
+[[nodiscard]] bool categoriesFit(const std::vector<std::string>& categories);
 
 }  // namespace scorvane

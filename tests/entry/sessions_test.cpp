@@ -1,6 +1,7 @@
 // What the sessions beside this file speak of: the entry dialogs, and a contest amid score entry.
 #include "entry/group_entry_dialog.h"
 #include "entry/lookup_dialog.h"
+#include "entry/move_cards_dialog.h"
 #include "session/open_contest.h"
 #include "tests/support/contest_builder.h"
 #include "tests/ui/session.h"
@@ -35,6 +36,7 @@ auto opened(const Description&... description) {
 
 const SessionWorld kEntry = {
     {{"Lookup/Edit Individual Scores", opened<LookupDialog>()},
+     {"Move Or Clear Cards", opened<MoveCardsDialog>()},
      {"Input Placings Scores By Group", opened<GroupEntryDialog>(kPlacingsEntry)},
      {"Input Questions Scores By Group", opened<GroupEntryDialog>(kQuestionsEntry)},
      {"Input Reasons Scores By Group", opened<GroupEntryDialog>(kReasonsEntry)}},

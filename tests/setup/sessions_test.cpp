@@ -1,10 +1,14 @@
 // What the sessions beside this file speak of: the setup dialogs, contests and what befalls them.
 #include "reasons/reasons_order_edit_dialog.h"
+#include "session/open_contest.h"
 #include "setup/edit_contestants_dialog.h"
 #include "setup/setup_classes_dialog.h"
 #include "setup/setup_contest_dialog.h"
+#include "setup/setup_ids.h"
 #include "setup/setup_teams_dialog.h"
+#include "storage/contest_writer.h"
 #include "tests/reasons/reasons_contest.h"
+#include "tests/ui/memory_dialog.h"
 #include "tests/ui/session.h"
 
 namespace scorvane {
@@ -107,7 +111,34 @@ const SessionWorld kSetup = {
       }},
      {"a card of 102", [](Contest& c) { c.scores[102][0].letter = 'B'; }},
      {"a card of 103", [](Contest& c) { c.scores[103][0].letter = 'B'; }},
-     {"a card of 105", [](Contest& c) { c.scores[105][0].letter = 'B'; }}}};
+     {"a card of 105", [](Contest& c) { c.scores[105][0].letter = 'B'; }},
+     {"a card of 109", [](Contest& c) { c.scores[109][0].letter = 'B'; }}}};
+
+TEST(SetupContest, RefusesCategoriesThatCannotBeSaved) {
+  std::vector<std::string>& categories = currentContest().categories = {kNoCategory};
+  SetupContestDialog behaviour;
+  MemoryDialog dialog(IDD_SETUP_CONTEST, behaviour);
+  const auto type = [&](ControlId button, std::size_t length, bool isTaken) {
+    const std::vector<std::string> before = categories;
+    dialog.paste(IDC_CATEGORY_NAME, std::string(length, 'x'));
+    dialog.click(button);
+    for (const Message& told : dialog.desktop.messages) EXPECT_EQ(told.caption, "Information");
+    EXPECT_EQ(dialog.desktop.takeMessage().starts_with("The names of the categories"), !isTaken);
+    EXPECT_EQ(categories == before, !isTaken) << length;
+    EXPECT_EQ(dialog.text(IDC_CATEGORY_NAME).size(), isTaken ? 0 : length);
+    EXPECT_EQ(dialog.focused(), IDC_CATEGORY_NAME);
+    EXPECT_EQ(dialog.lines(IDC_CATEGORY_LIST).size(), categories.size());
+  };
+  type(IDC_ADD_CATEGORY, 486, false);  // "none" stays
+  type(IDC_ADD_CATEGORY, 300, true);
+  type(IDC_ADD_CATEGORY, 185, false);
+  type(IDC_ADD_CATEGORY, 184, true);
+  dialog.choose(IDC_CATEGORY_LIST, 1);
+  type(IDC_UPDATE_CATEGORY, 185, false);
+  categories[0].append(50, 'x');  // too long already, from elsewhere
+  type(IDC_UPDATE_CATEGORY, 183, true);
+  EXPECT_EQ(cutTexts(currentContest()).size(), 1);
+}
 
 class SetupSession : public testing::TestWithParam<std::string> {};
 

@@ -10,6 +10,7 @@
 #include "tests/storage/contest_text.h"
 #include "tests/storage/memory_files.h"
 #include "tests/support/contest_builder.h"
+#include "text/format.h"
 #include "tools/contest_maker.h"
 
 namespace scorvane {
@@ -214,13 +215,20 @@ TEST(ContestWriter, CutsTextsAtSeparatorsAndToTheLineAsApproved) {
   contest.teams["Clover"].coach = "\tPat";
   contest.teams["Few members"] = {tooLong, {101}};
   contest.teams["T" + tooLong] = {tooLong, std::vector<ContestantNumber>(90, 1234)};
-  contest.categories.assign(60, "Category!");
+  contest.categories.assign(50, "Category!");
   std::istringstream lines(writeContest(contest));
   std::string approved;
   for (std::string line; std::getline(lines, line);) {
     EXPECT_LT(line.size(), kMaxContestLine);
     ASSERT_TRUE(line.ends_with('\r'));
     approved.append(line, 0, line.size() - 1).append("\n");
+  }
+  for (const Finding& cut : cutTexts(contest)) {
+    EXPECT_EQ(cut.kind, FindingKind::textCut);
+    approved += formatText("cut %d: number %d, class %d, team %.9s, text %.3s of %d\n",
+                           static_cast<int>(cut.cut), cut.number, cut.classIndex,
+                           cut.teams.empty() ? "" : cut.teams.front().c_str(), cut.text.c_str(),
+                           static_cast<int>(cut.text.size()));
   }
   expectApproved(approved, "storage/long_texts.txt");
 }

@@ -33,8 +33,9 @@ std::string ScriptedDesktop::takeMessage() {
   return text;
 }
 
-MemoryDialog::MemoryDialog(int resourceId, DialogBehaviour& behaviour) : behaviour_(behaviour) {
-  const DialogTemplate& declared = dialogTemplates().at(std::to_string(resourceId));
+MemoryDialog::MemoryDialog(int resourceId, DialogBehaviour& behaviour)
+    : behaviour_(behaviour), resource_(std::to_string(resourceId)) {
+  const DialogTemplate& declared = dialogTemplates().at(resource_);
   caption_ = declared.caption;
   for (const TemplateControl& control : declared.controls) {
     if (control.id <= 0) continue;  // labels
@@ -91,9 +92,13 @@ void MemoryDialog::click(ControlId id) {
   focus(id);
   if (clicked.statement == "AUTOCHECKBOX") clicked.checked = !clicked.checked;
   if (clicked.statement == "AUTORADIOBUTTON") {
-    for (auto& [other, state] : controls_) {
-      if (state.statement == clicked.statement) state.checked = other == id;
-    }
+    // A group of radio buttons ends where the next one begins.
+    const std::vector<TemplateControl>& all = dialogTemplates().at(resource_).controls;
+    auto at = std::find_if(all.begin(), all.end(), [&](const auto& one) { return one.id == id; });
+    while (!at->has("WS_GROUP")) --at;
+    do {
+      if (at->statement == clicked.statement) control(at->id).checked = at->id == id;
+    } while (++at != all.end() && !at->has("WS_GROUP"));
   }
   raise(id, ControlEvent::clicked);
 }

@@ -135,6 +135,7 @@ class MemoryDialog : public Scripted<Dialog> {
   void raise(ControlId id, ControlEvent event);
 
   DialogBehaviour& behaviour_;
+  const std::string resource_;
   std::string caption_;
   std::map<ControlId, Control> controls_;
   std::vector<ControlId> linkedLists_;

@@ -162,7 +162,7 @@ def messages():
 
 def message_faults(page):
     for file, text in messages():
-        parts = [re.escape(part) for part in re.split(r"%-?[\d.]*[cdsl]+", text)]
+        parts = [re.escape(part) for part in re.split(r"%-?[\d.]*[cdslzu]+", text)]
         if not re.search(".{0,60}?".join(parts), page.text):
             yield f"{file}: a message is not documented: {text}"
 

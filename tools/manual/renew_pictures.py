@@ -226,6 +226,14 @@ def input_questions(stage):
 
 
 @scene
+def move_cards(stage):
+    dialog = stage.dialog(33024, "Move Or Clear Cards")
+    for control, line in ((1123, "   B   "), (1125, " 1.  Market Steers"), (1129, " 2.  Market Hogs")):
+        dialog.choose(control, line)
+    stage.take(dialog)
+
+
+@scene
 def enter_again(stage):
     dialog = stage.dialog(32822, "Input Placings Scores By Group")
     dialog.choose(1016, 0)
