@@ -8,6 +8,7 @@
 #include "entry/move_cards_dialog.h"
 #include "exchange/earlier_saves_dialog.h"
 #include "reports/differences_report.h"
+#include "results/awards_packet.h"
 #include "session/open_contest.h"
 #include "session/recovery.h"
 #include "text/report_marks.h"
@@ -36,7 +37,12 @@ void runEarlierSaves(MainWindow& window) {
   }
   EarlierSavesDialog dialog(std::move(saves));
   const int result = window.runDialog(IDD_EARLIER_SAVES, dialog);
-  if (const auto& save = dialog.compared()) {
+  const auto& save = dialog.compared();
+  if (save && result == IDC_CHANGES_SINCE) {
+    showReport(window, differencesReport(currentContest(), save->contest,
+                                         {"Changes since " + save->name, "Now", "Then"}) +
+                           "\n" + changedLists(currentContest(), save->contest));
+  } else if (save) {
     showReport(window,
                differencesReport(currentContest(), save->contest,
                                  {"Differences between now and " + save->name, "Now", "Then"}));

@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "cli/system.h"
+#include "results/awards_packet.h"
 #include "storage/contest_reader.h"
 #include "storage/safe_save.h"
 #include "text/characters.h"
@@ -106,6 +107,9 @@ CliResult printReports(const Contest& contest, const CliOptions& options) {
     // Whatever a report needs has been looked for by now.
     result.output += command->report()->build(contest, request).value();
   }
+  const auto warns = options.commands.front()->report()->warns;
+  const bool isAlone = options.commands.size() == 1;
+  if (isAlone && warns != nullptr && warns(result.output)) result.status = kThingsToLookAt;
   return result;
 }
 
@@ -113,6 +117,10 @@ std::string fileNameOf(const Command& command) {
   std::string name(command.caption);
   std::replace(name.begin(), name.end(), '/', '-');
   return name + ".txt";
+}
+
+bool writeReport(const std::string& path, const std::string& text, FileSystem& files) {
+  return saveSafely(files, path, withWindowsLineEnds(text));
 }
 
 CliResult writeAllReports(const Contest& contest, const std::string& folder, FileSystem& files) {
@@ -123,9 +131,11 @@ CliResult writeAllReports(const Contest& contest, const std::string& folder, Fil
     // A report that asks nothing needs nothing.
     const std::string text = report->build(contest, {}).value();
     const std::string path = folder + "/" + fileNameOf(command);
-    if (!saveSafely(files, path, withWindowsLineEnds(text))) {
-      return failed("cannot write '" + path + "'");
-    }
+    if (!writeReport(path, text, files)) return failed("cannot write '" + path + "'");
+  }
+  for (const auto& [name, text] : categoryReports(contest)) {
+    const std::string path = folder + "/" + name + ".txt";
+    if (!writeReport(path, text, files)) return failed("cannot write '" + path + "'");
   }
   return result;
 }

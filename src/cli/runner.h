@@ -17,6 +17,7 @@ struct CliResult {
 
 inline constexpr int kFailed = 1;
 inline constexpr int kWrongUsage = 2;
+inline constexpr int kThingsToLookAt = 4;
 
 /// Follows the options; contest files are read from, and --all writes to, `files`. The folder of
 /// --all must exist.
