@@ -13,6 +13,7 @@
 #include "output/printer_win32.h"
 #include "session/open_contest.h"
 #include "session/recovery.h"
+#include "text/unicode_win32.h"
 #include "ui/dialog_win32.h"
 
 namespace scorvane {
@@ -76,12 +77,12 @@ std::optional<std::intptr_t> DesktopWindow::handle(unsigned message, std::uintpt
 void DesktopWindow::openDroppedFile(std::uintptr_t drop) {
   auto* files = reinterpret_cast<HDROP>(drop);
   // One byte more for the NUL that ends it.
-  std::string path(DragQueryFileA(files, 0, nullptr, 0) + 1, '\0');
-  path.resize(DragQueryFileA(files, 0, path.data(), static_cast<UINT>(path.size())));
+  std::wstring path(DragQueryFileW(files, 0, nullptr, 0) + 1, L'\0');
+  path.resize(DragQueryFileW(files, 0, path.data(), static_cast<UINT>(path.size())));
   DragFinish(files);
   if (path.empty() || IsWindowEnabled(window_) == FALSE) return;
   SetForegroundWindow(window_);
-  openContestFile(*this, path);
+  openContestFile(*this, utf8OfWide(path));
 }
 
 void DesktopWindow::changeResolution(std::intptr_t suggestedArea) {

@@ -7,6 +7,7 @@
 #include "session/contest_file.h"
 #include "session/open_contest.h"
 #include "text/format.h"
+#include "text/unicode.h"
 
 namespace scorvane {
 
@@ -29,9 +30,9 @@ void setProgramTitle(std::string title) {
 }
 
 void showContestTitle(MainWindow& window) {
-  window.setTitle(
-      cutTitle(formatText("%s - %s - %s", programTitle().c_str(), currentFileName().c_str(),
-                          currentContest().settings.contestName.c_str())));
+  window.setTitle(cutTitle(formatText("%s - %s - %s", programTitle().c_str(),
+                                      shownPath(currentFileName()).c_str(),
+                                      currentContest().settings.contestName.c_str())));
 }
 
 void prepareContest() {

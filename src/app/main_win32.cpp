@@ -9,6 +9,7 @@
 #include "app/resource_ids.h"
 #include "session/recovery.h"
 #include "storage/file.h"
+#include "text/unicode_win32.h"
 
 namespace scorvane {
 
@@ -87,12 +88,12 @@ int runMessageLoop(HWND window, HACCEL accelerators) {
 
 }  // namespace scorvane
 
-int WINAPI WinMain(HINSTANCE instance, HINSTANCE /*previous*/, char* commandLine, int request) {
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE /*previous*/, wchar_t* commandLine, int request) {
   using namespace scorvane;
   prepareContest();
   if (!showMainWindow(instance, request)) return 0;
   HACCEL accelerators = LoadAcceleratorsA(instance, MAKEINTRESOURCEA(IDR_ACCELERATORS));
   startKeepingWork(systemFiles());
-  openContestOfCommandLine(*mainWindow(), commandLine);
+  openContestOfCommandLine(*mainWindow(), utf8OfWide(commandLine));
   return runMessageLoop(mainWindow()->native(), accelerators);
 }

@@ -1,13 +1,15 @@
 #include "cli/runner.h"
 
 #include <algorithm>
+#include <exception>
 #include <tuple>
 #include <utility>
 #include <variant>
 
 #include "cli/system.h"
 #include "results/awards_packet.h"
-#include "storage/contest_reader.h"
+#include "results/high_reports.h"
+#include "storage/contest_loader.h"
 #include "storage/safe_save.h"
 #include "text/characters.h"
 
@@ -17,30 +19,55 @@ namespace {
 
 using Action = CliOptions::Action;
 
-CliResult failed(const std::string& reason) {
-  return {kFailed, "", "scorvane-report: " + reason + "\n"};
+/// A line for standard error. What it quotes of files and names must not end it.
+std::string remark(const std::string& text) {
+  return withoutCommands(withoutControlCharacters("scorvane-report: " + text)) + "\n";
 }
 
-const char* reasonOf(ContestFault fault) {
-  switch (fault) {
+CliResult failed(const std::string& reason) {
+  return {kFailed, "", remark(reason)};
+}
+
+std::string reasonOf(const ContestFault& fault) {
+  const std::string line = " (line " + std::to_string(fault.line) + ")";
+  switch (fault.kind) {
     case ContestFault::unreadable:
       return "it does not exist or cannot be opened";
     case ContestFault::scoreCountMismatch:
-      return "the number of scores in the file is not correct";
+      return "the number of scores in the file is not correct" + line;
     case ContestFault::notAContest:
       break;
   }
-  return "it is not a contest file, or is damaged";
+  return "it is not a contest file, or is damaged" + line;
+}
+
+/// A contest and what is to be said of its file.
+struct Opened {
+  Contest contest;
+  std::string remarks;
+};
+
+std::string remarksOn(const std::string& path, const LoadedContest& loaded) {
+  std::string remarks;
+  if (!loaded.copy.empty()) {
+    remarks +=
+        remark("'" + path + "' was never saved to its end; this is its copy '" + loaded.copy + "'");
+  }
+  if (loaded.oddities.empty()) return remarks;
+  remarks += remark("'" + path + "' may be damaged:");
+  return remarks + loaded.oddities;
 }
 
 // The contest, or why there is none.
-std::variant<Contest, std::string> openContest(const std::string& path, FileSystem& files) {
+std::variant<Opened, std::string> openContest(const std::string& path, FileSystem& files) {
   if (const auto file = files.openToRead(path)) {
     expectMemory(3 * static_cast<std::size_t>(file->size()));  // the bytes, and the contest of them
   }
   auto loading = loadContestFile(files, path);
-  if (auto* loaded = std::get_if<LoadedContest>(&loading)) return std::move(loaded->contest);
-  return "cannot read '" + path + "': " + reasonOf(std::get<ContestFault>(loading));
+  if (auto* loaded = std::get_if<LoadedContest>(&loading)) {
+    return Opened{std::move(loaded->contest), remarksOn(path, *loaded)};
+  }
+  return "cannot read '" + contestText(path) + "': " + reasonOf(std::get<ContestFault>(loading));
 }
 
 // Why the contest cannot follow the options: it lacks the class, round or category asked for.
@@ -105,7 +132,12 @@ CliResult printReports(const Contest& contest, const CliOptions& options) {
   CliResult result;
   for (const Command* command : options.commands) {
     // Whatever a report needs has been looked for by now.
-    result.output += command->report()->build(contest, request).value();
+    std::string report = command->report()->build(contest, request).value();
+    if (result.output.empty()) {
+      result.output = std::move(report);
+    } else {
+      result.output += report;
+    }
   }
   const auto warns = options.commands.front()->report()->warns;
   const bool isAlone = options.commands.size() == 1;
@@ -119,23 +151,37 @@ std::string fileNameOf(const Command& command) {
   return name + ".txt";
 }
 
-bool writeReport(const std::string& path, const std::string& text, FileSystem& files) {
-  return saveSafely(files, path, withWindowsLineEnds(text));
+// Writes what build() returns into a file. Returns why it is not there.
+template <typename Build>
+std::optional<std::string> writeReport(Build build, const std::string& path, FileSystem& files) {
+  try {
+    const std::string text = withWindowsLineEnds(build());
+    if (saveSafely(files, path, text)) return std::nullopt;
+    return "cannot write '" + path + "'";
+  } catch (const std::exception& error) {
+    return "cannot make '" + path + "': " + error.what();
+  }
 }
 
 CliResult writeAllReports(const Contest& contest, const std::string& folder, FileSystem& files) {
   CliResult result;
+  const auto note = [&result](const std::optional<std::string>& why) {
+    if (!why) return;
+    result.status = kFailed;
+    result.error += remark(*why);
+  };
+  // Should that fail, each report says so.
+  static_cast<void>(files.makeFolders(folder));
   for (const Command& command : commandTable()) {
     const Report* report = command.report();
     if (report == nullptr || report->ask != nullptr) continue;
     // A report that asks nothing needs nothing.
-    const std::string text = report->build(contest, {}).value();
-    const std::string path = folder + "/" + fileNameOf(command);
-    if (!writeReport(path, text, files)) return failed("cannot write '" + path + "'");
+    note(writeReport([&] { return report->build(contest, {}).value(); },
+                     folder + "/" + fileNameOf(command), files));
   }
-  for (const auto& [name, text] : categoryReports(contest)) {
-    const std::string path = folder + "/" + name + ".txt";
-    if (!writeReport(path, text, files)) return failed("cannot write '" + path + "'");
+  for (const CategoryFile& file : categoryFiles(contest)) {
+    note(writeReport([&] { return customReport(contest, file.request); },
+                     folder + "/" + file.name + ".txt", files));
   }
   return result;
 }
@@ -165,14 +211,16 @@ CliResult runCli(const CliOptions& options, FileSystem& files) {
   }
   const auto opened = openContest(options.contest, files);
   if (const auto* refusal = std::get_if<std::string>(&opened)) return failed(*refusal);
-  const auto& contest = std::get<Contest>(opened);
-  return options.action == Action::allReports ? writeAllReports(contest, options.folder, files)
-                                              : printReports(contest, options);
+  const auto& [contest, remarks] = std::get<Opened>(opened);
+  CliResult result = options.action == Action::allReports
+                         ? writeAllReports(contest, options.folder, files)
+                         : printReports(contest, options);
+  result.error.insert(0, remarks);
+  return result;
 }
 
 CliResult refuseUsage(const std::string& reason) {
-  return {kWrongUsage, "",
-          "scorvane-report: " + reason + "\nscorvane-report --help explains everything.\n"};
+  return {kWrongUsage, "", remark(reason) + "scorvane-report --help explains everything.\n"};
 }
 
 }  // namespace scorvane

@@ -20,7 +20,7 @@ inline constexpr int kWrongUsage = 2;
 inline constexpr int kThingsToLookAt = 4;
 
 /// Follows the options; contest files are read from, and --all writes to, `files`. The folder of
-/// --all must exist.
+/// --all is made once the contest was read; every report is tried.
 [[nodiscard]] CliResult runCli(const CliOptions& options, FileSystem& files);
 
 /// What a command line that cannot be followed comes to.

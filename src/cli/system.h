@@ -3,17 +3,26 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 namespace scorvane {
 
 /// Keeps the system from changing line ends on standard output.
 void makeStandardOutputBinary();
 
+/// Whether standard output is a terminal.
+[[nodiscard]] bool isOutputTerminal();
+
 /// Prepares for a need of about so many bytes of memory, so that they come faster. Nothing depends
 /// on it.
 void expectMemory(std::size_t bytes);
 
-/// Makes a folder; one that is there already is fine. What cannot be made shows when it is used.
-void makeFolder(const std::string& path);
+/// The words of the command line without the program's own name, as they were typed: paths among
+/// them are as FileSystem takes them.
+[[nodiscard]] std::vector<std::string> commandLineWords(int count, char** words);
+
+/// A word of the command line in the 8-bit text that contests have, and that answers are written
+/// in.
+[[nodiscard]] std::string contestText(const std::string& word);
 
 }  // namespace scorvane

@@ -7,6 +7,7 @@
 #include "model/team_index.h"
 #include "reports/report_parts.h"
 #include "text/format.h"
+#include "text/report_marks.h"
 
 namespace scorvane {
 
@@ -60,6 +61,7 @@ std::string classesReport(const Contest& contest) {
   for (std::int32_t k = 0; k < classes.count(); ++k) {
     appendFormat(out, "     %3d   %-38.38s %s   %-15s\n", k + 1, classes.name(k).c_str(),
                  kindTag(classes, k), categoryName(contest, classes.category(k)).c_str());
+    if (closeIfTooLong(out)) break;
   }
   return out;
 }
@@ -122,7 +124,10 @@ std::string teamReport(const Contest& contest) {
                                countContestants(contest), static_cast<int>(contest.teams.size()));
   out += "           Team              Num            Team Members\n";
   out += "     ---------------------  -----  ------------------------------------------\n";
-  for (const auto& [teamName, team] : contest.teams) appendTeam(out, contest, teamName, team);
+  for (const auto& [teamName, team] : contest.teams) {
+    appendTeam(out, contest, teamName, team);
+    if (closeIfTooLong(out)) break;
+  }
   return out;
 }
 

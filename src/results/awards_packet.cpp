@@ -1,7 +1,8 @@
 #include "results/awards_packet.h"
 
 #include <algorithm>
-#include <numeric>
+#include <string_view>
+#include <tuple>
 #include <utility>
 
 #include "results/award_lists.h"
@@ -92,18 +93,18 @@ std::string awardsPacket(const Contest& contest) {
   return packet;
 }
 
-std::vector<NamedReport> categoryReports(const Contest& contest) {
-  std::vector<NamedReport> reports;
+std::vector<CategoryFile> categoryFiles(const Contest& contest) {
+  std::vector<CategoryFile> files;
   const auto lists = printedLists(contest);
   int count = 0;
   for (const ReportRequest& request : lists.value_or(std::vector<ReportRequest>{})) {
     if (!isCategory(request, contest)) continue;
     if (!request.team) ++count;
-    reports.push_back({formatText("Category %d - %s - %s", count, inFileName(request.title).c_str(),
-                                  request.team ? "Teams" : "Individuals"),
-                       textOf(contest, request)});
+    files.push_back({formatText("Category %d - %s - %s", count, inFileName(request.title).c_str(),
+                                request.team ? "Teams" : "Individuals"),
+                     request});
   }
-  return reports;
+  return files;
 }
 
 std::string changedLists(const Contest& now, const Contest& before) {

@@ -5,18 +5,19 @@
 #include <vector>
 
 #include "model/contest.h"
+#include "session/report_request.h"
 
 namespace scorvane {
 
 /// The printedLists(), each with the bytes of its own report, a page break between each two.
 [[nodiscard]] std::string awardsPacket(const Contest& contest);
 
-struct NamedReport {
-  std::string name;  ///< made for a file's name: "Category 2 - Beef - Teams"
-  std::string text;
+struct CategoryFile {
+  std::string name;       ///< without an ending: "Category 2 - Beef - Teams"
+  ReportRequest request;  ///< of the custom report
 };
-/// The category reports of the packet.
-[[nodiscard]] std::vector<NamedReport> categoryReports(const Contest& contest);
+/// A file for each category report of the packet.
+[[nodiscard]] std::vector<CategoryFile> categoryFiles(const Contest& contest);
 
 /// For each printed list, a line each, which of its places read otherwise now than they did before:
 /// what must be printed again.

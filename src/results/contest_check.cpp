@@ -73,7 +73,8 @@ class ContestCheck {
 
   // A heading is only written with its first thing.
   void add(const std::string& line) {
-    if (!heading_.empty()) out_ += "\n" + std::exchange(heading_, "") + "\n";
+    if (!heading_.empty()) out_.append("\n").append(heading_).append("\n");
+    heading_.clear();
     ++things_;
     if (out_.size() > kLongestHandOut) return;
     out_.append("  ").append(line, 0, kWidestLine - 2).append("\n");

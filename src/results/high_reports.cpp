@@ -4,6 +4,7 @@
 
 #include "results/rankings.h"
 #include "text/format.h"
+#include "text/report_marks.h"
 
 namespace scorvane {
 
@@ -90,7 +91,10 @@ std::string highIndividualReport(const Contest& contest, const ReportRequest& re
 std::string highTeamReport(const Contest& contest, const ReportRequest& request) {
   std::string out;
   appendTeamHeading(out, contest, request);
-  for (const TeamRow& row : teamRows(contest, request)) appendTeam(out, row);
+  for (const TeamRow& row : teamRows(contest, request)) {
+    appendTeam(out, row);
+    if (closeIfTooLong(out)) break;
+  }
   return out;
 }
 

@@ -4,6 +4,7 @@
 
 #include "results/total_summary_layout.h"
 #include "text/format.h"
+#include "text/report_marks.h"
 
 namespace scorvane {
 
@@ -78,19 +79,20 @@ constexpr std::array kStatisticsLines = {
 void appendStatistics(std::string& out, const SummaryTable& table, const SummaryLayout& layout) {
   const std::vector<ScoreStatistics> statistics = statisticsOf(table);
   appendFormat(out, "\n     All Contestants:  %d\n", static_cast<int>(table.rows().size()));
-  std::vector<std::int32_t> cells(statistics.size());
+  std::array<std::vector<std::int32_t>, kStatisticsLines.size()> lines;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    for (const ScoreStatistics& scores : statistics) {
+      lines[i].push_back(static_cast<std::int32_t>(roundedToTwoDigits(
+          scores.*kStatisticsLines[i].sum * kStatisticsLines[i].factor, scores.contestants)));
+    }
+  }
   for (std::size_t band = 0; band < layout.bandCount(); ++band) {
     if (band > 0 && !layout.hasClasses(band)) break;
     if (band > 0) out += '\n';
     out += layout.heading(band);
-    for (const StatisticsLine& line : kStatisticsLines) {
-      for (std::size_t column = 0; column < cells.size(); ++column) {
-        const ScoreStatistics& scores = statistics[column];
-        cells[column] = static_cast<std::int32_t>(
-            roundedToTwoDigits(scores.*line.sum * line.factor, scores.contestants));
-      }
-      layout.appendLabel(out, line.label);
-      layout.appendCells(out, band, cells, SummaryLayout::Totals::blank);
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+      layout.appendLabel(out, kStatisticsLines[i].label);
+      layout.appendCells(out, band, lines[i], SummaryLayout::Totals::blank);
     }
   }
 }
@@ -104,7 +106,10 @@ std::string totalSummaryReport(const Contest& contest) {
   if (!table) return out += "This contest is too large for this report.\n";
   const SummaryLayout layout(*table);
   appendLegend(out, contest);
-  for (const SummaryTeam& team : table->teams()) appendTeam(out, *table, layout, team);
+  for (const SummaryTeam& team : table->teams()) {
+    appendTeam(out, *table, layout, team);
+    if (closeIfTooLong(out)) return out;
+  }
   appendStatistics(out, *table, layout);
   return out;
 }

@@ -15,8 +15,8 @@ namespace {
 
 constexpr std::size_t kNotShown = std::numeric_limits<std::size_t>::max();
 
-// A hundred thousand contestants judging thirty classes with everything need a third of this.
-constexpr std::size_t kMostCells = 32U << 20U;
+// A hundred thousand contestants judging thirty classes with everything need two thirds of this.
+constexpr std::size_t kMostCells = 16U << 20U;
 
 std::size_t linesNeeded(const Contest& contest) {
   std::size_t lines = contest.contestantNames.size() + contest.teams.size();

@@ -13,12 +13,13 @@
 #include "session/recovery.h"
 #include "session/recovery_offer.h"
 #include "storage/content_hash.h"
-#include "storage/contest_reader.h"
+#include "storage/contest_loader.h"
 #include "storage/contest_writer.h"
 #include "storage/file.h"
 #include "storage/safe_save.h"
 #include "text/format.h"
 #include "text/report_marks.h"
+#include "text/unicode.h"
 
 namespace scorvane {
 
@@ -83,7 +84,12 @@ bool agreesToReplaceForeignChanges(Window& owner) {
       "%s\r\n"
       "OK saves your contest there, and the other changes are lost.\r\n"
       "Cancel does NOT save it.  Use File->Save As to save your contest under another name.\r\n",
-      currentFileName().c_str()));
+      shownPath(currentFileName()).c_str()));
+}
+
+void sayNotSaved(Window& owner) {
+  contestWasNotSaved(NotSaved::failed);
+  owner.show(kNotSaved, "File Save Error");
 }
 
 void saveToCurrentFile(Window& owner, ForeignChanges foreignChanges) {
@@ -93,20 +99,17 @@ void saveToCurrentFile(Window& owner, ForeignChanges foreignChanges) {
     if (!agreesToReplaceForeignChanges(owner)) return contestWasNotSaved(NotSaved::cancelled);
     saving = save(bytes, ForeignChanges::replace);
   }
-  if (saving == Saving::failed) {
-    contestWasNotSaved(NotSaved::failed);
-    owner.show(kNotSaved, "File Save Error");
-    return;
-  }
+  if (saving == Saving::failed) return sayNotSaved(owner);
   // The contest in memory gets the placeholder that was written for it.
   if (currentContest().categories.empty()) currentContest().categories = {kNoCategory};
 }
 
-void showFault(Window& owner, ContestFault fault, const std::string& path) {
-  switch (fault) {
+void showFault(Window& owner, const ContestFault& fault, const std::string& path) {
+  switch (fault.kind) {
     case ContestFault::unreadable:
-      owner.show(formatText("Invalid file name (%s) , or file does not exist.", path.c_str()),
-                 "Information");
+      owner.show(
+          formatText("Invalid file name (%s) , or file does not exist.", shownPath(path).c_str()),
+          "Information");
       break;
     case ContestFault::notAContest:
       owner.show("Illegal or corrupt data file.", "Error!");
@@ -115,6 +118,36 @@ void showFault(Window& owner, ContestFault fault, const std::string& path) {
       owner.show("Number of scores in the file is not correct.  None read.", "Information");
       break;
   }
+}
+
+/// Finishes the save in place whose copy was read instead of the file.
+void finishSave(Window& owner, const std::string& path, const LoadedContest& loaded) {
+  FileSystem& files = sessionFiles();
+  const auto lock = files.lockForSaving(path);
+  const bool isSaved = saveSafely(files, path, loaded.bytes);
+  if (isSaved) {
+    files.remove(loaded.copy);
+  } else {
+    // What the file holds is not somebody else's work.
+    knownContent().hash = contentHash(files.readWhole(path).value_or(""));
+    contestWasNotSaved(NotSaved::failed);
+  }
+  owner.show(
+      "Scorvane or the computer was stopped while it saved this contest, and the file was left "
+      "unfinished.\r\n\r\n"
+      "The contest as it was to be saved was found in this copy and is open now:\r\n" +
+          loaded.copy + "\r\n\r\n" +
+          (isSaved ? "It has been saved to its file again.\r\n"
+                   : "It could NOT be saved to its file again.  Use File->Save As to save it "
+                     "to another location.\r\n"),
+      "Information");
+}
+
+void showOddities(Window& owner, std::string oddities) {
+  for (std::size_t end = 0; (end = oddities.find('\n', end)) != std::string::npos; end += 2) {
+    oddities.insert(end, 1, '\r');
+  }
+  owner.show("This file was opened, but it may be damaged:\r\n\r\n" + oddities, "Information");
 }
 
 }  // namespace
@@ -137,8 +170,8 @@ void startNewContest() {
 }
 
 bool openContest(Window& owner, const std::string& path) {
-  std::variant<LoadedContest, ContestFault> loading = ContestFault::unreadable;
-  if (path.size() <= kMaxPathLength) loading = loadContestFile(sessionFiles(), path);
+  std::variant<LoadedContest, ContestFault> loading = ContestFault{};
+  if (countCharacters(path) <= kMaxPathLength) loading = loadContestFile(sessionFiles(), path);
   if (const auto* fault = std::get_if<ContestFault>(&loading)) {
     startNewContest();
     showFault(owner, *fault, path);
@@ -150,6 +183,8 @@ bool openContest(Window& owner, const std::string& path) {
   currentFileName() = path;
   knownContent() = {path, contentHash(loaded.bytes)};
   contestHasFile(path, loaded.bytes);
+  if (!loaded.copy.empty()) finishSave(owner, path, loaded);
+  if (!loaded.oddities.empty()) showOddities(owner, loaded.oddities);
   if (isKeepingWork()) followRenamedContest(sessionFiles(), path, savedState().hash);
   reportText() = offerRecovery(owner).value_or(kWelcomeText);
   return true;
@@ -176,6 +211,7 @@ void saveContestAs(Window& owner) {
   currentFileName().clear();
   auto path = owner.chooseFile(contestFileQuestion(FileQuestion::Purpose::save));
   if (!path) return contestWasNotSaved(NotSaved::cancelled);
+  if (countCharacters(*path) > kMaxPathLength) return sayNotSaved(owner);
   currentFileName() = std::move(*path);
   // Choosing the name was the consent to replace what is there.
   saveToCurrentFile(owner, ForeignChanges::replace);

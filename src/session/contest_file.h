@@ -15,8 +15,8 @@ void startNewContest();
 
 /// Opens a contest file. Unsaved work that was kept of it is offered then, and the report tells
 /// what came back; else it is the welcome text. When it cannot be read, says why, leaves a new
-/// contest and returns false. A path of more than kMaxPathLength bytes counts as that of a missing
-/// file.
+/// contest and returns false. A path of more than kMaxPathLength characters counts as that of a
+/// missing file.
 bool openContest(Window& owner, const std::string& path);
 
 /// Opens a file that the operator chooses. Cancelling leaves a new contest and returns false.

@@ -1,9 +1,9 @@
 #include "session/data_folder.h"
 
-#include <algorithm>
 #include <cstddef>
 
 #include "storage/content_hash.h"
+#include "text/unicode.h"
 
 namespace scorvane {
 
@@ -48,6 +48,12 @@ std::string fullPath(FileSystem& files, const std::string& contestPath) {
 }
 
 bool reachesSameFile(FileSystem& files, const std::string& a, const std::string& b) {
+  const auto statusOfA = files.status(a);
+  const auto statusOfB = files.status(b);
+  if (statusOfA && statusOfB && !statusOfA->identity.empty() &&
+      statusOfA->identity == statusOfB->identity) {
+    return true;
+  }
   return inSmallLetters(fullPath(files, a)) == inSmallLetters(fullPath(files, b));
 }
 
@@ -56,7 +62,7 @@ std::string contestKey(FileSystem& files, const std::string& contestPath) {
   constexpr std::size_t kMostOfName = 100;
   const std::string full = fullPath(files, contestPath);
   std::string name = full.substr(full.find_last_of("/\\") + 1);
-  name = name.substr(0, std::min(name.rfind('.'), kMostOfName));
+  name = cutBetweenCharacters(name.substr(0, name.rfind('.')), kMostOfName);
   return name + "-" + hashText(contentHash(inSmallLetters(full)));
 }
 

@@ -204,7 +204,8 @@ void followRenamedContest(FileSystem& files, const std::string& contestPath, std
     const std::string folder = earlierSavesFolder(files) + "/" + entry.name;
     if (!entry.isFolder || !exists(files, folder + "/" + contentName(hash))) continue;
     const std::string former = readNote(files, folder).contestPath;
-    if (former.empty() || exists(files, former)) continue;
+    if (former.empty()) continue;
+    if (exists(files, former) && !reachesSameFile(files, former, contestPath)) continue;
     if (files.makeFolders(own)) makeNote(files, own, {fullPath(files, contestPath), entry.name});
     return;
   }

@@ -11,7 +11,7 @@ namespace scorvane {
 [[nodiscard]] Contest& currentContest();
 
 /// Path of the file the current contest was loaded from or saved to, at most kMaxPathLength
-/// bytes; empty while the contest is untitled.
+/// characters; empty while the contest is untitled.
 [[nodiscard]] std::string& currentFileName();
 
 /// The report that is shown, printed, copied and saved: 8-bit text, lines ended by LF; may contain

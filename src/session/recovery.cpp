@@ -10,6 +10,7 @@
 #include "storage/content_hash.h"
 #include "storage/contest_writer.h"
 #include "storage/safe_save.h"
+#include "text/unicode.h"
 
 namespace scorvane {
 
@@ -166,7 +167,7 @@ void sayIfWorkIsNotKept(Window& owner) {
   if (!keeper().hasToSay || keeper().hasSaid) return;
   keeper().hasSaid = true;
   owner.show("Scorvane could not keep a recovery copy of your work in this folder:\r\n" +
-                 recoveryFolder(sessionFiles()) +
+                 shownPath(recoveryFolder(sessionFiles())) +
                  "\r\n"
                  "Perhaps the disk is full.  Saving goes on as usual, but scores typed since the "
                  "last save would be lost if the computer failed.\r\n",

@@ -213,8 +213,9 @@ std::optional<std::string> offerRecovery(Window& owner) {
   const FileState opened = savedState();
   const auto movedHere = [&](const RecoveryCopy& copy) {
     if (!copy.grewFrom || !copy.grewFrom->isSameFile(opened)) return false;
-    const auto status = files.status(copy.grewFrom->path);
-    return !status || !status->exists;
+    const std::string& path = copy.grewFrom->path;
+    const auto status = files.status(path);
+    return !status || !status->exists || reachesSameFile(files, path, opened.path);
   };
   std::optional<std::string> report;
   bool hasAsked = false;

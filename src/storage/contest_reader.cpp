@@ -18,17 +18,28 @@ namespace scorvane {
 
 namespace {
 
-bool skipTo(LineScanner& lines, std::string_view marker) {
-  while (const auto line = lines.next()) {
+/// The file that is being read.
+struct Source {
+  LineScanner lines;
+  bool isWhole;               ///< else it is what is left of one
+  bool guessesSlots = false;  ///< the team size has a line without a value
+  std::int64_t leftOver = 0;  ///< the first line of a record that no count covers
+};
+
+/// Skips lines. A record among them shows that a count or a line is wrong.
+bool skipTo(Source& source, std::string_view marker) {
+  while (const auto line = source.lines.next()) {
     if (*line == marker) return true;
+    const bool isRecord = line->find('\t') != std::string_view::npos;
+    if (isRecord && source.leftOver == 0) source.leftOver = source.lines.lineNumber();
   }
   return false;
 }
 
-/// A count, which has a line of its own.
+/// A count, which has a line of its own. A record there stands where the count is lost.
 std::optional<std::int32_t> readCount(LineScanner& lines) {
   const auto line = lines.next();
-  if (!line) return std::nullopt;
+  if (!line || line->find('\t') != std::string_view::npos) return std::nullopt;
   return leadingNumber(*line);
 }
 
@@ -76,10 +87,9 @@ std::vector<std::string> readCategories(FieldScanner& fields) {
 
 /// Reads settings up to and including the line that begins the classes. False when that line does
 /// not come soon.
-bool readSettings(LineScanner& lines, Contest& contest) {
-  constexpr int kMaxSettingsLines = 15;
+bool readSettings(Source& source, Contest& contest) {
   contest.categories = {kNoCategory};
-  for (int counter = 1; const auto line = lines.next(); ++counter) {
+  for (int counter = 1; const auto line = source.lines.next(); ++counter) {
     FieldScanner fields(*line);
     const std::string_view key = fields.nextOrEmpty();
     if (key == kClassesMarker) return true;
@@ -94,7 +104,9 @@ bool readSettings(LineScanner& lines, Contest& contest) {
         std::find_if(kSettingLines.begin(), kSettingLines.end(),
                      [key](const SettingLine& known) { return known.key == key; });
     if (setting != kSettingLines.end()) {
-      setValue(contest.settings, *setting, fields.nextOrEmpty());
+      const std::string_view value = fields.nextOrEmpty();
+      setValue(contest.settings, *setting, value);
+      if (setting->key == kTeamSizeKey) source.guessesSlots = value.empty();
     }
   }
   return false;
@@ -110,7 +122,8 @@ Cuts parseCuts(std::string_view field) {
   return cuts;
 }
 
-void addClass(std::string_view line, Contest& contest) {
+/// False when the line ends before the three cuts.
+bool addClass(std::string_view line, Contest& contest) {
   FieldScanner fields(line);
   const std::string_view name = fields.nextOrEmpty();
   const bool reasons = fields.nextOrEmpty() == "Yes";
@@ -121,59 +134,99 @@ void addClass(std::string_view line, Contest& contest) {
     questions = letter == "Yes";
     letter = fields.nextOrEmpty();
   }
-  const Cuts cuts = parseCuts(fields.nextOrEmpty());
+  const std::string_view cuts = fields.nextOrEmpty();
   std::int32_t category = leadingNumber(fields.nextOrEmpty());
   if (category < 0 || static_cast<std::size_t>(category) >= contest.categories.size()) {
     category = 0;
   }
   contest.classes.add(std::string(name), reasons, questions,
-                      letter.empty() ? kNoLetter : letter.front(), cuts, category);
+                      letter.empty() ? kNoLetter : letter.front(), parseCuts(cuts), category);
+  return std::count(cuts.begin(), cuts.end(), ',') >= 2;
 }
 
-bool readClasses(LineScanner& lines, Contest& contest) {
-  const auto count = readRecordCount(lines);
+bool readClasses(Source& source, Contest& contest) {
+  const auto count = readRecordCount(source.lines);
   if (!count) return false;
   for (std::int32_t i = 0; i < *count; ++i) {
-    const auto line = lines.nextRecord();
-    if (!line) return false;
-    addClass(*line, contest);
+    const auto line = source.lines.nextRecord();
+    if (!line || (!addClass(*line, contest) && source.isWhole)) return false;
   }
   return true;
 }
 
-ReasonsPlace parsePlace(FieldScanner& fields) {
-  ReasonsPlace place;
-  if (const auto group = fields.next()) place.group = leadingNumber(*group);
-  if (const auto position = fields.next()) place.position = leadingNumber(*position);
-  return place;
-}
-
-/// Returns the number of lines read, which is that of contestants unless one comes twice.
-std::optional<std::int32_t> readContestants(LineScanner& lines, Contest& contest) {
-  if (!skipTo(lines, kContestantsMarker)) return std::nullopt;
-  const auto count = readRecordCount(lines);
-  if (!count) return std::nullopt;
+/// The contestants' lines as they come.
+struct ContestantLines {
   std::vector<std::pair<ContestantNumber, std::string>> names;
   std::vector<std::pair<ContestantNumber, char>> groups;
   std::vector<std::pair<ContestantNumber, ReasonsPlace>> places;
-  const std::size_t room = plausibleCount(lines, *count);
-  names.reserve(room);
-  groups.reserve(room);
-  places.reserve(room);
-  for (std::int32_t i = 0; i < *count; ++i) {
-    const auto line = lines.nextRecord();
-    if (!line) return std::nullopt;
-    FieldScanner fields(*line);
-    const ContestantNumber number = leadingNumber(fields.nextOrEmpty());
-    names.emplace_back(number, fields.nextOrEmpty());
-    groups.emplace_back(number, groupOfNumber(contest.settings, number));
-    places.emplace_back(number, parsePlace(fields));
+  /// How many fields those with a name have behind it: a shorter one was cut off.
+  int placeFields = -1;  ///< not known yet
+
+  explicit ContestantLines(std::size_t room) {
+    names.reserve(room);
+    groups.reserve(room);
+    places.reserve(room);
   }
-  contest.contestantNames = decltype(contest.contestantNames)::fromEntries(std::move(names));
-  contest.contestantGroup = decltype(contest.contestantGroup)::fromEntries(std::move(groups));
-  contest.reasonsPlace = decltype(contest.reasonsPlace)::fromEntries(std::move(places));
+
+  /// False when the line is shorter than those before, or has nothing behind its number.
+  bool add(std::string_view line, const ContestSettings& settings) {
+    FieldScanner fields(line);
+    const ContestantNumber number = leadingNumber(fields.nextOrEmpty());
+    const auto name = fields.next();
+    ReasonsPlace place;
+    int found = 0;
+    for (std::int32_t* part : {&place.group, &place.position}) {
+      const auto field = fields.next();
+      if (!field) break;
+      *part = leadingNumber(*field);
+      ++found;
+    }
+    names.emplace_back(number, name.value_or(""));
+    groups.emplace_back(number, groupOfNumber(settings, number));
+    places.emplace_back(number, place);
+    if (!name || name->empty()) return name.has_value();
+    if (placeFields < 0) placeFields = found;
+    return found == placeFields;
+  }
+
+  /// How many lines come after the first one whose number came before; nothing when all differ.
+  [[nodiscard]] std::optional<std::int64_t> behindFirstDouble() const {
+    const auto notAscending = [](const auto& a, const auto& b) { return a.first >= b.first; };
+    if (std::adjacent_find(names.begin(), names.end(), notAscending) == names.end()) return {};
+    std::vector<std::pair<ContestantNumber, std::size_t>> order;
+    for (std::size_t i = 0; i < names.size(); ++i) order.emplace_back(names[i].first, i);
+    std::sort(order.begin(), order.end());
+    std::size_t first = names.size();
+    for (std::size_t i = 1; i < order.size(); ++i) {
+      if (order[i].first == order[i - 1].first) first = std::min(first, order[i].second);
+    }
+    if (first == names.size()) return {};
+    return static_cast<std::int64_t>(names.size() - 1 - first);
+  }
+};
+
+/// Returns the line that is wrong, 0 for none.
+std::int64_t readContestants(Source& source, std::int32_t& count, Contest& contest) {
+  LineScanner& lines = source.lines;
+  if (!skipTo(source, kContestantsMarker)) return lines.lineNumber();
+  const auto found = readRecordCount(lines);
+  if (!found) return lines.lineNumber();
+  count = *found;
+  ContestantLines read(plausibleCount(lines, count));
+  for (std::int32_t i = 0; i < count; ++i) {
+    const auto line = lines.nextRecord();
+    if (!line || (!read.add(*line, contest.settings) && source.isWhole)) {
+      return lines.lineNumber();
+    }
+  }
+  if (source.isWhole) {
+    if (const auto behind = read.behindFirstDouble()) return lines.lineNumber() - *behind;
+  }
+  contest.contestantNames = decltype(contest.contestantNames)::fromEntries(std::move(read.names));
+  contest.contestantGroup = decltype(contest.contestantGroup)::fromEntries(std::move(read.groups));
+  contest.reasonsPlace = decltype(contest.reasonsPlace)::fromEntries(std::move(read.places));
   updateNextContestant(contest);
-  return count;
+  return 0;
 }
 
 /// The file has a single blank for an empty name.
@@ -181,35 +234,41 @@ std::string_view teamText(std::string_view field) {
   return field == " " ? "" : field;
 }
 
-void addTeam(std::string_view line, std::size_t slots, Contest& contest) {
+/// False when the line has other than one field for each slot, unless the writer had no room for
+/// the rest: members of one that was cut off would be nobody, and their scores lost to the team.
+bool addTeam(std::string_view line, std::size_t slots, bool guessesSlots, Contest& contest) {
+  constexpr std::size_t kLongestMember = 12;
   FieldScanner fields(line);
   const std::string name(teamText(fields.nextOrEmpty()));
+  const auto coach = fields.next();
   Team team;
-  team.coach = teamText(fields.nextOrEmpty());
-  team.members.reserve(slots);
-  for (std::size_t slot = 0; slot < slots; ++slot) {
-    team.members.push_back(leadingNumber(fields.nextOrEmpty()));
+  team.coach = teamText(coach.value_or(""));
+  while (team.members.size() < slots) {
+    const auto member = fields.next();
+    if (!member) break;
+    team.members.push_back(leadingNumber(*member));
   }
+  const bool isFull = line.size() + kLongestMember > kLineRoom;
+  const bool hasNoMore = guessesSlots || !fields.next();
+  const bool fits = coach && hasNoMore && (team.members.size() == slots || isFull);
+  team.members.resize(slots);
   contest.teams.insert_or_assign(contest.teams.end(), name, std::move(team));
+  return fits;
 }
 
-/// Members that a team line lacks read as 0, so a short line can ask for many slots. A damaged file
-/// must not fill the memory that way; in every file written here slots are few for its bytes.
-bool hasRoomForSlots(std::size_t slots, std::size_t teams, std::size_t fileSize) {
-  constexpr std::size_t kSlotsPerByte = 4;
-  return slots * teams <= kSlotsPerByte * fileSize;
-}
-
-bool readTeams(LineScanner& lines, Contest& contest) {
-  if (!skipTo(lines, kTeamsMarker)) return false;
-  const auto count = readRecordCount(lines);
+bool readTeams(Source& source, Contest& contest) {
+  if (!skipTo(source, kTeamsMarker)) return false;
+  const auto count = readRecordCount(source.lines);
   if (!count) return false;
   const std::size_t slots = teamSlots(contest.settings);
+  // Lines cut off could ask for slots without end.
+  const std::size_t mostLeft = 4 * source.lines.size();
   for (std::int32_t i = 0; i < *count; ++i) {
-    const auto line = lines.nextRecord();
-    const std::size_t teams = static_cast<std::size_t>(i) + 1;
-    if (!line || !hasRoomForSlots(slots, teams, lines.size())) return false;
-    addTeam(*line, slots, contest);
+    if (!source.isWhole && slots * contest.teams.size() > mostLeft) return false;
+    const auto line = source.lines.nextRecord();
+    if (!line || (!addTeam(*line, slots, source.guessesSlots, contest) && source.isWhole)) {
+      return false;
+    }
   }
   return true;
 }
@@ -238,34 +297,48 @@ void rebuildReasonsOrder(Contest& contest) {
   if (order.cells().size() != assigned) unassignThoseWithoutCell(contest);
 }
 
-}  // namespace
+ContestFault notAContest(std::int64_t line) {
+  return {ContestFault::notAContest, line};
+}
 
-std::variant<Contest, ContestFault> readContest(std::string_view bytes) {
-  LineScanner lines(bytes);
+std::variant<Contest, ContestFault> read(std::string_view bytes, bool isWhole) {
+  Source source{LineScanner(bytes), isWhole};
+  LineScanner& lines = source.lines;
   Contest contest = newContest();
-  if (!readSettings(lines, contest)) return ContestFault::notAContest;
+  if (bytes.starts_with(kUnfinishedMark)) return notAContest(1);
+  if (!readSettings(source, contest)) return notAContest(lines.lineNumber());
   contest.groupLetters = makeGroupLetters(contest.settings.numGroups);
-  if (!readClasses(lines, contest)) return ContestFault::notAContest;
-  const auto contestants = readContestants(lines, contest);
-  if (!contestants) return ContestFault::notAContest;
-  if (!readTeams(lines, contest)) return ContestFault::notAContest;
+  if (!readClasses(source, contest)) return notAContest(lines.lineNumber());
+  std::int32_t contestants = 0;
+  if (const auto line = readContestants(source, contestants, contest)) return notAContest(line);
+  if (!readTeams(source, contest)) return notAContest(lines.lineNumber());
   rebuildReasonsOrder(contest);
-  if (!skipTo(lines, kScoresMarker)) return ContestFault::notAContest;
+  if (!skipTo(source, kScoresMarker)) return notAContest(lines.lineNumber());
   const auto scoreCount = readCount(lines);
-  if (!scoreCount) return ContestFault::notAContest;
-  const std::int64_t expected = std::int64_t{contest.classes.count()} * *contestants;
-  if (*scoreCount != expected) return ContestFault::scoreCountMismatch;
-  if (!readScores(lines, expected, contest)) return ContestFault::notAContest;
+  if (!scoreCount) return notAContest(lines.lineNumber());
+  const std::int64_t expected = std::int64_t{contest.classes.count()} * contestants;
+  if (*scoreCount != expected) {
+    return ContestFault{ContestFault::scoreCountMismatch, lines.lineNumber()};
+  }
+  if (source.leftOver > 0) return notAContest(source.leftOver);
+  if (!isWhole) {
+    readScoresLeft(lines, expected, contest);
+  } else if (const auto line = readScores(lines, contest)) {
+    return notAContest(line);
+  }
   return contest;
 }
 
-std::variant<LoadedContest, ContestFault> loadContestFile(FileSystem& files,
-                                                          const std::string& path) {
-  auto bytes = files.readWhole(path);
-  if (!bytes) return ContestFault::unreadable;
-  auto reading = readContest(*bytes);
-  if (const auto* fault = std::get_if<ContestFault>(&reading)) return *fault;
-  return LoadedContest{std::get<Contest>(std::move(reading)), std::move(*bytes)};
+}  // namespace
+
+std::variant<Contest, ContestFault> readContest(std::string_view bytes) {
+  return read(bytes, true);
+}
+
+std::optional<Contest> readRemains(std::string_view bytes) {
+  auto reading = read(bytes, false);
+  auto* contest = std::get_if<Contest>(&reading);
+  return contest == nullptr ? std::nullopt : std::optional(std::move(*contest));
 }
 
 }  // namespace scorvane

@@ -5,8 +5,6 @@
 #include <cstdint>
 #include <map>
 #include <string>
-#include <utility>
-#include <variant>
 #include <vector>
 
 #include "storage/contest_format.h"
@@ -239,10 +237,7 @@ std::optional<Contest> salvageContest(std::string_view bytes) {
   appendSection(whole, kContestants, contestants);
   appendSection(whole, kTeams, sections[kTeams].lines);
   appendSection(whole, kScores, scores);
-  auto reading = readContest(std::string_view(whole));
-  auto* contest = std::get_if<Contest>(&reading);
-  if (contest == nullptr) return std::nullopt;
-  return std::move(*contest);
+  return readRemains(whole);
 }
 
 }  // namespace scorvane

@@ -12,9 +12,6 @@ namespace scorvane {
 
 namespace {
 
-/// Longest line without its CR LF.
-constexpr std::size_t kLineRoom = kMaxContestLine - kLineEnd.size();
-
 void appendField(std::string& out, std::int64_t number) {
   out += '\t';
   appendNumber(out, number);

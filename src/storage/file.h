@@ -25,6 +25,7 @@ struct FileStatus {
   bool isRegular = false;      ///< a plain file: no folder, device or pipe
   bool isReadOnly = false;     ///< marked as not to be written
   bool hasOtherNames = false;  ///< hard links: the same file under other names
+  std::string identity = {};   ///< the same under each of its names; empty when that is not known
 };
 
 /// A file open for reading, from its start. Destroying it closes it.
@@ -73,7 +74,8 @@ struct ListedFile {
 /// Larger files are not read: no contest comes near, and a device without end must not hang.
 inline constexpr std::uint64_t kMaxFileSize = std::uint64_t{1} << 30;
 
-/// Paths are 8-bit text as the operator's system understands it.
+/// Paths are UTF-8 on Windows (text/unicode.h) and any bytes elsewhere; one that names no file
+/// there reaches none.
 class FileSystem {
  public:
   FileSystem() = default;
@@ -88,8 +90,9 @@ class FileSystem {
   [[nodiscard]] std::optional<std::string> readWhole(const std::string& path,
                                                      std::uint64_t most = kMaxFileSize);
 
-  /// The full name of the file that a path means, links followed. The file need not exist; nothing
-  /// when its folder does not.
+  /// The full name of the file that a path means, links followed: as far as the system tells the
+  /// same one for all paths that mean it, hard links aside. The file need not exist; nothing when
+  /// its folder does not.
   [[nodiscard]] virtual std::optional<std::string> resolve(const std::string& path) = 0;
   /// Nothing when the system does not say.
   [[nodiscard]] virtual std::optional<FileStatus> status(const std::string& path) = 0;

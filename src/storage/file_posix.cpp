@@ -210,6 +210,7 @@ class PosixFileSystem : public FileSystem {
     const mode_t anyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
     status.isReadOnly = (found.st_mode & anyWrite) == 0 || ::access(path.c_str(), W_OK) != 0;
     status.hasOtherNames = found.st_nlink > 1;
+    status.identity = std::to_string(found.st_dev) + "-" + std::to_string(found.st_ino);
     return status;
   }
 
@@ -244,7 +245,7 @@ class PosixFileSystem : public FileSystem {
   // Locks the folder, since every save replaces the file by another one.
   std::shared_ptr<void> lockForSaving(const std::string& path) override {
     auto lock = std::make_shared<SaveLock>(
-        ::open(folderOf(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        ::open(folderOf(resolve(path).value_or(path)).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     constexpr int kMostAttempts = 500;
     for (int i = 0; i < kMostAttempts; ++i) {
       if (::flock(lock->folder.number(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK) break;

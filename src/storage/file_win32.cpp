@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "storage/file.h"
+#include "text/unicode_win32.h"
 
 namespace scorvane {
 
@@ -46,40 +47,64 @@ FileOutcome outcomeOf(DWORD error) {
   }
 }
 
-std::wstring wide(const std::string& text) {
-  const auto size = static_cast<int>(text.size());
-  const int length = MultiByteToWideChar(CP_ACP, 0, text.data(), size, nullptr, 0);
-  std::wstring result(static_cast<std::size_t>(length), L'\0');
-  MultiByteToWideChar(CP_ACP, 0, text.data(), size, result.data(), length);
-  return result;
+std::wstring inFull(const std::wstring& path) {
+  const DWORD size = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
+  std::wstring full(size, L'\0');
+  full.resize(GetFullPathNameW(path.c_str(), size, full.data(), nullptr));
+  return full;
 }
 
 /// The path as the system takes it: in UTF-16, and in full where it is long, as that avoids the
-/// usual limit of 260 characters.
+/// usual limit of 260 characters. Empty, which names no file, for a path that is no UTF-8.
 std::wstring systemPath(const std::string& path) {
   constexpr std::size_t kUsualLimit = 240;
-  const std::wstring given = wide(path);
-  const DWORD size = GetFullPathNameW(given.c_str(), 0, nullptr, nullptr);
-  std::wstring full(size, L'\0');
-  full.resize(GetFullPathNameW(given.c_str(), size, full.data(), nullptr));
+  const std::wstring full = inFull(wideOf(path).value_or(L""));
   if (full.size() < kUsualLimit || full.starts_with(L"\\\\?\\")) return full;
   if (full.starts_with(L"\\\\")) return L"\\\\?\\UNC\\" + full.substr(2);
   return L"\\\\?\\" + full;
 }
 
-std::string narrow(const std::wstring& text) {
-  const auto size = static_cast<int>(text.size());
-  const int length =
-      WideCharToMultiByte(CP_ACP, 0, text.data(), size, nullptr, 0, nullptr, nullptr);
-  std::string result(static_cast<std::size_t>(length), '\0');
-  WideCharToMultiByte(CP_ACP, 0, text.data(), size, result.data(), length, nullptr, nullptr);
-  return result;
+/// A name in full as the program keeps it: without the mark of long paths, unless it protects a
+/// name that Windows would change, such as one that ends with a blank.
+std::string keptPath(const std::wstring& full) {
+  std::wstring plain = full;
+  if (full.starts_with(L"\\\\?\\UNC\\")) {
+    plain = L"\\\\" + full.substr(8);
+  } else if (full.starts_with(L"\\\\?\\")) {
+    plain = full.substr(4);
+  }
+  return utf8OfWide(inFull(plain) == plain ? plain : full);
 }
 
-/// A full name as 8-bit text; the path as given when it has characters that 8-bit text lacks.
-std::string pathOf(const std::wstring& full, const std::string& given) {
-  std::string path = narrow(full);
-  return wide(path) == full ? path : given;
+/// What a call that fills a buffer of the size it says returns.
+template <typename Call>
+std::wstring filled(const Call& call) {
+  std::wstring text(call(nullptr, DWORD{0}), L'\0');
+  const DWORD length = call(text.data(), static_cast<DWORD>(text.size()));
+  text.resize(length < text.size() ? length : 0);
+  return text;
+}
+
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+/// A file or folder opened to ask about it, which goes even while it is locked.
+Handle openToAsk(const std::wstring& full) {
+  return Handle(CreateFileW(full.c_str(), FILE_READ_ATTRIBUTES, kShareAll, nullptr, OPEN_EXISTING,
+                            FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+}
+
+/// The one name of an existing file or folder that all its others lead to: links followed, drive
+/// letters of shares resolved, in capitals and long form as the disk has it. Empty when the system
+/// does not tell.
+std::wstring finalName(const std::wstring& full) {
+  const Handle file = openToAsk(full);
+  if (!file.isOpen()) return {};
+  const std::wstring found = filled([&file](wchar_t* to, DWORD room) {
+    return GetFinalPathNameByHandleW(file.get(), to, room, 0);
+  });
+  const std::wstring name = filled(
+      [&found](wchar_t* to, DWORD room) { return GetLongPathNameW(found.c_str(), to, room); });
+  return name.empty() ? found : name;
 }
 
 std::string folderOf(const std::string& path) {
@@ -92,7 +117,7 @@ std::string folderOf(const std::string& path) {
 std::string temporaryFolder() {
   std::array<wchar_t, MAX_PATH + 1> folder{};
   const DWORD length = GetTempPathW(static_cast<DWORD>(folder.size()), folder.data());
-  return narrow({folder.data(), std::min<std::size_t>(length, MAX_PATH)});
+  return utf8OfWide({folder.data(), std::min<std::size_t>(length, MAX_PATH)});
 }
 
 class WindowsInputFile : public InputFile {
@@ -159,8 +184,6 @@ FileSystem::Opened openForWriting(const std::string& path, DWORD disposition,
   return {FileOutcome::done, std::move(file)};
 }
 
-constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-
 /// Gives the new file the rights, attributes and time of creation of the old one.
 void passOnRights(const std::wstring& from, const std::wstring& to) {
   DWORD size = 0;
@@ -189,17 +212,6 @@ std::int64_t ticksOf(const FILETIME& time) {
   return ((std::int64_t{time.dwHighDateTime} << 32) | time.dwLowDateTime) - kStartOf1970;
 }
 
-/// The folder's name in 8-bit text: its short form (8.3) when the long one has other characters.
-std::string narrowFolder(const std::wstring& folder) {
-  const std::string path = narrow(folder);
-  if (wide(path) == folder) return path;
-  std::wstring brief(MAX_PATH, L'\0');
-  brief.resize(std::min<std::size_t>(
-      GetShortPathNameW(folder.c_str(), brief.data(), static_cast<DWORD>(brief.size())),
-      brief.size()));
-  return narrow(brief);
-}
-
 class WindowsFileSystem : public FileSystem {
  public:
   std::unique_ptr<InputFile> openToRead(const std::string& path) override {
@@ -213,21 +225,19 @@ class WindowsFileSystem : public FileSystem {
   }
 
   std::optional<std::string> resolve(const std::string& path) override {
-    if (path.empty()) return std::nullopt;
     const std::wstring full = systemPath(path);
     const DWORD attributes = GetFileAttributesW(full.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) {
-      const DWORD error = GetLastError();
-      return error == ERROR_FILE_NOT_FOUND ? std::optional(pathOf(full, path)) : std::nullopt;
+      if (GetLastError() != ERROR_FILE_NOT_FOUND) return std::nullopt;
+      const std::size_t name = full.rfind(L'\\') + 1;
+      const std::wstring folder = finalName(full.substr(0, name));
+      if (folder.empty()) return keptPath(full);
+      return keptPath(folder + (folder.ends_with(L'\\') ? L"" : L"\\") + full.substr(name));
     }
-    if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return pathOf(full, path);
-    const Handle file(CreateFileW(full.c_str(), FILE_READ_ATTRIBUTES, kShareAll, nullptr,
-                                  OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
-    if (!file.isOpen()) return std::nullopt;
-    const DWORD size = GetFinalPathNameByHandleW(file.get(), nullptr, 0, 0);
-    std::wstring target(size, L'\0');
-    target.resize(std::min(GetFinalPathNameByHandleW(file.get(), target.data(), size, 0), size));
-    return target.empty() ? std::nullopt : std::optional(pathOf(target, path));
+    const std::wstring name = finalName(full);
+    if (!name.empty()) return keptPath(name);
+    const bool isLink = (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+    return isLink ? std::nullopt : std::optional(keptPath(full));
   }
 
   std::optional<FileStatus> status(const std::string& path) override {
@@ -240,12 +250,14 @@ class WindowsFileSystem : public FileSystem {
     status.exists = true;
     status.isRegular = (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE)) == 0;
     status.isReadOnly = (attributes & FILE_ATTRIBUTE_READONLY) != 0;
-    const Handle file(CreateFileW(full.c_str(), FILE_READ_ATTRIBUTES, kShareAll, nullptr,
-                                  OPEN_EXISTING, 0, nullptr));
-    BY_HANDLE_FILE_INFORMATION information;
-    status.hasOtherNames = file.isOpen() &&
-                           GetFileInformationByHandle(file.get(), &information) != 0 &&
-                           information.nNumberOfLinks > 1;
+    const Handle file = openToAsk(full);
+    BY_HANDLE_FILE_INFORMATION facts;
+    if (file.isOpen() && GetFileInformationByHandle(file.get(), &facts) != 0) {
+      status.hasOtherNames = facts.nNumberOfLinks > 1;
+      status.identity = std::to_string(facts.dwVolumeSerialNumber) + "-" +
+                        std::to_string(facts.nFileIndexHigh) + "-" +
+                        std::to_string(facts.nFileIndexLow);
+    }
     return status;
   }
 
@@ -292,12 +304,14 @@ class WindowsFileSystem : public FileSystem {
   std::vector<ListedFile> list(const std::string& folder) override {
     std::vector<ListedFile> files;
     WIN32_FIND_DATAW entry;
-    const HANDLE search = FindFirstFileW((systemPath(folder) + L"\\*").c_str(), &entry);
+    const std::wstring full = systemPath(folder);
+    if (full.empty()) return files;
+    const HANDLE search = FindFirstFileW((full + L"\\*").c_str(), &entry);
     if (search == INVALID_HANDLE_VALUE) return files;
     do {
       const std::wstring name = entry.cFileName;
       if (name == L"." || name == L"..") continue;
-      files.push_back({narrow(name), (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
+      files.push_back({utf8OfWide(name), (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0,
                        (std::uint64_t{entry.nFileSizeHigh} << 32) | entry.nFileSizeLow,
                        ticksOf(entry.ftLastWriteTime)});
     } while (FindNextFileW(search, &entry) != 0);
@@ -322,7 +336,7 @@ class WindowsFileSystem : public FileSystem {
     std::array<wchar_t, MAX_PATH> folder{};
     const DWORD length =
         GetEnvironmentVariableW(L"LOCALAPPDATA", folder.data(), static_cast<DWORD>(folder.size()));
-    return length < folder.size() ? narrowFolder(folder.data()) : std::string();
+    return length < folder.size() ? utf8OfWide(folder.data()) : std::string();
   }
 
   std::optional<std::int64_t> lastChange(const std::string& path) override {

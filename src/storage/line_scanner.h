@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,17 +11,17 @@ namespace scorvane {
 
 /// Takes bytes apart into lines. Only CR LF ends a line: a CR without LF is dropped, an LF
 /// without CR is a character like any other. What follows the last CR LF is not a line, since a
-/// file cut off there may have lost the end of a number. A line ends early at its first NUL, and
-/// after kMaxLine bytes.
+/// file cut off there may have lost the end of a number. A line ends early at its first NUL. One of
+/// more than kMaxLine bytes is no line, and nothing follows it.
 class LineScanner {
  public:
   static constexpr std::size_t kMaxLine = 500;
 
   /// The bytes must outlive the scanner.
-  explicit LineScanner(std::string_view bytes) : size_(bytes.size()), rest_(bytes) {}
+  explicit LineScanner(std::string_view bytes) : bytes_(bytes), rest_(bytes) {}
 
-  /// The next line without its end; nothing after the last one. The view is valid until the next
-  /// call.
+  /// The next line without its end; nothing after the last one, and where none can be read. The
+  /// view is valid until the next call.
   [[nodiscard]] std::optional<std::string_view> next();
   /// The next line as a record of a section: nothing when it is empty.
   [[nodiscard]] std::optional<std::string_view> nextRecord() {
@@ -31,17 +32,23 @@ class LineScanner {
   /// The bytes from the next line on.
   [[nodiscard]] std::string_view rest() const { return rest_; }
   /// Skips bytes that the caller has read from rest().
-  void skip(std::size_t count) { rest_.remove_prefix(count); }
+  void skip(std::size_t count) {
+    lineStart_ = bytes_.size() - rest_.size();
+    rest_.remove_prefix(count);
+  }
 
   /// The number of bytes of the whole input.
-  [[nodiscard]] std::size_t size() const { return size_; }
+  [[nodiscard]] std::size_t size() const { return bytes_.size(); }
+  /// Which line, counted from 1, was taken last or could not be. Counts them all.
+  [[nodiscard]] std::int64_t lineNumber() const;
 
  private:
   [[nodiscard]] std::optional<std::string_view> nextWithoutReturns();
 
-  std::size_t size_;
+  std::string_view bytes_;
   std::string_view rest_;
-  std::string joined_;  ///< the last line that had CRs to drop
+  std::size_t lineStart_ = 0;  ///< of the line taken last
+  std::string joined_;         ///< the last line that had CRs to drop
 };
 
 /// Takes a line apart at every TAB, so that an empty field stays a field.

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <optional>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -51,61 +52,119 @@ std::size_t parseWrittenLine(std::string_view bytes, ScoreLine& score) {
   return static_cast<std::size_t>(at + 1 - bytes.data());
 }
 
-/// Gathers the records of contestants. Lines of one contestant usually follow each other, and
-/// contestants are in ascending order, so that nothing needs sorting.
-class ScoreCollector {
+/// The number of fields of a line, at most the six that count.
+int countFields(std::string_view line) {
+  constexpr int kMost = 6;
+  return static_cast<int>(
+      std::min<std::ptrdiff_t>(std::count(line.begin(), line.end(), '\t') + 1, kMost));
+}
+
+/// The next score line and its number of fields; none at the end.
+std::optional<ScoreLine> nextScore(LineScanner& lines, int& fields) {
+  ScoreLine score;
+  if (const std::size_t length = parseWrittenLine(lines.rest(), score); length > 0) {
+    lines.skip(length);
+    fields = 6;
+    return score;
+  }
+  const auto line = lines.nextRecord();
+  if (!line) return std::nullopt;
+  fields = countFields(*line);
+  return parseScoreLine(*line);
+}
+
+/// Whether a line has a contestant and a class, and as many fields as the lines before: one that
+/// was cut off would take scores away, and the trailer is no score.
+class FieldCheck {
  public:
-  explicit ScoreCollector(const Contest& contest) : contest_(contest) {
-    runs_.reserve(contest.contestantNames.size());
-  }
-
-  void add(const ScoreLine& score) {
-    if (score.number != number_) endRun();
-    number_ = score.number;
-    if (score.classIndex < 0 || score.classIndex >= contest_.classes.count()) return;
-    run_.emplace_back(score.classIndex, score.record);
-  }
-
-  FlatMap<ContestantNumber, ClassScores> take() {
-    endRun();
-    const auto notAscending = [](const Run& a, const Run& b) { return a.first >= b.first; };
-    if (std::adjacent_find(runs_.begin(), runs_.end(), notAscending) != runs_.end()) joinRuns();
-    return FlatMap<ContestantNumber, ClassScores>::fromEntries(std::move(runs_));
+  bool fits(int fields) {
+    if (known_ == 0) known_ = fields;
+    return fields > 1 && fields == known_;
   }
 
  private:
-  using Run = std::pair<ContestantNumber, ClassScores>;
-
-  void endRun() {
-    if (run_.empty()) return;
-    if (contest_.contestantNames.contains(number_)) {
-      runs_.emplace_back(number_, ClassScores::fromEntries({run_.begin(), run_.end()}));
-    }
-    run_.clear();
-  }
-
-  // Brings together the lines of a contestant that did not follow each other.
-  void joinRuns() {
-    std::stable_sort(runs_.begin(), runs_.end(),
-                     [](const Run& a, const Run& b) { return a.first < b.first; });
-    std::vector<Run> joined;
-    for (std::size_t first = 0; first < runs_.size();) {
-      std::vector<ClassScores::Entry> records;
-      std::size_t next = first;
-      for (; next < runs_.size() && runs_[next].first == runs_[first].first; ++next) {
-        records.insert(records.end(), runs_[next].second.begin(), runs_[next].second.end());
-      }
-      joined.emplace_back(runs_[first].first, ClassScores::fromEntries(std::move(records)));
-      first = next;
-    }
-    runs_ = std::move(joined);
-  }
-
-  const Contest& contest_;
-  ContestantNumber number_ = 0;
-  std::vector<ClassScores::Entry> run_;
-  std::vector<Run> runs_;
+  int known_ = 0;
 };
+
+using Scores = FlatMap<ContestantNumber, ClassScores>;
+
+/// Reads scores in the order in which they are written. False when they come otherwise.
+bool readInOrder(LineScanner& lines, Contest& contest) {
+  FieldCheck check;
+  std::vector<Scores::Entry> scores;
+  scores.reserve(contest.contestantNames.size());
+  for (const auto& contestant : contest.contestantNames) {
+    std::vector<ClassScores::Entry> records;
+    records.reserve(static_cast<std::size_t>(contest.classes.count()));
+    for (std::int32_t k = 0; k < contest.classes.count(); ++k) {
+      int fields = 0;
+      const auto score = nextScore(lines, fields);
+      if (!score || !check.fits(fields)) return false;
+      if (score->number != contestant.first || score->classIndex != k) return false;
+      records.emplace_back(k, score->record);
+    }
+    scores.emplace_back(contestant.first, ClassScores::fromEntries(std::move(records)));
+  }
+  contest.scores = Scores::fromEntries(std::move(scores));
+  return true;
+}
+
+bool isKnown(const ScoreLine& score, const Contest& contest) {
+  return score.classIndex >= 0 && score.classIndex < contest.classes.count() &&
+         contest.contestantNames.contains(score.number);
+}
+
+bool isBefore(const ScoreLine& a, const ScoreLine& b) {
+  return std::tie(a.number, a.classIndex) < std::tie(b.number, b.classIndex);
+}
+
+/// Stores lines that are sorted; of several of one contestant and class the last one counts.
+void store(const std::vector<ScoreLine>& sorted, Contest& contest) {
+  std::vector<Scores::Entry> scores;
+  for (auto first = sorted.begin(); first != sorted.end();) {
+    std::vector<ClassScores::Entry> records;
+    const ContestantNumber number = first->number;
+    for (; first != sorted.end() && first->number == number; ++first) {
+      records.emplace_back(first->classIndex, first->record);
+    }
+    scores.emplace_back(number, ClassScores::fromEntries(std::move(records)));
+  }
+  contest.scores = Scores::fromEntries(std::move(scores));
+}
+
+/// Reads as many scores as there are contestants and classes, in any order. Returns how many lines
+/// fitted before one did not; nothing when all did.
+std::optional<std::int64_t> readInAnyOrder(LineScanner& lines, std::int64_t lineCount,
+                                           Contest& contest) {
+  FieldCheck check;
+  std::vector<ScoreLine> read;
+  std::vector<std::size_t> order;
+  for (std::int64_t i = 0; i < lineCount; ++i) {
+    int fields = 0;
+    const auto score = nextScore(lines, fields);
+    if (!score || !check.fits(fields) || !isKnown(*score, contest)) break;
+    order.push_back(read.size());
+    read.push_back(*score);
+  }
+  std::stable_sort(order.begin(), order.end(),
+                   [&](std::size_t a, std::size_t b) { return isBefore(read[a], read[b]); });
+  std::size_t fitting = read.size();
+  for (std::size_t i = 1; i < order.size(); ++i) {
+    if (!isBefore(read[order[i - 1]], read[order[i]])) fitting = std::min(fitting, order[i]);
+  }
+  if (static_cast<std::int64_t>(fitting) < lineCount) return static_cast<std::int64_t>(fitting);
+  std::vector<ScoreLine> sorted;
+  sorted.reserve(read.size());
+  for (const std::size_t i : order) sorted.push_back(read[i]);
+  store(sorted, contest);
+  return std::nullopt;
+}
+
+// Contestants have an entry, and so a rank, before there are classes.
+void addWithoutClasses(Contest& contest) {
+  if (contest.classes.count() > 0) return;
+  for (const auto& entry : contest.contestantNames) contest.scores[entry.first];
+}
 
 }  // namespace
 
@@ -123,25 +182,31 @@ ScoreLine parseScoreLine(std::string_view line) {
   return score;
 }
 
-bool readScores(LineScanner& lines, std::int64_t lineCount, Contest& contest) {
-  ScoreCollector collector(contest);
+std::int64_t readScores(LineScanner& lines, Contest& contest) {
+  const LineScanner start = lines;
+  if (!readInOrder(lines, contest)) {
+    lines = start;
+    const auto lineCount = std::int64_t{contest.classes.count()} *
+                           static_cast<std::int64_t>(contest.contestantNames.size());
+    const auto fitting = readInAnyOrder(lines, lineCount, contest);
+    if (fitting) return start.lineNumber() + *fitting + 1;
+  }
+  addWithoutClasses(contest);
+  const auto line = lines.next();
+  return line && line->find('\t') != std::string_view::npos ? lines.lineNumber() : 0;
+}
+
+void readScoresLeft(LineScanner& lines, std::int64_t lineCount, Contest& contest) {
+  std::vector<ScoreLine> read;
+  int fields = 0;
   for (std::int64_t i = 0; i < lineCount; ++i) {
-    ScoreLine score;
-    if (const std::size_t length = parseWrittenLine(lines.rest(), score); length > 0) {
-      lines.skip(length);
-    } else if (const auto line = lines.nextRecord()) {
-      score = parseScoreLine(*line);
-    } else {
-      return false;
-    }
-    collector.add(score);
+    const auto score = nextScore(lines, fields);
+    if (!score) break;
+    if (isKnown(*score, contest)) read.push_back(*score);
   }
-  contest.scores = collector.take();
-  // Contestants have an entry, and so a rank, before there are classes.
-  if (contest.classes.count() == 0) {
-    for (const auto& entry : contest.contestantNames) contest.scores[entry.first];
-  }
-  return true;
+  std::stable_sort(read.begin(), read.end(), isBefore);
+  store(read, contest);
+  addWithoutClasses(contest);
 }
 
 }  // namespace scorvane

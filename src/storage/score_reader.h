@@ -19,10 +19,14 @@ struct ScoreLine {
 /// Reads a score line; fields behind its six are ignored.
 [[nodiscard]] ScoreLine parseScoreLine(std::string_view line);
 
-/// Reads `lineCount` score lines into the contest, whose classes and contestants are known by now.
-/// Records of classes and contestants that do not exist are ignored; of several records of one
-/// contestant and class the last one counts. Without classes every contestant gets an entry
-/// without records. False when the lines end early.
-[[nodiscard]] bool readScores(LineScanner& lines, std::int64_t lineCount, Contest& contest);
+/// Reads the score lines into the contest, whose classes and contestants are known by now: exactly
+/// one for each contestant and class, in any order, all with as many fields. Without classes every
+/// contestant gets an entry without records. Returns the number of the line that is wrong, 0 for
+/// none.
+[[nodiscard]] std::int64_t readScores(LineScanner& lines, Contest& contest);
+
+/// Reads up to `lineCount` score lines of a damaged file: those of unknown contestants and classes
+/// are ignored, and of several of one contestant and class the last one counts.
+void readScoresLeft(LineScanner& lines, std::int64_t lineCount, Contest& contest);
 
 }  // namespace scorvane

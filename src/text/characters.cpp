@@ -23,4 +23,20 @@ std::string withoutControlCharacters(std::string_view text) {
   return cleaned;
 }
 
+std::string withoutCommands(std::string_view text) {
+  constexpr char kDelete = '\x7F';
+  std::string cleaned(text);
+  for (std::size_t i = 0; i < cleaned.size(); ++i) {
+    const char c = cleaned[i];
+    const bool endsLine = c == '\n' || cleaned.compare(i, 2, "\r\n") == 0;
+    const bool isBelowBlank = static_cast<unsigned char>(c) < ' ' && c != '\t' && !endsLine;
+    if (isBelowBlank || c == kDelete) cleaned[i] = ' ';
+    const bool mayLead = c == '\xC2' && i + 1 < cleaned.size();
+    if (mayLead && (static_cast<unsigned char>(cleaned[i + 1]) & 0xE0U) == 0x80) {
+      cleaned[i] = cleaned[i + 1] = ' ';
+    }
+  }
+  return cleaned;
+}
+
 }  // namespace scorvane

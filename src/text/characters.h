@@ -14,4 +14,9 @@ namespace scorvane {
 /// with one of them inside must not cut the record in two.
 [[nodiscard]] std::string withoutControlCharacters(std::string_view text);
 
+/// The text as it may be shown where characters can be commands: with a blank for every control
+/// character but TAB, LF and CR LF, DEL and what UTF-8 makes of the bytes 128 to 159 included.
+/// Alone those are letters and signs of the code page.
+[[nodiscard]] std::string withoutCommands(std::string_view text);
+
 }  // namespace scorvane

@@ -17,8 +17,8 @@ inline constexpr const char* kPageBreakLine = "               ------- Page Break
 inline constexpr const char* kSmallFontLine = "--- Small Font ---";
 inline constexpr const char* kLargeFontLine = "--- Large Font ---";
 
-/// Thirty classes and a hundred thousand contestants stay far below this.
-inline constexpr std::size_t kLongestReport = 128U << 20U;
+/// Thirty classes and a hundred thousand contestants stay below this.
+inline constexpr std::size_t kLongestReport = 96U << 20U;
 /// For reports that are handed out on paper: ten thousand contestants judging thirty classes stay
 /// below this.
 inline constexpr std::size_t kLongestHandOut = 56U << 20U;

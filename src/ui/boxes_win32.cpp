@@ -5,6 +5,8 @@
 
 #include <array>
 
+#include "text/characters.h"
+#include "text/unicode_win32.h"
 #include "ui/dialog_win32.h"
 
 namespace scorvane {
@@ -23,36 +25,41 @@ UINT buttonsOf(Buttons buttons) {
   return MB_OK;
 }
 
-// Pairs of name and pattern, each ended by a NUL, the list by one more.
-std::string filterList(const std::vector<FileFilter>& filters) {
-  std::string list;
-  for (const FileFilter& filter : filters) {
-    list += filter.name + '\0';
-    list += filter.pattern + '\0';
-  }
-  return list + '\0';
+// The program's own words, which are ASCII.
+std::wstring wordsOf(const std::string& text) {
+  return {text.begin(), text.end()};
 }
 
-std::string documentsFolder() {
-  std::array<char, MAX_PATH> folder{};
+// Pairs of name and pattern, each ended by a NUL, the list by one more.
+std::wstring filterList(const std::vector<FileFilter>& filters) {
+  std::wstring list;
+  for (const FileFilter& filter : filters) {
+    list += wordsOf(filter.name) + L'\0';
+    list += wordsOf(filter.pattern) + L'\0';
+  }
+  return list + L'\0';
+}
+
+std::wstring documentsFolder() {
+  std::array<wchar_t, MAX_PATH> folder{};
   const HRESULT result =
-      SHGetFolderPathA(nullptr, CSIDL_PERSONAL, nullptr, SHGFP_TYPE_CURRENT, folder.data());
-  return SUCCEEDED(result) ? folder.data() : "";
+      SHGetFolderPathW(nullptr, CSIDL_PERSONAL, nullptr, SHGFP_TYPE_CURRENT, folder.data());
+  return SUCCEEDED(result) ? folder.data() : L"";
 }
 
 // The file dialogs change the process's current folder; a contest named by a relative path on the
 // command line would then be saved elsewhere.
 class KeptFolder {
  public:
-  KeptFolder() { GetCurrentDirectoryA(static_cast<DWORD>(folder_.size()), folder_.data()); }
+  KeptFolder() { GetCurrentDirectoryW(static_cast<DWORD>(folder_.size()), folder_.data()); }
   KeptFolder(const KeptFolder&) = delete;
   KeptFolder& operator=(const KeptFolder&) = delete;
   ~KeptFolder() {
-    if (folder_.front() != '\0') SetCurrentDirectoryA(folder_.data());
+    if (folder_.front() != L'\0') SetCurrentDirectoryW(folder_.data());
   }
 
  private:
-  std::array<char, MAX_PATH + 1> folder_{};
+  std::array<wchar_t, MAX_PATH + 1> folder_{};
 };
 
 }  // namespace
@@ -63,7 +70,8 @@ Answer askOver(NativeWindow owner, const Message& message) {
     style |= MB_DEFBUTTON2;
   }
   if (message.informationIcon) style |= MB_ICONINFORMATION;
-  switch (MessageBoxA(owner, message.text.c_str(), message.caption.c_str(), style)) {
+  const std::string text = withoutCommands(message.text);
+  switch (MessageBoxA(owner, text.c_str(), message.caption.c_str(), style)) {
     case IDOK:
       return Answer::ok;
     case IDYES:
@@ -78,10 +86,11 @@ Answer askOver(NativeWindow owner, const Message& message) {
 }
 
 std::optional<std::string> chooseFileOver(NativeWindow owner, const FileQuestion& question) {
-  const std::string filters = filterList(question.filters);
-  const std::string documents = documentsFolder();
-  std::array<char, kMaxPathLength + 1> path{};
-  OPENFILENAMEA dialog{};
+  const std::wstring filters = filterList(question.filters);
+  const std::wstring documents = documentsFolder();
+  const std::wstring extension = wordsOf(question.defaultExtension);
+  std::array<wchar_t, 2 * kMaxPathLength + 1> path{};  // characters may be pairs of surrogates
+  OPENFILENAMEW dialog{};
   dialog.lStructSize = sizeof dialog;
   dialog.hwndOwner = owner;
   dialog.lpstrFilter = filters.c_str();
@@ -90,14 +99,14 @@ std::optional<std::string> chooseFileOver(NativeWindow owner, const FileQuestion
   dialog.nMaxFile = static_cast<DWORD>(path.size());
   // Windows itself prefers the folder used last once there is one.
   dialog.lpstrInitialDir = documents.empty() ? nullptr : documents.c_str();
-  dialog.lpstrDefExt = question.defaultExtension.c_str();
+  dialog.lpstrDefExt = extension.c_str();
   dialog.Flags = OFN_HIDEREADONLY | OFN_PATHMUSTEXIST;
   if (question.fileMustExist) dialog.Flags |= OFN_FILEMUSTEXIST;
   const KeptFolder keptFolder;
-  const BOOL chosen = question.purpose == FileQuestion::Purpose::open ? GetOpenFileNameA(&dialog)
-                                                                      : GetSaveFileNameA(&dialog);
+  const BOOL chosen = question.purpose == FileQuestion::Purpose::open ? GetOpenFileNameW(&dialog)
+                                                                      : GetSaveFileNameW(&dialog);
   if (chosen == FALSE) return std::nullopt;
-  return path.data();
+  return utf8OfWide(path.data());
 }
 
 }  // namespace scorvane

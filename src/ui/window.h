@@ -35,7 +35,7 @@ struct FileQuestion {
   bool fileMustExist = false;
 };
 
-/// Longest path a file dialog returns, in bytes.
+/// Longest path of a contest, in characters.
 inline constexpr std::size_t kMaxPathLength = 499;
 
 class Window {
@@ -48,8 +48,8 @@ class Window {
   /// Shows a modal message box owned by this window and returns the button pressed. Closing a box
   /// that has a Cancel button counts as Cancel.
   virtual Answer ask(const Message& message) = 0;
-  /// Lets the operator choose a file; nothing when cancelled. The path is at most kMaxPathLength
-  /// bytes of 8-bit text.
+  /// Lets the operator choose a file; nothing when cancelled. Longer paths than
+  /// kMaxPathLength are for the caller to refuse.
   virtual std::optional<std::string> chooseFile(const FileQuestion& question) = 0;
   /// A box with only an OK button.
   void show(const std::string& text, const std::string& caption) { ask({text, caption}); }

@@ -1,13 +1,17 @@
 // file_check FOLDER: saves into an empty folder under the circumstances that only Windows has, and
 // says what went wrong. file_check FOLDER save: saves two contents in turn until it is killed.
+// file_check FOLDER CONTEST: opens and saves that contest under names beyond the code page.
 #include <windows.h>
 
+#include <array>
 #include <cstdio>
 #include <filesystem>
 #include <string>
 
 #include "storage/file.h"
 #include "storage/safe_save.h"
+#include "tests/session/odd_names.h"
+#include "text/unicode_win32.h"
 
 using namespace scorvane;
 
@@ -96,18 +100,103 @@ void checkLongPath(const std::string& folder) {
   check(save(path, kOld) && save(path, kNew) && contentOf(path) == kNew, "the longest path");
 }
 
-// Windows forbids names with control characters and nine more; of the bytes it allows none may
-// fail.
-void checkNames(const std::string& folder) {
-  constexpr int kForbidden = 31 + 9;
-  int saved = 0;
-  for (int byte = 1; byte <= 255; ++byte) {
-    const std::string path = folder + "\\n" + std::string(1, static_cast<char>(byte)) + "n.scv";
-    if (!save(path, kOld)) continue;
-    check(contentOf(path) == kOld, "a name that was saved to");
-    ++saved;
+// Made and read without the code under test.
+std::wstring rawWide(const std::string& path) {
+  std::array<wchar_t, 1000> wide{};
+  MultiByteToWideChar(CP_UTF8, 0, path.c_str(), -1, wide.data(), 1000);
+  return wide.data();
+}
+
+void rawMake(const std::string& path, const std::string& bytes) {
+  const HANDLE file = CreateFileW(rawWide(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                  FILE_ATTRIBUTE_NORMAL, nullptr);
+  DWORD written = 0;
+  check(WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) != 0,
+        "a file made for the check");
+  CloseHandle(file);
+}
+
+std::string rawContent(const std::string& path) {
+  const HANDLE file = CreateFileW(rawWide(path).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                  OPEN_EXISTING, 0, nullptr);
+  std::string bytes(100000, '\0');
+  DWORD count = 0;
+  ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &count, nullptr);
+  CloseHandle(file);
+  return bytes.substr(0, count);
+}
+
+// As the system itself bends it to the code page, and with one letter for all that is lost.
+std::vector<std::string> bent(const std::string& name) {
+  const std::wstring wide = rawWide(name);
+  std::vector<std::string> names;
+  for (const char* letter : {static_cast<const char*>(nullptr), "O"}) {
+    const DWORD flags = letter == nullptr ? 0 : WC_NO_BEST_FIT_CHARS;
+    std::array<char, 1000> narrow{};
+    WideCharToMultiByte(CP_ACP, flags, wide.c_str(), -1, narrow.data(), 1000, letter, nullptr);
+    std::wstring again(1000, L'\0');
+    MultiByteToWideChar(CP_ACP, 0, narrow.data(), -1, again.data(), 1000);
+    again.resize(again.find(L'\0'));
+    if (again.find_first_of(L"?*<>|:\"/\\") == std::wstring::npos)
+      names.push_back(utf8OfWide(again));
   }
-  check(saved >= 255 - kForbidden, "every byte in file names");
+  return names;
+}
+
+void checkOddNames(const std::string& folder, const std::string& contest) {
+  const std::string contests = folder + "\\names";
+  CreateDirectoryA(contests.c_str(), nullptr);
+  SetEnvironmentVariableA("LOCALAPPDATA", folder.c_str());
+  for (const std::string& fault :
+       OddNames(contests, {rawMake, rawContent, bent}, contest, 10).faults()) {
+    std::printf("FAILED: %s\n", fault.c_str());
+    ++failures;
+  }
+}
+
+// What is no UTF-8, or ends early, is no name at all.
+void checkNoNames(const std::string& folder) {
+  for (const std::string& name : {std::string("n\xE9"), std::string("n.scv\0.scv", 10)}) {
+    const std::string path = folder + "\\" + name;
+    check(!save(path, kOld) && !systemFiles().readWhole(path), "a name that is none");
+  }
+  check(systemFiles().list("\xE9").empty(), "a folder whose name is none");
+  check(shownPath("Ω é.scv") == "? \xE9.scv", "a name is shown in the code page");
+}
+
+// A surrogate alone: the very file, or none.
+void checkUnpairedSurrogates(const std::string& folder) {
+  const std::string inner = folder + "\\surrogates";
+  CreateDirectoryA(inner.c_str(), nullptr);
+  const std::string paths[] = {inner + "\\\xED\xA0\x80.scv", inner + "\\\xED\xB0\x80.scv"};
+  std::size_t saved = 0;
+  for (const std::string& path : paths) saved += save(path, path) ? 1 : 0;
+  for (const std::string& path : paths) {
+    check(saved < 2 || contentOf(path) == path, "a name with a surrogate alone");
+  }
+  check(systemFiles().list(inner).size() == saved, "two surrogates are two names");
+}
+
+// Capitals, the short name, the drive Q: that the folder has for this check.
+void checkOneFile(const std::string& folder) {
+  FileSystem& files = systemFiles();
+  const std::string path = oldFile(folder + "\\A Long Contest Name.scv");
+  const std::string other = oldFile(folder + "\\Another Contest.scv");
+  const auto name = files.resolve(path);
+  std::array<char, MAX_PATH> brief{};
+  GetShortPathNameA(path.c_str(), brief.data(), MAX_PATH);
+  check(brief.data() != path, "a short name");
+  for (const std::string& twin : {folder + "\\a LONG contest NAME.SCV", std::string(brief.data()),
+                                  folder + "\\.\\surrogates\\..\\A Long Contest Name.scv",
+                                  "\\\\?\\" + path, std::string("q:\\A Long Contest Name.scv")}) {
+    check(files.resolve(twin) == name, twin.c_str());
+    check(contestKey(files, twin) == contestKey(files, path), "one contest");
+    check(reachesSameFile(files, twin, path), "one file");
+    check(!reachesSameFile(files, twin, other), "two files");
+  }
+  check(files.resolve(folder + "\\SURROGATES\\New.scv") ==
+            files.resolve(folder + "\\surrogates\\New.scv"),
+        "a file that is yet to be made");
 }
 
 void checkFolders(const std::string& folder) {
@@ -145,6 +234,10 @@ void checkFolders(const std::string& folder) {
 int main(int count, char** arguments) {
   if (count < 2) return 2;
   const std::string folder = arguments[1];
+  if (count > 2 && std::string(arguments[2]) != "save") {
+    checkOddNames(folder, contentOf(arguments[2]));
+    return failures == 0 ? 0 : 1;
+  }
   while (count > 2) {
     const std::string path = folder + "\\contest.scv";
     if (!save(path, std::string(9000, 'a')) || !save(path, std::string(300000, 'b'))) return 1;
@@ -154,7 +247,9 @@ int main(int count, char** arguments) {
   checkHardLinks(folder);
   checkFilesInUse(folder);
   checkLongPath(folder);
-  checkNames(folder);
+  checkNoNames(folder);
+  checkUnpairedSurrogates(folder);
+  checkOneFile(folder);
   checkFolders(folder);
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {
     check(entry.path().extension() != ".tmp", "nothing is left beside the files");

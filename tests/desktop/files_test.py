@@ -18,7 +18,14 @@ class Files(DesktopTest):
         self.desktop.environment["LC_ALL"] = "C.UTF-8"
 
     def test_saving_where_windows_is_peculiar(self):
+        drive = self.desktop.prefix / "dosdevices" / "q:"
+        drive.symlink_to(self.folder)
+        self.addCleanup(drive.unlink)
         done = self.desktop.wine(self.PROGRAM, windows_path(self.folder), check=False)
+        self.assertEqual((done.stdout.decode(), done.returncode), ("", 0))
+
+    def test_names_beyond_the_code_page_reach_their_own_files(self):
+        done = self.desktop.wine(self.PROGRAM, windows_path(self.folder), windows_path(self.sample()), check=False)
         self.assertEqual((done.stdout.decode(), done.returncode), ("", 0))
 
     def test_killed_saves_leave_a_whole_file(self):

@@ -112,11 +112,13 @@ class InstallerTest(DesktopTest):
     def test_a_contest_opens_by_its_type(self):
         # The Wine of our tests knows the types of the computer, not those of one user.
         self.install("/AllUsers")
-        contest = self.sample().rename(self.folder / "a fair's contest.scv")
+        self.desktop.environment["LC_ALL"] = "C.UTF-8"  # or Wine has file names of ASCII characters only
+        contest = self.sample().rename(self.folder / "a fair's Ω contest.scv")
+        (self.folder / "a fair's O contest.scv").write_bytes(b"a decoy")
         app = self.desktop.open(contest)
         self.addCleanup(app.close)
         wait_for(lambda: app.main().title() == (
-            f"Scorvane - {windows_path(contest)} - Tallgrass County Fair Judging Contest"),
+            f"Scorvane - {windows_path(contest).replace('Ω', '?')} - Tallgrass County Fair Judging Contest"),
             "the contest's title")
         # Setup leaves a running program alone.
         self.assertEqual(self.setup("/AllUsers"), RUNNING)

@@ -2,7 +2,7 @@
 
 import unittest
 
-from desktop_case import IDCANCEL, IDOK, DesktopTest, wait_for, windows_path
+from desktop_case import BUILD, IDCANCEL, IDOK, DesktopTest, wait_for, windows_path
 
 NEW, OPEN, SAVE, SAVE_AS, EXIT, SETUP_CONTEST = 32771, 32772, 32773, 32774, 105, 32787
 SAVE_REPORT, ROUND_VERIFICATION = 32832, 32862
@@ -69,6 +69,46 @@ class ShellTest(DesktopTest):
         main.command(EXIT)
         self.assertEqual(app.exit_code(), 0)
         self.assertEqual(contest.read_bytes(), before)
+
+    def test_names_beyond_the_code_page_reach_their_own_files(self):
+        """By the command line, a drop and both dialogs, with the files beside them that they were bent to once."""
+        # Otherwise Wine has file names of ASCII characters only.
+        self.addCleanup(self.desktop.environment.update, LC_ALL="C")
+        self.desktop.environment["LC_ALL"] = "C.UTF-8"
+        decoys = [self.folder / f"{name}.scv" for name in ("O", "L", "A", "copy O", "copy L", "copy A", "?", "e", "copy e")]
+        for decoy in decoys:
+            decoy.write_bytes(b"a decoy")
+        contest = self.sample()
+        before = contest.read_bytes()
+        names = ["Ω", "Ł", "Ａ", "Ωδ Жщ", "评审", "🐄", "e\u0301", "한국", "שלום", "\u202E", "＼", "Ōé"]
+        app = self.start()
+        main = app.main()
+        for name in names:
+            own, copy = self.folder / f"{name}.scv", self.folder / f"copy {name}.scv"
+            own.write_bytes(before.replace(b"Tallgrass", b"Our own %03d" % names.index(name)))
+            shown = windows_path(own).replace(name, "".join(c if c in "eé " else "?" for c in name))
+            title = f" - Our own {names.index(name):03d} County Fair Judging Contest"
+            for take in (lambda: main.drop(own), lambda: (main.command(OPEN), app.choose_file(own))):
+                main.command(NEW)
+                self.wait_for_title(main, "Scorvane")
+                take()
+                self.wait_for_title(main, f"Scorvane - {shown}{title}")
+            main.command(SAVE_AS)
+            app.choose_file(copy)
+            wait_for(copy.exists, copy)
+            main.settle()
+            self.assertEqual(copy.read_bytes(), own.read_bytes())
+            main.command(SAVE)
+            main.settle()
+        for name in names[:3]:
+            own = self.folder / f"{name}.scv"
+            started = self.start(own)
+            self.wait_for_title(started.main(), f"Scorvane - {windows_path(own.with_stem('?'))} - "
+                                f"Our own {names.index(name):03d} County Fair Judging Contest")
+            done = self.desktop.wine(BUILD / "scorvane-report.exe", windows_path(own), CLASSES)
+            self.assertEqual(done.stdout.decode("latin-1"), self.expected_report(own, CLASSES))
+        self.assertEqual({decoy.read_bytes() for decoy in decoys}, {b"a decoy"})
+        self.assertEqual(len(list(self.folder.glob("*"))), len(decoys) + 1 + 2 * len(names))
 
     def test_drops_commands_and_closing_wait_until_no_dialog_is_open(self):
         contest = self.sample()

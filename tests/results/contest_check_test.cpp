@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <random>
 
 #include "model/reasons_places.h"
@@ -213,7 +214,7 @@ TEST(AwardsPacket, IsTheReportsOnPagesOfTheirOwn) {
     expected.erase(expected.size() - page.size());
     EXPECT_EQ(awardsPacket(contest), expected);
     contest.categories[0] = "Beef: <All>/\\";
-    EXPECT_EQ(categoryReports(contest)[1].name, "Category 1 - Beef- -All--- - Teams");
+    EXPECT_EQ(categoryFiles(contest)[1].name, "Category 1 - Beef- -All--- - Teams");
   }
 }
 

@@ -58,6 +58,20 @@ class MemoryFiles : public FileSystem {
     return isTorn;
   }
 
+  /// The same where files may have been written over: of what was not flushed the disk holds what
+  /// comes before a byte. False when no file has that byte.
+  bool tearAt(std::size_t byte) {
+    bool isTorn = byte == 0;
+    for (auto& [path, file] : files) {
+      if (file.content == file.onMedium) continue;
+      isTorn = isTorn || byte <= std::max(file.content.size(), file.onMedium.size());
+      file.content.resize(std::min(file.content.size(), byte));
+      if (byte < file.onMedium.size()) file.content += file.onMedium.substr(byte);
+    }
+    cutAtCall = 0;
+    return isTorn;
+  }
+
   std::unique_ptr<InputFile> openToRead(const std::string& path) override {
     if (fails() || !files.contains(path)) return nullptr;
     return std::make_unique<Input>(*this, files[path].content);

@@ -3,6 +3,7 @@
 #include "text/characters.h"
 #include "text/number.h"
 #include "text/report_marks.h"
+#include "text/unicode.h"
 
 namespace scorvane {
 
@@ -27,8 +28,34 @@ TEST(Text, DigitsOnlyFieldsHoldANumberOrNothing) {
   EXPECT_EQ(unsignedNumber("-1"), std::nullopt);
 }
 
+TEST(Text, NamesPassBetweenTheirEncodings) {
+  // A letter of each length, the last of the pairs, and surrogates without a partner.
+  for (const std::u16string_view name :
+       {u"", u"aé\u07FFΩ\uFFFF", u"\U00010000\U0010FFFF", u"\xDC00\xD800", u"\xD800z"}) {
+    EXPECT_EQ(utf16Of(utf8Of(name)), name);
+  }
+  EXPECT_EQ(utf8Of(u"aéΩ\U0001F404"), "aéΩ🐄");
+  EXPECT_EQ(utf8Of(u"\xDC00"), "\xED\xB0\x80");
+  for (const char* malformed :
+       {"\x80", "\xC3", "\xC3z", "\xC0\xAF", "\xE0\x80\xAF", "\xF0\x80\x80\xAF", "\xE2\x82",
+        "\xE9t", "\xED\xA0\x80\xED\xB0\x80", "\xF4\x90\x80\x80", "\xF8\x88\x80\x80\x80", "\xFF"}) {
+    EXPECT_EQ(utf16Of(malformed), std::nullopt) << malformed;
+  }
+}
+
+TEST(Text, NamesAreShownInTheCodePageAndCountedInCharacters) {
+  EXPECT_EQ(windows1252Of("A é€Ÿ\u00A0ÿ"), "A \xE9\x80\x9F\xA0\xFF");
+  EXPECT_EQ(windows1252Of("Ω🐄e\u0301\u0081Ｏ"), "??e???");
+  EXPECT_EQ(windows1252Of("caf\xE9"), "caf?");
+  EXPECT_EQ(countCharacters("aΩ🐄\xED\xA0\x80"), 4U);
+  EXPECT_EQ(countCharacters("caf\xE9"), 4U);
+  EXPECT_EQ(cutBetweenCharacters("aΩ🐄z", 6), "aΩ");
+  EXPECT_EQ(cutBetweenCharacters("aΩ🐄z", 7), "aΩ🐄");
+  EXPECT_EQ(cutBetweenCharacters("aΩ", 9), "aΩ");
+}
+
 TEST(Text, AReportEndsOnceItIsBeyondAllUse) {
-  std::string report(128U << 20U, 'x');
+  std::string report(96U << 20U, 'x');
   EXPECT_FALSE(closeIfTooLong(report));
   report += "x";
   EXPECT_TRUE(closeIfTooLong(report));

@@ -151,15 +151,14 @@ class App:
         self.desktop = desktop
         self.driver = subprocess.Popen(
             ["wine", str(BUILD / "desktop_driver.exe")], env=desktop.environment,
-            stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
-            encoding="latin-1")
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
         self.tell(*command)
 
     def tell(self, *fields):
         """Sends the driver one command; returns the answer's fields."""
-        self.driver.stdin.write("\t".join(escape(str(f)) for f in fields) + "\n")
+        self.driver.stdin.write(("\t".join(escape(str(f)) for f in fields) + "\n").encode("utf-8"))
         self.driver.stdin.flush()
-        answer = self.driver.stdout.readline().rstrip("\r\n")
+        answer = self.driver.stdout.readline().decode("latin-1").rstrip("\r\n")
         kind, *values = answer.split("\t")
         if kind != "ok":
             raise DesktopError(f"{fields}: {values or 'the driver is gone'}")

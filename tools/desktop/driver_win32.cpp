@@ -111,6 +111,15 @@ std::string narrow(const std::wstring& wide) {
   return text;
 }
 
+// What is sent to the driver is UTF-8.
+std::wstring wide(const std::string& text) {
+  const int length = static_cast<int>(text.size());
+  std::wstring result(text.size(), L'\0');
+  const int got = MultiByteToWideChar(CP_UTF8, 0, text.data(), length, result.data(), length);
+  result.resize(static_cast<std::size_t>(got));
+  return result;
+}
+
 std::string textOf(HWND window) {
   const LRESULT length = send(window, WM_GETTEXTLENGTH, 0, 0);
   std::string text(static_cast<std::size_t>(length) + 1, '\0');
@@ -137,11 +146,11 @@ Fields watch(HANDLE process) {
 }
 
 Fields start(const Fields& f) {
-  std::string commandLine = f.at(1);
-  STARTUPINFOA startup{};
+  std::wstring commandLine = wide(f.at(1));
+  STARTUPINFOW startup{};
   startup.cb = sizeof startup;
   PROCESS_INFORMATION process{};
-  if (CreateProcessA(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+  if (CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                      &startup, &process) == 0) {
     throw Failure{"cannot start, error " + std::to_string(GetLastError())};
   }
@@ -151,12 +160,13 @@ Fields start(const Fields& f) {
 
 // Opens a document by its type.
 Fields open(const Fields& f) {
-  SHELLEXECUTEINFOA request{};
+  const std::wstring path = wide(f.at(1));
+  SHELLEXECUTEINFOW request{};
   request.cbSize = sizeof request;
   request.fMask = SEE_MASK_NOCLOSEPROCESS | SEE_MASK_FLAG_NO_UI;
-  request.lpFile = f.at(1).c_str();
+  request.lpFile = path.c_str();
   request.nShow = SW_SHOWNORMAL;
-  if (ShellExecuteExA(&request) == FALSE || request.hProcess == nullptr) {
+  if (ShellExecuteExW(&request) == FALSE || request.hProcess == nullptr) {
     throw Failure{"cannot open, error " + std::to_string(GetLastError())};
   }
   return watch(request.hProcess);
@@ -166,10 +176,10 @@ Fields open(const Fields& f) {
 // desktop puts it, too.
 Fields drop(const Fields& f) {
   HWND window = toWindow(f.at(1));
-  const std::string& path = f.at(2);
-  const DROPFILES head{sizeof(DROPFILES), {10, 10}, FALSE, FALSE};
+  const std::wstring path = wide(f.at(2)) + std::wstring(2, L'\0');
+  const DROPFILES head{sizeof(DROPFILES), {10, 10}, FALSE, TRUE};
   std::string content(reinterpret_cast<const char*>(&head), sizeof head);
-  content += path + std::string(2, '\0');
+  content.append(reinterpret_cast<const char*>(path.data()), path.size() * sizeof(wchar_t));
   void* memory = VirtualAllocEx(watchedHandle, nullptr, content.size(), MEM_COMMIT, PAGE_READWRITE);
   if (WriteProcessMemory(watchedHandle, memory, content.data(), content.size(), nullptr) == 0) {
     throw Failure{"cannot hand over the dropped file"};
@@ -303,7 +313,7 @@ Fields text(const Fields& f) {
 }
 
 Fields setText(const Fields& f) {
-  send(toControl(f), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(f.at(3).c_str()));
+  sendWide(toControl(f), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(wide(f.at(3)).c_str()));
   return {};
 }
 
@@ -425,8 +435,8 @@ Fields hold(const Fields& f) {
   if (file != INVALID_HANDLE_VALUE) CloseHandle(file);
   file = INVALID_HANDLE_VALUE;
   if (f.at(1).empty()) return {};
-  file =
-      CreateFileA(f[1].c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+  file = CreateFileW(wide(f[1]).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0,
+                     nullptr);
   if (file == INVALID_HANDLE_VALUE) throw Failure{"cannot hold " + f[1]};
   return {};
 }

@@ -1,0 +1,135 @@
+#include "text/unicode.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace scorvane {
+
+namespace {
+
+constexpr char32_t kSurrogates = 0xD800;
+constexpr char32_t kLowSurrogates = 0xDC00;
+constexpr char32_t kAfterSurrogates = 0xE000;
+constexpr char32_t kFirstPair = 0x10000;
+constexpr char32_t kLastPair = 0x10FFFF;
+
+constexpr bool isHigh(char32_t unit) {
+  return unit >= kSurrogates && unit < kLowSurrogates;
+}
+constexpr bool isLow(char32_t unit) {
+  return unit >= kLowSurrogates && unit < kAfterSurrogates;
+}
+
+constexpr char byteOf(char32_t value) {
+  return static_cast<char>(static_cast<unsigned char>(value));
+}
+
+void appendUtf8(std::string& out, char32_t c) {
+  constexpr char32_t kSixBits = 0x3F;
+  if (c < 0x80) {
+    out += byteOf(c);
+    return;
+  }
+  if (c < 0x800) {
+    out += byteOf(0xC0 | (c >> 6));
+  } else {
+    if (c < kFirstPair) {
+      out += byteOf(0xE0 | (c >> 12));
+    } else {
+      out += byteOf(0xF0 | (c >> 18));
+      out += byteOf(0x80 | ((c >> 12) & kSixBits));
+    }
+    out += byteOf(0x80 | ((c >> 6) & kSixBits));
+  }
+  out += byteOf(0x80 | (c & kSixBits));
+}
+
+// Bytes 0x80 to 0x9F of code page 1252; 0 where it has none. All above are as in Unicode.
+constexpr std::array<char16_t, 32> kWindows1252 = {
+    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+constexpr char32_t kFirstOwn = 0x80;
+constexpr char32_t kFirstLatin = 0xA0;
+
+char in1252(char16_t unit) {
+  if (unit < kFirstOwn || (unit >= kFirstLatin && unit <= 0xFF)) return byteOf(unit);
+  const auto* const own = std::find(kWindows1252.begin(), kWindows1252.end(), unit);
+  if (own == kWindows1252.end()) return '?';
+  return byteOf(kFirstOwn + static_cast<char32_t>(own - kWindows1252.begin()));
+}
+
+}  // namespace
+
+std::optional<std::u16string> utf16Of(std::string_view utf8) {
+  std::u16string utf16;
+  for (std::size_t i = 0; i < utf8.size();) {
+    const auto lead = static_cast<unsigned char>(utf8[i]);
+    const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+    if (i + length > utf8.size()) return std::nullopt;
+    char32_t c = length == 1 ? lead : lead & (0x7FU >> length);
+    for (std::size_t k = i + 1; k < i + length; ++k) {
+      c = (c << 6) | (static_cast<unsigned char>(utf8[k]) & 0x3FU);
+    }
+    i += length;
+    if (c > kLastPair) return std::nullopt;
+    if (c >= kFirstPair) {
+      utf16 += static_cast<char16_t>(kSurrogates + ((c - kFirstPair) >> 10));
+      c = kLowSurrogates + ((c - kFirstPair) & 0x3FF);
+    }
+    utf16 += static_cast<char16_t>(c);
+  }
+  // What was malformed or an overlong form of something else is not what it would be written as.
+  if (utf8Of(utf16) != utf8) return std::nullopt;
+  return utf16;
+}
+
+std::string utf8Of(std::u16string_view utf16) {
+  std::string utf8;
+  for (std::size_t i = 0; i < utf16.size(); ++i) {
+    char32_t c = utf16[i];
+    if (isHigh(c) && i + 1 < utf16.size() && isLow(utf16[i + 1])) {
+      c = kFirstPair + ((c - kSurrogates) << 10) + (utf16[++i] - kLowSurrogates);
+    }
+    appendUtf8(utf8, c);
+  }
+  return utf8;
+}
+
+std::size_t countCharacters(std::string_view utf8) {
+  const auto utf16 = utf16Of(utf8);
+  if (!utf16) return utf8.size();
+  std::size_t count = utf16->size();
+  for (std::size_t i = 1; i < utf16->size(); ++i) {
+    if (isHigh((*utf16)[i - 1]) && isLow((*utf16)[i])) --count;
+  }
+  return count;
+}
+
+std::string_view cutBetweenCharacters(std::string_view utf8, std::size_t most) {
+  if (utf8.size() <= most) return utf8;
+  const auto isInside = [utf8](std::size_t i) {
+    return (static_cast<unsigned char>(utf8[i]) & 0xC0U) == 0x80;
+  };
+  std::size_t end = most;
+  while (end > 0 && isInside(end)) --end;
+  return utf8.substr(0, end);
+}
+
+std::string windows1252Of(std::string_view utf8) {
+  std::string text;
+  const auto utf16 = utf16Of(utf8);
+  if (!utf16) {
+    for (const char c : utf8) text += static_cast<unsigned char>(c) < kFirstOwn ? c : '?';
+    return text;
+  }
+  for (std::size_t i = 0; i < utf16->size(); ++i) {
+    const char16_t unit = (*utf16)[i];
+    if (i > 0 && isHigh((*utf16)[i - 1]) && isLow(unit)) continue;  // one "?" for a pair
+    text += in1252(unit);
+  }
+  return text;
+}
+
+}  // namespace scorvane
