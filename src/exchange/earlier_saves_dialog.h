@@ -20,8 +20,7 @@ struct ComparedSave {
 
 /// Lists the earlier saves of the open contest, or without a file what was left of contests that
 /// had none. Go Back puts one of them into the open contest and saves it, after keeping what the
-/// contest was. Ends with IDC_SHOW_DIFFERENCES, IDC_CHANGES_SINCE,
-/// IDC_GO_BACK, or kCancelId.
+/// contest was. Ends with IDC_SHOW_DIFFERENCES, IDC_CHANGES_SINCE, IDC_GO_BACK, or kCancelId.
 class EarlierSavesDialog : public DialogBehaviour {
  public:
   /// The saves are the newest first.

@@ -248,7 +248,7 @@ class ContestCheck {
                        [this](const MemberRow& member) { return hasCome(member.number); });
   }
 
-  // Of the rows of everybody the first `listed` ones are in the report.
+  // Of the rows of everybody the first `inReport` ones are in the report.
   template <typename Row, typename Text>
   void addTies(const std::vector<Row>& rows, std::size_t inReport, const char* list, Text text) {
     for (std::size_t i = 0; i < inReport && i + 1 < rows.size(); ++i) {
