@@ -16,7 +16,9 @@
 #include "reports/round_reports.h"
 #include "reports/verification_reports.h"
 #include "results/announcers_list.h"
+#include "results/awards_packet.h"
 #include "results/class_analysis_report.h"
+#include "results/contest_check.h"
 #include "results/high_reports.h"
 #include "results/rankings.h"
 #include "results/score_cards_report.h"
@@ -162,9 +164,12 @@ constexpr std::array kCommands = {
     Command{33002, "Tools", "Publish Results ...", runPublishResults},
     Command{33003, "Tools", "Export Scores To Spreadsheet ...", runExportScores},
     Command{33013, "Tools", "Announcer's List", Report{plain<announcersList>}},
+    Command{33016, "Tools", "Awards Packet", Report{plain<awardsPacket>}},
     Command{33011, "Tools", "Score Cards By Team", Report{plain<scoreCardsReport>}},
     Command{33012, "Tools", "Class Analysis", Report{plain<classAnalysisReport>}},
     Command{33014, "Tools", "Entry Progress", Report{plain<entryProgressReport>}},
+    Command{33015, "Tools", "Contest Check",
+            Report{plain<contestCheckReport>, nullptr, tellsOfThings}},
     Command{33024, "Tools", "Move Or Clear Cards ...", runMoveCards},
     Command{33021, "Tools", "Compare With Another File ...", Report{comparison, askOtherContest}},
     Command{33022, "Tools", "Bring In Scores ...", runBringInScores},

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "app/main_window.h"
 #include "model/contest.h"
@@ -18,6 +19,8 @@ struct Report {
   /// Runs the report's dialog; returns nothing when it is cancelled. Null for a report that asks
   /// nothing.
   std::optional<ReportRequest> (*ask)(MainWindow& window) = nullptr;
+  /// Whether a built text tells of something to look at. Null for a report that does not judge.
+  bool (*warns)(std::string_view text) = nullptr;
 };
 
 // What reports ask.

@@ -14,6 +14,7 @@
 #include "reports/differences_report.h"
 #include "reports/listing_reports.h"
 #include "reports/merge_report.h"
+#include "results/awards_packet.h"
 #include "session/contest_file.h"
 #include "session/open_contest.h"
 #include "session/recovery.h"
@@ -51,7 +52,12 @@ void runEarlierSaves(MainWindow& window) {
   }
   EarlierSavesDialog dialog(std::move(saves));
   const int result = window.runDialog(IDD_EARLIER_SAVES, dialog);
-  if (const auto& save = dialog.compared()) {
+  const auto& save = dialog.compared();
+  if (save && result == IDC_CHANGES_SINCE) {
+    showReport(window, differencesReport(currentContest(), save->contest,
+                                         {"Changes since " + save->name, "Now", "Then"}) +
+                           "\n" + changedLists(currentContest(), save->contest));
+  } else if (save) {
     showReport(window,
                differencesReport(currentContest(), save->contest,
                                  {"Differences between now and " + save->name, "Now", "Then"}));

@@ -36,7 +36,9 @@ constexpr const char* kPurpose =
     "one after the other.";
 constexpr const char* kExitStatus =
     "Exit status: 0 done; 1 the contest cannot be read, or lacks what the report needs, or the\n"
-    "report cannot be written; 2 wrong usage.";
+    "report cannot be written; 2 wrong usage; 4 Contest Check, asked for alone, found things to "
+    "look\n"
+    "at.";
 
 bool sameWord(const std::string& a, std::string_view b) {
   return CLI::detail::to_lower(a) == CLI::detail::to_lower(std::string(b));
@@ -87,7 +89,9 @@ void declare(CLI::App& app, CliOptions& o, Words& words) {
   app.add_flag("--list", words.list, "prints number and caption of every report, one a line");
   app.add_option("CONTEST.scv", o.contest, "the contest file")->type_name("");
   app.add_option("REPORT", words.reports, "number or caption of a report command")->type_name("");
-  app.add_option("--all", o.folder, "writes every report that asks nothing into DIR, with CR LF")
+  app.add_option(
+         "--all", o.folder,
+         "writes every report that asks nothing, and those of the categories, into DIR, with CR LF")
       ->type_name("DIR");
 
   app.add_option("--publish", o.page, "writes the results as a web page: FILE.html")

@@ -19,6 +19,7 @@ inline constexpr const char* kContestProgram = "scorvane-contest";
 
 inline constexpr int kFailed = 1;
 inline constexpr int kWrongUsage = 2;
+inline constexpr int kThingsToLookAt = 4;
 
 /// A line for standard error. What it quotes of files and names can neither end it nor command a
 /// terminal.

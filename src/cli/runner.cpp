@@ -9,6 +9,8 @@
 #include "cli/contest_input.h"
 #include "cli/system.h"
 #include "exchange/exports.h"
+#include "results/awards_packet.h"
+#include "results/high_reports.h"
 #include "storage/safe_save.h"
 #include "text/characters.h"
 
@@ -98,6 +100,9 @@ CliResult printReports(const Contest& contest, const CliOptions& options, FileSy
       result.output += report;
     }
   }
+  if (options.commands.size() != 1) return result;
+  const auto warns = options.commands.front()->report()->warns;
+  if (warns != nullptr && warns(result.output)) result.status = kThingsToLookAt;
   return result;
 }
 
@@ -107,11 +112,11 @@ std::string fileNameOf(const Command& command) {
   return name + ".txt";
 }
 
-// A report that asks nothing needs nothing. Returns why it is not there.
-std::optional<std::string> writeReport(const Report& report, const Contest& contest,
-                                       const std::string& path, FileSystem& files) {
+// Writes what build() returns into a file. Returns why it is not there.
+template <typename Build>
+std::optional<std::string> writeReport(Build build, const std::string& path, FileSystem& files) {
   try {
-    const std::string text = withWindowsLineEnds(report.build(contest, {}).value());
+    const std::string text = withWindowsLineEnds(build());
     if (saveSafely(files, path, text)) return std::nullopt;
     return "cannot write '" + contestText(path) + "'";
   } catch (const std::exception& error) {
@@ -121,15 +126,23 @@ std::optional<std::string> writeReport(const Report& report, const Contest& cont
 
 CliResult writeAllReports(const Contest& contest, const std::string& folder, FileSystem& files) {
   CliResult result;
+  const auto note = [&result](const std::optional<std::string>& why) {
+    if (!why) return;
+    result.status = kFailed;
+    result.error += remark(kReportProgram, *why);
+  };
   // Should that fail, each report says so.
   static_cast<void>(files.makeFolders(folder));
   for (const Command& command : commandTable()) {
     const Report* report = command.report();
     if (report == nullptr || report->ask != nullptr) continue;
-    const auto why = writeReport(*report, contest, folder + "/" + fileNameOf(command), files);
-    if (!why) continue;
-    result.status = kFailed;
-    result.error += remark(kReportProgram, *why);
+    // A report that asks nothing needs nothing.
+    note(writeReport([&] { return report->build(contest, {}).value(); },
+                     folder + "/" + fileNameOf(command), files));
+  }
+  for (const CategoryFile& file : categoryFiles(contest)) {
+    note(writeReport([&] { return customReport(contest, file.request); },
+                     folder + "/" + file.name + ".txt", files));
   }
   return result;
 }

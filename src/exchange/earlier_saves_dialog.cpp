@@ -127,7 +127,7 @@ void EarlierSavesDialog::onClicked(Dialog& dialog, ControlId id, const EarlierSa
   auto contest = contestOf(save);
   if (!contest) {
     dialog.show("This earlier save cannot be read any more.", "Error");
-  } else if (id == IDC_SHOW_DIFFERENCES) {
+  } else if (id == IDC_SHOW_DIFFERENCES || id == IDC_CHANGES_SINCE) {
     compared_ = {std::move(*contest), nameOf(save)};
     dialog.end(id);
   } else if (id == IDC_GO_BACK) {

@@ -20,7 +20,7 @@ struct ComparedSave {
 
 /// Lists the earlier saves of the open contest, or without a file what was left of contests that
 /// had none. Go Back puts one of them into the open contest and saves it, after keeping what the
-/// contest was. Ends with IDC_SHOW_DIFFERENCES, IDC_GO_BACK, or kCancelId.
+/// contest was. Ends with IDC_SHOW_DIFFERENCES, IDC_CHANGES_SINCE, IDC_GO_BACK, or kCancelId.
 class EarlierSavesDialog : public DialogBehaviour {
  public:
   /// The saves are the newest first.
@@ -30,7 +30,7 @@ class EarlierSavesDialog : public DialogBehaviour {
   void onEvent(Dialog& dialog, ControlId id, ControlEvent event) override;
   void onClose(Dialog& dialog) override;
 
-  /// What Show Differences was pressed for.
+  /// What Show Differences or Changes Since was pressed for.
   [[nodiscard]] const std::optional<ComparedSave>& compared() const { return compared_; }
 
  private:

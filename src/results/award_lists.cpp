@@ -1,8 +1,10 @@
 #include "results/award_lists.h"
 
 #include <array>
+#include <utility>
 
 #include "model/class_lists.h"
+#include "results/high_reports.h"
 #include "text/format.h"
 
 namespace scorvane {
@@ -28,6 +30,23 @@ ReportRequest categoryRequest(const Contest& contest, std::size_t category,
   request.percent = contest.settings.reportPercent;
   request.title = categoryName(contest, static_cast<std::int32_t>(category));
   return request;
+}
+
+std::vector<ReportRequest> categoryRequests(const Contest& contest) {
+  std::vector<ReportRequest> requests;
+  const auto count = static_cast<std::size_t>(contest.classes.count());
+  auto categories = classesByCategory(contest);
+  for (std::size_t category = 0; category < categories.size(); ++category) {
+    const std::size_t size = categories[category].size();
+    // A category of all classes would have the overall awards once more.
+    if (size == 0 || size == count) continue;
+    requests.push_back(categoryRequest(contest, category, std::move(categories[category])));
+  }
+  return requests;
+}
+
+bool takesTooLong(const Contest& contest, std::size_t lists) {
+  return lists > 4 && lists > kMostVisits / visitsPerList(contest);
 }
 
 // By an ordering and its values that break ties. The values of the questions ranking are those of
@@ -67,15 +86,7 @@ std::string inWords(ScoreKind kind, TieOrder order, int place, const TieOutcome&
 }  // namespace
 
 std::optional<std::vector<ReportRequest>> awardRequests(const Contest& contest) {
-  std::vector<ReportRequest> requests;
-  const auto count = static_cast<std::size_t>(contest.classes.count());
-  auto categories = classesByCategory(contest);
-  for (std::size_t category = 0; category < categories.size(); ++category) {
-    const std::size_t size = categories[category].size();
-    // A category of all classes would have the overall awards once more.
-    if (size == 0 || size == count) continue;
-    requests.push_back(categoryRequest(contest, category, std::move(categories[category])));
-  }
+  std::vector<ReportRequest> requests = categoryRequests(contest);
   if (!reasonsClasses(contest.classes).empty()) {
     requests.push_back(wholeContestRequest(contest, ScoreKind::reasons));
   }
@@ -83,10 +94,33 @@ std::optional<std::vector<ReportRequest>> awardRequests(const Contest& contest) 
     requests.push_back(wholeContestRequest(contest, ScoreKind::questions));
   }
   requests.push_back(wholeContestRequest(contest, ScoreKind::overall));
-  if (requests.size() > 4 && requests.size() > kMostVisits / visitsPerList(contest)) {
-    return std::nullopt;
-  }
+  if (takesTooLong(contest, requests.size())) return std::nullopt;
   return requests;
+}
+
+std::optional<std::vector<ReportRequest>> printedLists(const Contest& contest) {
+  std::vector<ReportRequest> categories = categoryRequests(contest);
+  if (takesTooLong(contest, categories.size())) return std::nullopt;
+  std::vector<ReportRequest> lists;
+  for (const bool team : {false, true}) {
+    for (const ScoreKind kind : kScoreKinds) {
+      if (kind == ScoreKind::reasons && reasonsClasses(contest.classes).empty()) continue;
+      if (kind == ScoreKind::questions && questionsClasses(contest.classes).empty()) continue;
+      lists.push_back(wholeContestRequest(contest, kind));
+      lists.back().team = team;
+    }
+  }
+  for (ReportRequest& request : categories) {
+    lists.push_back(customRequest(std::move(request)));
+    lists.push_back(lists.back());
+    lists.back().team = true;
+  }
+  return lists;
+}
+
+std::string listName(const ReportRequest& request) {
+  return formatText("High %s %.40s", request.team ? "Team" : "Individual",
+                    awardName(request).c_str());
 }
 
 const std::string& awardName(const ReportRequest& request) {

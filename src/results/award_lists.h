@@ -17,6 +17,14 @@ namespace scorvane {
 /// asks for.
 [[nodiscard]] std::optional<std::vector<ReportRequest>> awardRequests(const Contest& contest);
 
+/// The lists that are printed for the stage, in the order of the menu: the High reports, of reasons
+/// and questions where classes have them, then of each category that awardRequests() has the
+/// individuals and the teams, as the Custom/Category Report asks for them. Nothing when
+/// awardRequests() returns nothing.
+[[nodiscard]] std::optional<std::vector<ReportRequest>> printedLists(const Contest& contest);
+/// "High Individual Overall", "High Team Beef", the category's name cut to 40 bytes.
+[[nodiscard]] std::string listName(const ReportRequest& request);
+
 /// What an award is for: the category's name, "Reasons", "Questions" or "Overall".
 [[nodiscard]] const std::string& awardName(const ReportRequest& request);
 

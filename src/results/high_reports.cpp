@@ -1,5 +1,7 @@
 #include "results/high_reports.h"
 
+#include <utility>
+
 #include "results/rankings.h"
 #include "text/format.h"
 #include "text/report_marks.h"
@@ -35,7 +37,7 @@ void appendTeamHeading(std::string& out, const Contest& contest, const ReportReq
 }
 
 // The team's own line, which also names the member in its first slot.
-void appendTeam(std::string& out, const TeamRow& row) {
+void appendTeamLine(std::string& out, const TeamRow& row) {
   const bool isNamed = !row.members.empty() && !row.members[0].name->empty();
   const std::string ownScore = isNamed ? formatText("(%4d)", row.members[0].score) : "      ";
   appendFormat(out, "  %-3d  %-21.21s  %-25.25s %s", row.place, row.name->c_str(),
@@ -62,6 +64,21 @@ void appendOtherMembersAndCoach(std::string& out, const TeamRow& row) {
                row.coach->c_str(), "", "");
 }
 
+void appendTeam(std::string& out, const TeamRow& row) {
+  appendTeamLine(out, row);
+  appendOtherMembersAndCoach(out, row);
+}
+
+// A heading and a part for each row.
+template <typename Row, typename Append>
+std::vector<std::string> partsOf(std::string heading, const std::vector<Row>& rows, Append append) {
+  std::vector<std::string> parts;
+  parts.reserve(rows.size() + 1);
+  parts.push_back(std::move(heading));
+  for (const Row& row : rows) append(parts.emplace_back(), row);
+  return parts;
+}
+
 }  // namespace
 
 std::string highIndividualReport(const Contest& contest, const ReportRequest& request) {
@@ -76,15 +93,29 @@ std::string highTeamReport(const Contest& contest, const ReportRequest& request)
   appendTeamHeading(out, contest, request);
   for (const TeamRow& row : teamRows(contest, request)) {
     appendTeam(out, row);
-    appendOtherMembersAndCoach(out, row);
     if (closeIfTooLong(out)) break;
   }
   return out;
 }
 
-std::string customReport(const Contest& contest, ReportRequest request) {
+std::vector<std::string> highReportParts(const Contest& contest, const ReportRequest& request) {
+  std::string heading;
+  if (request.team) {
+    appendTeamHeading(heading, contest, request);
+    return partsOf(std::move(heading), teamRows(contest, request), appendTeam);
+  }
+  appendIndividualHeading(heading, request);
+  return partsOf(std::move(heading), individualRows(contest, request), appendIndividual);
+}
+
+ReportRequest customRequest(ReportRequest request) {
   if (request.classes.size() > kMostCustomClasses) request.classes.resize(kMostCustomClasses);
   if (request.title.size() > kLongestCustomTitle) request.title.resize(kLongestCustomTitle);
+  return request;
+}
+
+std::string customReport(const Contest& contest, ReportRequest request) {
+  request = customRequest(std::move(request));
   return request.team ? highTeamReport(contest, request) : highIndividualReport(contest, request);
 }
 

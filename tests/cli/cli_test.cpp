@@ -60,6 +60,8 @@ TEST(Cli, AnswersAsApproved) {
         "--title|-x-|fair.scv|--classes=3,1|32800|--kind|placings|--number=0|--team",
         "fair.scv|32800|--number|50|--percent|--kind=Reasons|--title=",
         "fair.scv|32800|--number=50%|--kind|QUESTIONS|--classes|2",
+        // Things to look at are told by the status of Contest Check alone.
+        "fair.scv|33015", "fair.scv|33015|33015",
         // A category proposes its name and classes.
         "fair.scv|32800|--category|Swine",
         "fair.scv|32800|--classes|3,2,3|--title|Swine|--number|4",
@@ -108,7 +110,8 @@ TEST(Cli, WritesEveryReportThatAsksNothing) {
     const std::string& text = disk.files["out/" + std::string(command.caption) + ".txt"].content;
     EXPECT_NE(text.find("\r\n"), std::string::npos) << command.caption;
   }
-  EXPECT_EQ(disk.files.size(), before + reports);
+  EXPECT_TRUE(disk.files.contains("out/Category 2 - Swine - Teams.txt"));
+  EXPECT_EQ(disk.files.size(), before + reports + 4);
   disk.stayBroken = true;
   disk.failingCall = disk.calls + 3;
   EXPECT_EQ(run("fair.scv|--all|out", disk).status, kFailed);

@@ -84,9 +84,9 @@ TEST(Import, WritesAllOrNothing) {
 // What somebody else saved meanwhile is not written over.
 TEST(Import, RespectsWhatOthersSaved) {
   struct SharedFiles : ImportFiles {
-    std::shared_ptr<void> lockForSaving(const std::string& path) override {
+    Claim lockForSaving(const std::string& path) override {
       files[path].content = "saved meanwhile";
-      return nullptr;
+      return {FileOutcome::done, nullptr};
     }
   } disk;
   const CliResult result = run("import|there.csv|fair.scv|--into|out.scv", disk);

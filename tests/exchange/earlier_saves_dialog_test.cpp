@@ -226,6 +226,12 @@ TEST(EarlierSaves, AreComparedWithTheOpenContestOnScreen) {
   runEarlierSaves(window);
   window.log += reportText();
   window.operate = [](MemoryDialog& dialog) {
+    dialog.choose(IDC_SAVE_TIMES, 4);
+    dialog.click(IDC_CHANGES_SINCE);
+  };
+  runEarlierSaves(window);
+  window.log += reportText();
+  window.operate = [](MemoryDialog& dialog) {
     dialog.desktop.answers = {Answer::ok};
     dialog.click(IDC_GO_BACK);
   };

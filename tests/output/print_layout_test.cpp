@@ -74,9 +74,8 @@ TEST(PrintLayout, TurnsReportsIntoPagesWithHeaderAndFooter) {
   const std::size_t second = all.find("== ", 1);
   static const std::regex header(R"(1\|County ~\tFair         March 7, 2026\n2\|Senior - Printed )"
                                  R"(Sat Mar  7 09:05:02 2026\n3\|\n)");
-  static const std::regex footer(
-      R"((-?\d+)\| \n-?\d+\| \n(-?\d+)\| \n\2\|        Tabulated by )"
-      R"(Scorvane       -Page (\d+) -       visit Scorvane\n<)");
+  static const std::regex footer(R"((-?\d+)\| \n-?\d+\| \n(-?\d+)\| \n\2\|        Tabulated by )"
+                                 R"(Scorvane       -Page (\d+) -       visit Scorvane\n<)");
   std::string shortened = std::regex_replace(all.substr(second), header, "(header)\n");
   shortened = std::regex_replace(shortened, footer, "(footer of page $3 from row $1 to $2)");
   expectApproved(all.substr(0, second) + shortened, "output/pages.txt");
