@@ -4,6 +4,7 @@
 
 #include "cli/program.h"
 #include "cli/system.h"
+#include "text/format.h"
 
 namespace scorvane {
 
@@ -29,7 +30,7 @@ std::variant<LoadedContest, std::string> openContest(const std::string& path, Fi
   if (const auto file = files.openToRead(path)) {
     expectMemory(3 * static_cast<std::size_t>(file->size()));  // the bytes, and the contest of them
   }
-  const std::string shown = "'" + contestText(path) + "'";
+  const std::string shown = formatText("'%s'", contestText(path).c_str());
   auto loading = loadContestFile(files, path);
   auto* loaded = std::get_if<LoadedContest>(&loading);
   if (loaded == nullptr) {
