@@ -7,6 +7,7 @@
 #include "session/data_folder.h"
 #include "session/open_contest.h"
 #include "storage/safe_save.h"
+#include "text/unicode.h"
 
 namespace scorvane {
 
@@ -31,13 +32,14 @@ bool writeTo(Window& owner, FileSystem& files, const std::string& path, const st
     return false;
   }
   if (!exportFile(files, path, currentFileName(), bytes)) {
-    owner.show(std::string(what) + " could NOT be written to this file:\r\n" + path +
+    owner.show(std::string(what) + " could NOT be written to this file:\r\n" + shownPath(path) +
                    "\r\nPerhaps another program has it open, or the disk is full.  Choose another "
                    "name or location.",
                "File Save Error");
     return false;
   }
-  owner.show(std::string(what) + " were written to this file:\r\n" + path, "Information");
+  owner.show(std::string(what) + " were written to this file:\r\n" + shownPath(path),
+             "Information");
   return true;
 }
 
@@ -46,6 +48,7 @@ FileQuestion saveQuestion(std::vector<FileFilter> filters, const char* extension
   question.purpose = FileQuestion::Purpose::save;
   question.filters = std::move(filters);
   question.defaultExtension = extension;
+  question.folder = contestFolder();
   return question;
 }
 

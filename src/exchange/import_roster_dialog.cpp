@@ -72,6 +72,7 @@ void ImportRosterDialog::openFile(Dialog& dialog) {
   FileQuestion question;
   question.filters = {{"Sheets", "*.csv;*.tsv;*.txt"}, {"All", "*.*"}};
   question.fileMustExist = true;
+  question.folder = contestFolder();
   const auto path = dialog.chooseFile(question);
   if (!path) return;
   const auto bytes = sessionFiles().readWhole(*path, kMostSheetBytes);

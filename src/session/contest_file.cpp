@@ -149,6 +149,7 @@ FileQuestion contestFileQuestion(FileQuestion::Purpose purpose) {
   question.filters = {{"Scorvane", "*.scv"}, {"All", "*.*"}};
   question.defaultExtension = "scv";
   question.fileMustExist = purpose == FileQuestion::Purpose::open;
+  question.folder = contestFolder();
   return question;
 }
 
@@ -200,9 +201,10 @@ void saveCurrent(Window& owner) {
 }
 
 void saveContestAs(Window& owner) {
+  const FileQuestion question = contestFileQuestion(FileQuestion::Purpose::save);
   // Odd but required, docs/required-behaviour.md: save-as-forgets-the-name
   currentFileName().clear();
-  auto path = owner.chooseFile(contestFileQuestion(FileQuestion::Purpose::save));
+  auto path = owner.chooseFile(question);
   if (!path) return contestWasNotSaved(NotSaved::cancelled);
   if (countCharacters(*path) > kMaxPathLength) return sayNotSaved(owner);
   currentFileName() = std::move(*path);

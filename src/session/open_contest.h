@@ -14,6 +14,9 @@ namespace scorvane {
 /// characters; empty while the contest is untitled.
 [[nodiscard]] std::string& currentFileName();
 
+/// The folder of the current file, where file dialogs begin; empty while the contest is untitled.
+[[nodiscard]] std::string contestFolder();
+
 /// The report that is shown, printed, copied and saved: 8-bit text, lines ended by LF; may contain
 /// tabs. The welcome text at start.
 [[nodiscard]] std::string& reportText();

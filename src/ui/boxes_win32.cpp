@@ -87,7 +87,8 @@ Answer askOver(NativeWindow owner, const Message& message) {
 
 std::optional<std::string> chooseFileOver(NativeWindow owner, const FileQuestion& question) {
   const std::wstring filters = filterList(question.filters);
-  const std::wstring documents = documentsFolder();
+  const std::wstring folder =
+      question.folder.empty() ? documentsFolder() : wordsOf(question.folder);
   const std::wstring extension = wordsOf(question.defaultExtension);
   std::array<wchar_t, 2 * kMaxPathLength + 1> path{};  // characters may be pairs of surrogates
   OPENFILENAMEW dialog{};
@@ -97,8 +98,7 @@ std::optional<std::string> chooseFileOver(NativeWindow owner, const FileQuestion
   dialog.nFilterIndex = 1;
   dialog.lpstrFile = path.data();
   dialog.nMaxFile = static_cast<DWORD>(path.size());
-  // Windows itself prefers the folder used last once there is one.
-  dialog.lpstrInitialDir = documents.empty() ? nullptr : documents.c_str();
+  dialog.lpstrInitialDir = folder.empty() ? nullptr : folder.c_str();
   dialog.lpstrDefExt = extension.c_str();
   dialog.Flags = OFN_HIDEREADONLY | OFN_PATHMUSTEXIST;
   if (question.fileMustExist) dialog.Flags |= OFN_FILEMUSTEXIST;

@@ -33,6 +33,7 @@ struct FileQuestion {
   std::vector<FileFilter> filters;  ///< the first one is selected
   std::string defaultExtension;     ///< without the dot; added to a name typed without one
   bool fileMustExist = false;
+  std::string folder;  ///< where to begin; the operator's documents when empty
 };
 
 /// Longest path of a contest, in characters.

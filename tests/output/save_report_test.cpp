@@ -2,7 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "model/new_contest.h"
+#include "session/contest_file.h"
+#include "session/earlier_saves.h"
 #include "session/open_contest.h"
+#include "session/recovery.h"
+#include "storage/contest_writer.h"
+#include "tests/storage/memory_files.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/ui/memory_dialog.h"
 
@@ -39,6 +45,25 @@ TEST(SaveReport, ReplacesTheChosenFileOrIsSilent) {
   save("", path);
   EXPECT_EQ(contentOf(path), "");
   EXPECT_EQ(folder.count(), 1U);
+}
+
+// The dialog begins beside the contest; a contest that is replaced by mistake is an earlier save.
+TEST(SaveReport, OverAContestKeepsIt) {
+  MemoryFiles files;
+  const std::string contest = writeContest(newContest());
+  files.files = {{"fair/a.scv", {contest}}, {"fair/b.scv", {contest}}};
+  startKeepingWork(files);
+  MemoryWindow window;
+  ASSERT_TRUE(openContest(window, "fair/a.scv"));
+  window.desktop.files = {"fair/b.scv"};
+  reportText() = "report\n";
+  saveReport(window, files);
+  EXPECT_EQ(window.desktop.fileQuestions.at(0).folder, "fair");
+  EXPECT_EQ(files.files["fair/b.scv"].content, "report\r\n");
+  ASSERT_EQ(earlierSaves(files, "fair/b.scv").size(), 1U);
+  EXPECT_EQ(readEarlierSave(files, earlierSaves(files, "fair/b.scv")[0]), contest);
+  stopKeepingWork();
+  currentFileName().clear();
 }
 
 }  // namespace
