@@ -16,8 +16,8 @@ constexpr std::array<char, kCharacters> kTidy = [] {
   for (std::size_t c = 0; c < table.size(); ++c) {
     table[c] = c < ' ' || c == 0x7F || c == 0xA0 ? ' ' : static_cast<char>(c);
   }
-  for (const std::size_t quote : {0x82, 0x91, 0x92}) table[quote] = '\'';
-  for (const std::size_t quote : {0x84, 0x93, 0x94}) table[quote] = '"';
+  for (const std::size_t quote : {0x82U, 0x91U, 0x92U}) table[quote] = '\'';
+  for (const std::size_t quote : {0x84U, 0x93U, 0x94U}) table[quote] = '"';
   return table;
 }();
 

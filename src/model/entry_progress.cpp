@@ -38,7 +38,7 @@ bool isAsked(const JudgingClasses& classes, std::int32_t classIndex, EntryKind k
                                     : classes.hasQuestions(classIndex);
 }
 
-EntryProgress::EntryProgress(const Contest& contest) : contest_(contest), cards_(contest) {
+EntryProgress::EntryProgress(const Contest& contest) : cards_(contest) {
   for (const auto& [number, name] : contest.contestantNames) {
     if (name.empty()) continue;
     const bool shown = hasAnything(contest, number);

@@ -52,7 +52,6 @@ class EntryProgress {
   [[nodiscard]] std::vector<Person> missing(std::int32_t classIndex, EntryKind kind) const;
 
  private:
-  const Contest& contest_;
   CardsByClass cards_;
   std::vector<char> groups_;
   std::vector<Person> expected_;

@@ -183,10 +183,10 @@ class RosterMerge {
   }
 
   std::string mergedTeamName(std::size_t team) {
-    const auto& [base, ours, theirs] = roster_.teams[team];
-    if (!ours || !theirs) return ours ? *ours : *theirs;
-    return mergedValue(base ? &*base : nullptr, *ours, *theirs,
-                       [&] { listTeam(*ours, "name", *ours, *theirs); });
+    const auto& names = roster_.teams[team];
+    if (!names.ours || !names.theirs) return names.ours ? *names.ours : *names.theirs;
+    return mergedValue(names.base ? &*names.base : nullptr, *names.ours, *names.theirs,
+                       [&] { listTeam(*names.ours, "name", *names.ours, *names.theirs); });
   }
 
   // A team is not renamed to what another one is called by now.

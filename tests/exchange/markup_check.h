@@ -65,7 +65,7 @@ inline std::string markupFault(std::string_view markup, bool isXml) {
 /// `look`.
 template <typename Look>
 std::string workbookFault(std::string_view bytes, const Look& look) {
-  const auto number = [&](std::size_t at, int size) {
+  const auto number = [&](std::size_t at, std::size_t size) {
     std::size_t value = 0;
     while (size-- > 0) value = value << 8U | static_cast<unsigned char>(bytes.at(at + size));
     return value;

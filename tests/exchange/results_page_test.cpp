@@ -87,8 +87,7 @@ void expectAsReported(const std::string& page, const std::string& report,
     }
     for (std::size_t side = 0; side < 2 && i + side < told.size(); ++side) {
       const std::string values = lines[i + side].substr(told[i + side].line.size()) + " ";
-      EXPECT_NE(values.find(" " + won.str(static_cast<int>(side) + 1) + " "), std::string::npos)
-          << lines[i + side];
+      EXPECT_NE(values.find(" " + won.str(side + 1) + " "), std::string::npos) << lines[i + side];
     }
   }
 }

@@ -218,14 +218,15 @@ struct Dialect {
     if (encoding == 1) return utf8;
     if (encoding == 2) return "\xEF\xBB\xBF" + utf8;
     std::string utf16 = encoding == 3 ? "\xFF\xFE" : "\xFE\xFF";
+    const auto bits = [&](std::size_t at) { return static_cast<unsigned char>(utf8[at]) & 0x3FU; };
     for (std::size_t i = 0; i < utf8.size(); ++i) {
       const auto lead = static_cast<unsigned char>(utf8[i]);
       unsigned unit = lead;
       if (lead >= 0xE0) {
-        unit = (lead & 0xFU) << 12U | (utf8[i + 1] & 0x3FU) << 6U | (utf8[i + 2] & 0x3FU);
+        unit = (lead & 0xFU) << 12U | bits(i + 1) << 6U | bits(i + 2);
         i += 2;
       } else if (lead >= 0xC0) {
-        unit = (lead & 0x1FU) << 6U | (utf8[i + 1] & 0x3FU);
+        unit = (lead & 0x1FU) << 6U | bits(i + 1);
         i += 1;
       }
       const char bytes[] = {static_cast<char>(unit >> 8U), static_cast<char>(unit & 0xFFU)};

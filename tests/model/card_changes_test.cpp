@@ -25,7 +25,9 @@ Cards cardsOf(const Contest& contest, ScoreValue kind) {
 // and placing scores stay true.
 TEST(CardChanges, LoseNoCardThatIsNotListed) {
   std::mt19937 random(5);
-  const auto pick = [&random](int below) { return static_cast<int>(random() % below); };
+  const auto pick = [&random](int below) {
+    return static_cast<int>(random() % static_cast<unsigned>(below));
+  };
   for (int round = 0; round < 500; ++round) {
     ContestBuilder builder;
     for (int k = 0; k < 4; ++k) {

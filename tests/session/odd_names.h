@@ -124,7 +124,7 @@ class OddNames {
   void type(std::int32_t reasons) {
     const ScoreRecord record{'A', 40, reasons, 0};
     currentContest().scores[101][0] = record;
-    scoreStored({101, 0, record});
+    scoreStored({{101, 0, record}, {}});
   }
   void tryName(const std::string& name) {
     operator_.said.clear();

@@ -12,7 +12,7 @@ namespace {
 // All of a damaged copy but the lines that are hit.
 TEST(RecoveryCopyBytes, GiveEveryWholeLineWhereverTheyAreDamagedOrCut) {
   const std::string base = smallFile();
-  const TypedScore typed[] = {{101, 0, {'A', 40, 44, 0}}, {103, 1, {'B', -7, 0, 9}}};
+  const TypedScore typed[] = {{{101, 0, {'A', 40, 44, 0}}, {}}, {{103, 1, {'B', -7, 0, 9}}, {}}};
   std::string bytes = base + originLine({"a\tb.scv", true, 5, 6, 7}, base);
   const std::size_t added = bytes.size();
   for (const TypedScore& score : typed) bytes += typedScoreLine(score);

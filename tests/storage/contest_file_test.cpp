@@ -177,7 +177,7 @@ TEST(ContestReader, NoticesEveryTruncationAndNeedsNeitherSettingsNorClasses) {
     const bool onlyTheTrailerIsLost = size >= whole.find("0000-0000");
     const std::string refusal =
         "  no contest (" +
-        std::to_string(std::count(whole.begin(), whole.begin() + size, '\n') + 1);
+        std::to_string(std::count(whole.begin(), whole.begin() + static_cast<int>(size), '\n') + 1);
     EXPECT_EQ(changesIn(whole.substr(0, size)), onlyTheTrailerIsLost ? "" : refusal + ")\n");
   }
   // Everybody is ranked once there are classes, so everybody has an entry before; without any
