@@ -184,9 +184,11 @@ class RosterMerge {
 
   std::string mergedTeamName(std::size_t team) {
     const auto& names = roster_.teams[team];
-    if (!names.ours || !names.theirs) return names.ours ? *names.ours : *names.theirs;
-    return mergedValue(names.base ? &*names.base : nullptr, *names.ours, *names.theirs,
-                       [&] { listTeam(*names.ours, "name", *names.ours, *names.theirs); });
+    const std::optional<std::string>& ours = names[1];
+    const std::optional<std::string>& theirs = names[2];
+    if (!ours || !theirs) return ours ? *ours : *theirs;
+    return mergedValue(names[0] ? &*names[0] : nullptr, *ours, *theirs,
+                       [&] { listTeam(*ours, "name", *ours, *theirs); });
   }
 
   // A team is not renamed to what another one is called by now.
