@@ -31,10 +31,9 @@ void runImportRoster(MainWindow& window) {
 }
 
 void runMoveCards(MainWindow& window) {
-  const Contest before = currentContest();
   MoveCardsDialog dialog(currentContest());
   if (window.runDialog(IDD_MOVE_CARDS, dialog) != kOkId) return;
-  showReport(window, differencesReport(currentContest(), before,
+  showReport(window, differencesReport(dialog.after(), dialog.before(),
                                        {"Scores moved, exchanged or cleared", "Now", "Before"}));
   sayIfWorkIsNotKept(window);
 }

@@ -5,6 +5,7 @@
 #include "cli/contest_input.h"
 #include "cli/system.h"
 #include "model/new_contest.h"
+#include "session/data_folder.h"
 #include "session/save_lock.h"
 #include "storage/contest_writer.h"
 #include "storage/safe_save.h"
@@ -36,7 +37,7 @@ std::optional<std::string> ContestInFile::save(FileSystem& files,
                                                const std::optional<std::string>& into) const {
   const std::string& path = into ? *into : path_;
   const SaveLock lock(files, path);
-  if (!into && files.readWhole(path) != bytes_) {
+  if (reachesSameFile(files, path, path_) && files.readWhole(path) != bytes_) {
     return "another program has changed '" + contestText(path) + "' meanwhile";
   }
   if (saveSafely(files, path, writeContest(contest))) return std::nullopt;

@@ -40,7 +40,13 @@ CliResult runMerge(const MergeOptions& options, FileSystem& files) {
   }
   const auto base = openContest(*options.base, files, kContestProgram, ours.remarks);
   if (const auto* refusal = std::get_if<std::string>(&base)) return nothingDone(*refusal);
-  Merge merge = mergeContests(std::get<LoadedContest>(base).contest, ours.contest, other);
+  const Contest& ancestor = std::get<LoadedContest>(base).contest;
+  for (const Contest* contest : {&std::as_const(ours.contest), &other}) {
+    if (isSameContest(ancestor, *contest)) continue;
+    return nothingDone("'" + contestText(contest == &other ? options.theirs : options.ours) +
+                       "' and '" + contestText(*options.base) + "' are different contests");
+  }
+  Merge merge = mergeContests(ancestor, ours.contest, other);
   const std::string report = mergeReport(merge);
   return finish(ours, std::move(merge.contest), report, merge.isSmooth(), options, files);
 }

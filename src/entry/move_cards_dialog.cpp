@@ -164,7 +164,9 @@ void MoveCardsDialog::change(Dialog& dialog) {
           "\r\n\r\nPress OK to change the scores as listed, or Cancel to leave them.")) {
     return;
   }
+  before_ = contest_;
   applyCardChanges(contest_, *changes);
+  after_ = contest_;
   contestChanged();
   saveAndEnd(dialog);
 }

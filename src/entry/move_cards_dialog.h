@@ -23,6 +23,10 @@ class MoveCardsDialog : public DialogBehaviour {
   void onEvent(Dialog& dialog, ControlId id, ControlEvent event) override;
   void onClose(Dialog& dialog) override;
 
+  /// The contest right before and after the change: saving it may take in what others typed.
+  [[nodiscard]] const Contest& before() const { return before_; }
+  [[nodiscard]] const Contest& after() const { return after_; }
+
  private:
   /// What would change, or what is still to be chosen.
   using Plan = std::variant<std::vector<CardChange>, std::string>;
@@ -37,6 +41,8 @@ class MoveCardsDialog : public DialogBehaviour {
   [[nodiscard]] Plan exchange(const Dialog& dialog, std::optional<std::int32_t> from) const;
 
   Contest& contest_;
+  Contest before_;
+  Contest after_;
 };
 
 }  // namespace scorvane

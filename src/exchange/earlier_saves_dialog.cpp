@@ -151,7 +151,6 @@ void EarlierSavesDialog::goBack(Dialog& dialog, const EarlierSave& save, Contest
   }
   currentContest() = std::move(contest);
   contestChanged();  // what is kept of the old one must not come back if this is not saved
-
   saveCurrent(dialog);
   dialog.end(IDC_GO_BACK);
 }

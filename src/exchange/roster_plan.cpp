@@ -51,7 +51,7 @@ class RosterReader {
 
  private:
   void remarkOnRowsAbove() {
-    constexpr std::ptrdiff_t kMoreThanATitle = 3;
+    constexpr std::ptrdiff_t kMoreThanATitle = 2;
     for (std::size_t i = 0; i + 1 < columns_.firstRow; ++i) {
       const Sheet::Row& row = sheet_.rows()[i];
       std::ptrdiff_t filled = 0;

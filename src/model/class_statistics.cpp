@@ -97,7 +97,7 @@ std::optional<LikelierPlacing> likelierPlacing(const ClassStatistics& statistics
                                                PlacingLetter official, const Cuts& cuts) {
   constexpr std::int32_t kFewestCards = 10;
   std::optional<LikelierPlacing> likelier;
-  if (statistics.placed < kFewestCards) return likelier;
+  if (statistics.placed < kFewestCards || !isOrderLetter(official)) return likelier;
   std::int64_t highestSum = 0;
   for (PlacingLetter other = 'A'; isOrderLetter(other); ++other) {
     std::int32_t better = 0;

@@ -193,13 +193,6 @@ class ContestMerge {
     state_.differs(kind, subject, "order", texts[kOurs], texts[kTheirs]);
   }
 
-  template <typename Value>
-  std::optional<Value> valueOn(Side side, const Three<std::int32_t>& element,
-                               Value (*value)(const ContestMerge&, Side, std::int32_t)) const {
-    if (!element[side]) return std::nullopt;
-    return value(*this, side, *element[side]);
-  }
-
   // Merges a value of an element; what is on one side only is that side's.
   template <typename Of, typename Report>
   auto mergeElement(const Three<std::int32_t>& element, Of of, Report report) {

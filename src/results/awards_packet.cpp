@@ -16,7 +16,6 @@ namespace {
 
 constexpr const char* kTooMany = "This contest has too many categories for this report.\n";
 
-// Requests without a title are those of the High reports.
 bool isCategory(const ReportRequest& request, const Contest& contest) {
   return request.classes.size() != static_cast<std::size_t>(contest.classes.count());
 }

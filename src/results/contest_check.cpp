@@ -14,6 +14,7 @@
 #include "results/hand_out.h"
 #include "results/rankings.h"
 #include "results/team_ranking.h"
+#include "storage/contest_writer.h"
 #include "text/format.h"
 #include "text/report_marks.h"
 
@@ -56,6 +57,7 @@ class ContestCheck {
     findSameTeamNames();
     findFindings(FindingKind::scoresWithoutName, "Scores under numbers without a name");
     findFindings(FindingKind::recordWithoutClass, "Scores for classes that do not exist");
+    findCutTexts();
     findTies();
     std::string report(kNothing);
     if (things_ > 0) {
@@ -196,6 +198,11 @@ class ContestCheck {
         add(formatText("class %lld: %lld", finding.classIndex + 1LL, count));
       }
     }
+  }
+
+  void findCutTexts() {
+    begin("Names that the contest file has no room for");
+    for (const Finding& finding : cutTexts(contest_)) add(finding.text);
   }
 
   void findSameNames() {

@@ -56,6 +56,12 @@ std::optional<std::string> readPatiently(FileSystem& files, const std::string& p
   }
 }
 
+/// What cannot be read must not be replaced: it may hold what others saved.
+bool isUnreadableFile(FileSystem& files, const std::string& path) {
+  const auto status = files.status(path);
+  return status && status->exists && status->isRegular;
+}
+
 /// What becomes of that which others have saved to the file.
 enum class OthersWork { takenIn, replaced };
 enum class Saving { done, failed, perhapsReplacedOthersWork };
@@ -65,6 +71,7 @@ Saving save(OthersWork othersWork) {
   const std::string& path = currentFileName();
   const SaveLock lock(files, path);
   const std::optional<std::string> old = readPatiently(files, path);
+  if (!old && isUnreadableFile(files, path)) return Saving::failed;
   if (othersWork == OthersWork::takenIn) takeInBeforeSaving(old, lock.isHeld());
   const std::string bytes = writeContest(currentContest());
   if (!saveAndKeepOld(path, old, bytes)) return Saving::failed;
@@ -115,9 +122,11 @@ void showFault(Window& owner, const ContestFault& fault, const std::string& path
 void finishSave(Window& owner, const std::string& path, const LoadedContest& loaded) {
   FileSystem& files = sessionFiles();
   const SaveLock lock(files, path);
-  const bool isSaved = saveSafely(files, path, loaded.bytes);
+  const bool isSaved = saveAndKeepOld(path, readPatiently(files, path), loaded.bytes);
   if (isSaved) {
     files.remove(loaded.copy);
+    knowFile(loaded.bytes);
+    contestHasFile(path, loaded.bytes);
   } else {
     // What the file holds is not somebody else's work.
     knowFileForNow(files.readWhole(path).value_or(""));
@@ -127,7 +136,7 @@ void finishSave(Window& owner, const std::string& path, const LoadedContest& loa
       "Scorvane or the computer was stopped while it saved this contest, and the file was left "
       "unfinished.\r\n\r\n"
       "The contest as it was to be saved was found in this copy and is open now:\r\n" +
-          loaded.copy + "\r\n\r\n" +
+          shownPath(loaded.copy) + "\r\n\r\n" +
           (isSaved ? "It has been saved to its file again.\r\n"
                    : "It could NOT be saved to its file again.  Use File->Save As to save it "
                      "to another location.\r\n"),

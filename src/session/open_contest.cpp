@@ -1,6 +1,5 @@
 #include "session/open_contest.h"
 
-#include <algorithm>
 #include <cstddef>
 
 #include "text/report_marks.h"
@@ -20,7 +19,10 @@ std::string& currentFileName() {
 std::string contestFolder() {
   const std::string& path = currentFileName();
   const std::size_t end = path.find_last_of("/\\");
-  return end == std::string::npos ? "" : path.substr(0, std::max<std::size_t>(end, 1));
+  if (end == std::string::npos) return "";
+  // Of a root the separator belongs to the name: "E:" alone is wherever one was last on E.
+  const bool isRoot = end == 0 || path[end - 1] == ':';
+  return path.substr(0, end + (isRoot ? 1 : 0));
 }
 
 std::string& reportText() {

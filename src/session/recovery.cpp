@@ -196,14 +196,14 @@ void contestHasFile(const std::string& path, std::string_view bytes) {
 }
 
 void contestTookIn(const std::string& path, std::string_view bytes, const Contest& theirs,
-                   bool hasSameClasses) {
+                   bool hasSameNumbers) {
   if (!isKeepingWork()) return;
   kept().grewFrom = stateOf(path, bytes);
   kept().savedHash = contentHash(writeContest(theirs));
   std::string merged = writeContest(currentContest());
   if (contentHash(merged) == kept().savedHash && !kept().saveFailed) return discardNeedlessCopy();
-  // The lines name classes by number.
-  if (!hasSameClasses) kept().typed.clear();
+  // The lines name classes and people by number.
+  if (!hasSameNumbers) kept().typed.clear();
   rewriteCopy(std::move(merged));
 }
 

@@ -47,7 +47,7 @@ void contestHasFile(const std::string& path, std::string_view bytes);
 /// What the contest's file holds by now was merged into the contest, which may have other classes
 /// for it.
 void contestTookIn(const std::string& path, std::string_view bytes, const Contest& theirs,
-                   bool hasSameClasses);
+                   bool hasSameNumbers);
 /// The contest was not saved, as the operator thought better of it, or as that failed: then what is
 /// kept of it stays when it is left.
 enum class NotSaved { cancelled, failed };

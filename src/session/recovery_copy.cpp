@@ -59,7 +59,17 @@ void addTyped(const RecoveryCopy& copy, Contest& contest) {
   for (const TypedScore& score : copy.typed) {
     const bool hasClass = score.classIndex >= 0 && score.classIndex < contest.classes.count();
     if (!hasClass || !contest.contestantNames.contains(score.number)) continue;
-    contest.scores[score.number][score.classIndex] = score.record;
+    ScoreRecord& record = contest.scores[score.number][score.classIndex];
+    // Others may have entered the rest of the record since. A line that does not say what of it was
+    // typed counts as a whole.
+    const auto& [letter, reasons, questions] = score.fields;
+    if (!letter && !reasons && !questions) record = score.record;
+    if (score.fields.letter) {
+      record.letter = score.record.letter;
+      record.placingScore = score.record.placingScore;
+    }
+    if (score.fields.reasons) record.reasonsScore = score.record.reasonsScore;
+    if (score.fields.questions) record.questionsScore = score.record.questionsScore;
   }
 }
 

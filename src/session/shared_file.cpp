@@ -84,7 +84,8 @@ Replaced takeIn(const std::string& bytes, Theirs whole) {
   const auto* ancestor = std::get_if<Contest>(&ancestorReading);
   if (ancestor == nullptr || !isSameContest(*ancestor, *theirs)) return Replaced::anotherContest;
   Merge merge = mergeContests(*ancestor, currentContest(), *theirs);
-  const bool hasSameClasses = merge.contest.classes.className == currentContest().classes.className;
+  const bool hasSameNumbers = merge.numbers.empty() &&
+                              merge.contest.classes.className == currentContest().classes.className;
   currentContest() = std::move(merge.contest);
   addNews(merge);
   if (whole == Theirs::keep && !merge.isSmooth() && isKeepingWork()) {
@@ -92,7 +93,7 @@ Replaced takeIn(const std::string& bytes, Theirs whole) {
   }
   known().hash = contentHash(bytes);
   known().ancestor = bytes;
-  contestTookIn(currentFileName(), bytes, *theirs, hasSameClasses);
+  contestTookIn(currentFileName(), bytes, *theirs, hasSameNumbers);
   return Replaced::nothing;
 }
 

@@ -1,6 +1,7 @@
 #include "storage/contest_loader.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -87,10 +88,20 @@ Loading asContest(Bytes bytes) {
   return LoadedContest{std::move(contest), std::move(read), "", std::move(oddities)};
 }
 
+/// Whether a file that is no contest was left so by a save in place: such a save marks its first
+/// byte, or had not written it yet.
+bool isLeftUnfinished(FileSystem& files, const std::string& path) {
+  const auto file = files.openToRead(path);
+  std::array<char, 1> first{};
+  const auto size = file ? file->read(first.data(), first.size()) : std::nullopt;
+  return size && (*size == 0 || first.front() == kUnfinishedMark);
+}
+
 /// The copy of a save that was not finished, if it is a contest and the file is not newer.
 std::optional<LoadedContest> copyOf(FileSystem& files, const std::string& path,
                                     const Loading& loading) {
   const auto* loaded = std::get_if<LoadedContest>(&loading);
+  if (loaded == nullptr && !isLeftUnfinished(files, path)) return std::nullopt;
   auto copy = unfinishedSave(files, path, loaded == nullptr ? nullptr : &loaded->bytes);
   if (!copy) return std::nullopt;
   Loading reading = asContest(std::move(copy->bytes));

@@ -250,7 +250,9 @@ bool addTeam(std::string_view line, std::size_t slots, bool guessesSlots, Contes
   }
   const bool isFull = line.size() + kLongestMember > kLineRoom;
   const bool hasNoMore = guessesSlots || !fields.next();
-  const bool fits = coach && hasNoMore && (team.members.size() == slots || isFull);
+  // The file makes two names the same only where it has no room for them.
+  const bool isNew = isFull || !contest.teams.contains(name);
+  const bool fits = coach && isNew && hasNoMore && (team.members.size() == slots || isFull);
   team.members.resize(slots);
   contest.teams.insert_or_assign(contest.teams.end(), name, std::move(team));
   return fits;

@@ -40,9 +40,10 @@ std::optional<char32_t> nextOfUtf8(std::string_view bytes, std::size_t& i) {
     c = (c << 6) | (byteAt(bytes, k) & 0x3FU);
   }
   const bool isSurrogate = c >= 0xD800 && c < 0xE000;
-  if (c < kSmallest.at(length) || c > kLastCharacter || isSurrogate) return std::nullopt;
+  if (c < kSmallest.at(length) || c > kLastCharacter) return std::nullopt;
   i += length;
-  return c;
+  // Half of a pair, as a field can hold it, is no reason to take the whole text for 8-bit text.
+  return isSurrogate ? kNoCharacter : c;
 }
 
 bool isUtf8(std::string_view bytes) {

@@ -59,6 +59,10 @@ TEST(SaveReport, OverAContestKeepsIt) {
   reportText() = "report\n";
   saveReport(window, files);
   EXPECT_EQ(window.desktop.fileQuestions.at(0).folder, "fair");
+  currentFileName() = "E:\\a.scv";
+  EXPECT_EQ(contestFolder(), "E:\\");
+  currentFileName() = "a.scv";
+  EXPECT_EQ(contestFolder(), "");
   EXPECT_EQ(files.files["fair/b.scv"].content, "report\r\n");
   ASSERT_EQ(earlierSaves(files, "fair/b.scv").size(), 1U);
   EXPECT_EQ(readEarlierSave(files, earlierSaves(files, "fair/b.scv")[0]), contest);

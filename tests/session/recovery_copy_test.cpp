@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "storage/contest_reader.h"
 #include "storage/contest_writer.h"
 #include "tests/storage/contest_text.h"
 
@@ -63,6 +64,20 @@ TEST(RecoveryCopyBytes, GiveEveryWholeLineWhereverTheyAreDamagedOrCut) {
       ASSERT_NE(left.find(isPlace ? "101\tAnn Lee" : text), std::string::npos) << text;
     }
   }
+}
+
+// A letter that was typed leaves the reasons score alone that another copy of the program saved.
+TEST(RecoveryCopyBytes, GiveBackWhatWasTypedAndNotTheRestOfTheRecord) {
+  Contest contest = std::get<Contest>(readContest(smallFile()));
+  contest.scores[101][0] = {' ', 0, 33, 0};
+  const std::string base = writeContest(contest);
+  TypedScore typed{{101, 0, {'A', 40, 0, 0}}, {}};
+  typed.fields.letter = true;
+  const std::string bytes =
+      base + originLine({"a.scv", true, 5, 6, 7}, base) + typedScoreLine(typed);
+  const auto recovered = recoveredContest(readRecoveryCopy(bytes));
+  ASSERT_TRUE(recovered);
+  EXPECT_EQ(scoreRecord(*recovered, 101, 0), (ScoreRecord{'A', 40, 33, 0}));
 }
 
 }  // namespace
