@@ -18,7 +18,7 @@ import sys
 import tempfile
 import time
 
-from session import Session, Skipped, check_order, expect, traced
+from session import Session, Skipped, check_order, expect, known_as, traced
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 NOT_SAVED = "File Save Error: Your file did NOT save!"
@@ -124,8 +124,9 @@ class Faults:
         for way in WAYS:
             folder = self.new_folder()
             session, path = self.opened(way, folder)
-            name = f"~scorvane-{session.process.pid}-1.tmp"
-            calls = traced(session, [folder, path, folder / name, self.spares / name], self.folder / "trace")
+            copies = [folder / f"~scorvane-{session.process.pid}-1.tmp", folder / f"~scorvane-{known_as(path.name)}-1.tmp",
+                      self.spares / f"~scorvane-{known_as(path)}-1.tmp"]
+            calls = traced(session, [folder, path, *copies], self.folder / "trace")
             check_order(way, calls)
             session.close()
         return "the copy is flushed before it replaces the old file or that is overwritten, and the result after it"

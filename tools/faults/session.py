@@ -57,6 +57,14 @@ def expect(holds, what):
         raise AssertionError(what)
 
 
+def known_as(name):
+    """What the copy of a save in place is called after: the hash of the file's name or whole path."""
+    value = 0xCBF29CE484222325
+    for byte in os.fsencode(name):
+        value = ((value ^ byte) * 0x100000001B3) % (1 << 64)
+    return f"{value:016x}"
+
+
 def check_order(way, lines):
     """What must reach the medium before what, so that a power cut finds a whole file."""
     def last(pattern):
