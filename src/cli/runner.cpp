@@ -147,20 +147,18 @@ CliResult writeAllReports(const Contest& contest, const std::string& folder, Fil
   return result;
 }
 
-// The page and the spreadsheet that are wanted; nothing when all is well.
-std::optional<std::string> writeExports(const Contest& contest, const CliOptions& options,
-                                        FileSystem& files) {
+// Writes the page and the spreadsheet, as far as they are wanted; one that fails keeps none from
+// the other.
+void writeExports(const Contest& contest, const CliOptions& options, FileSystem& files,
+                  CliResult& result) {
   const auto write = [&](const std::string& path, const std::string& bytes) {
-    return exportFile(files, path, options.contest, bytes);
+    if (exportFile(files, path, options.contest, bytes)) return;
+    result.status = kFailed;
+    result.error += remark(kReportProgram, "cannot write '" + contestText(path) + "'");
   };
   const auto& [page, spreadsheet] = std::tie(options.page, options.spreadsheet);
-  if (!page.empty() && !write(page, resultsPage(contest, options.pageContent))) {
-    return "cannot write '" + contestText(page) + "'";
-  }
-  if (!spreadsheet.empty() && !write(spreadsheet, spreadsheetBytes(contest, spreadsheet))) {
-    return "cannot write '" + contestText(spreadsheet) + "'";
-  }
-  return std::nullopt;
+  if (!page.empty()) write(page, resultsPage(contest, options.pageContent));
+  if (!spreadsheet.empty()) write(spreadsheet, spreadsheetBytes(contest, spreadsheet));
 }
 
 std::string reportList() {
@@ -193,10 +191,7 @@ CliResult runCli(const CliOptions& options, FileSystem& files) {
   CliResult result = options.action == Action::allReports
                          ? writeAllReports(contest, options.folder, files)
                          : printReports(contest, options, files);
-  if (const auto refusal = writeExports(contest, options, files)) {
-    result.status = kFailed;
-    result.error += remark(kReportProgram, *refusal);
-  }
+  writeExports(contest, options, files, result);
   result.error.insert(0, remarks);
   return result;
 }

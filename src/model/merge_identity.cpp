@@ -275,17 +275,16 @@ class RosterMatcher {
     const std::vector<Member> here = membersOf(to, name);
     const auto matchBy = [&](auto isSame) { return linkMembers(from, there, to, here, isSame); };
     const bool isNew = from != kBase;
-    std::size_t named = matchBy([](const Member& a, const Member& b) {
+    matchBy([](const Member& a, const Member& b) {
       return a.number == b.number && a.name == b.name && !a.name.empty();
     });
     const std::size_t moved = matchBy(
         [](const Member& a, const Member& b) { return a.name == b.name && !a.name.empty(); });
-    named += moved;
     const auto isOnePlace = [&](const Member& a, const Member& b) {
       return teams_[from][a.position].size() == 1 && teams_[to][b.position].size() == 1;
     };
     matchBy([&](const Member& a, const Member& b) {
-      const bool isPlausible = !isNew || named > 0 || a.name.empty() || b.name.empty();
+      const bool isPlausible = !isNew || a.name.empty() || b.name.empty();
       return a.number == b.number && isPlausible && (a.name == b.name || isOnePlace(a, b));
     });
     if (moved > 0) {
