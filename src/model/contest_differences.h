@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "model/contest.h"
@@ -93,7 +94,9 @@ struct CardPosition {
   std::int32_t group = 0;
   std::int32_t position = 0;
   ContestantNumber number = 0;
-  friend auto operator<=>(const CardPosition&, const CardPosition&) = default;
+  friend bool operator<(const CardPosition& a, const CardPosition& b) {
+    return std::tie(a.group, a.position, a.number) < std::tie(b.group, b.position, b.number);
+  }
 };
 [[nodiscard]] CardPosition cardPosition(const Contest& contest, ScoreValue value,
                                         ContestantNumber number);

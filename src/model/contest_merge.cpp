@@ -198,7 +198,7 @@ class ContestMerge {
   auto mergeElement(const Three<std::int32_t>& element, Of of, Report report) {
     using Value = decltype(of(kOurs, std::int32_t{}));
     if (!element[kOurs]) return of(kTheirs, *element[kTheirs]);
-    const Value ours = of(kOurs, *element[kOurs]);
+    Value ours = of(kOurs, *element[kOurs]);
     if (!element[kTheirs]) return ours;
     const Value theirs = of(kTheirs, *element[kTheirs]);
     if (!element[kBase]) {

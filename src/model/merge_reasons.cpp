@@ -12,7 +12,10 @@ struct Speaker {
   std::int32_t group = 0;
   std::int32_t position = 0;
   std::size_t person = 0;
-  friend auto operator<=>(const Speaker&, const Speaker&) = default;
+  friend bool operator==(const Speaker&, const Speaker&) = default;
+  friend bool operator<(const Speaker& a, const Speaker& b) {
+    return std::tie(a.group, a.position, a.person) < std::tie(b.group, b.position, b.person);
+  }
 };
 
 // Number of reasons takers and all places: one value, as places only mean something together.

@@ -125,14 +125,16 @@ std::int32_t classOf(std::string_view score) {
 
 /// How many classes the scores tell of, each class once after the one before it.
 std::size_t classesIn(const std::vector<std::string_view>& scores) {
-  std::int32_t last = -1;
+  std::size_t count = 0;
   std::int32_t before = -1;
   for (const std::string_view line : scores) {
     const std::int32_t k = isScore(line) ? classOf(line) : -1;
-    if (k == before + 1 || k == 0) last = std::max(last, k);
+    if (k >= 0 && (k == before + 1 || k == 0)) {
+      count = std::max(count, static_cast<std::size_t>(k) + 1);
+    }
     before = k;
   }
-  return static_cast<std::size_t>(last + 1);
+  return count;
 }
 
 // Scores name their class by its number: no class may take the number of one that is damaged.
