@@ -199,7 +199,7 @@ class PaintingTest(DesktopTest):
         self.expect_lines(lines - page)
 
     def test_lists_side_by_side_scroll_together(self):
-        app = self.start(self.invented("--classes", 30))
+        app = self.start(self.invented("--classes", 15))  # not quite two pages
         app.main().command(SETUP_CLASSES)
         dialog = app.window("Setup Classes")
         lines = {one: dialog.lines(one) for one in LISTS}
@@ -213,7 +213,7 @@ class PaintingTest(DesktopTest):
 
         area = dialog.client_area(LISTS[-1])
         bar = Bar(self.screen, area, True)
-        last = 30 - area[3] // letterings[LISTS[-1]].height
+        last = 15 - area[3] // letterings[LISTS[-1]].height
         self.click(bar.point(bar.length - 1))
         expect(last)
         for one, button, top in zip(LISTS, (WHEEL_UP, WHEEL_UP, WHEEL_DOWN, WHEEL_UP, WHEEL_DOWN), (3, 6, 3, 6, 3)):
