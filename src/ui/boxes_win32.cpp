@@ -87,8 +87,11 @@ Answer askOver(NativeWindow owner, const Message& message) {
 
 std::optional<std::string> chooseFileOver(NativeWindow owner, const FileQuestion& question) {
   const std::wstring filters = filterList(question.filters);
-  const std::wstring folder =
-      question.folder.empty() ? documentsFolder() : wordsOf(question.folder);
+  std::wstring folder = wordsOf(question.folder);
+  // The drive may have been pulled out.
+  if (folder.empty() || GetFileAttributesW(folder.c_str()) == INVALID_FILE_ATTRIBUTES) {
+    folder = documentsFolder();
+  }
   const std::wstring extension = wordsOf(question.defaultExtension);
   std::array<wchar_t, 2 * kMaxPathLength + 1> path{};  // characters may be pairs of surrogates
   OPENFILENAMEW dialog{};
