@@ -86,6 +86,7 @@ Saving save(OthersWork othersWork) {
 }
 
 void sayNotSaved(Window& owner) {
+  nothingWasReplaced();
   contestWasNotSaved(NotSaved::failed);
   owner.show(kNotSaved, "File Save Error");
 }

@@ -155,6 +155,10 @@ void newsMayBeTold() {
   sharing().mayTell = true;
 }
 
+void nothingWasReplaced() {
+  sharing().news.replaced = Replaced::nothing;
+}
+
 std::optional<SharingNews> takeNews() {
   if (!std::exchange(sharing().mayTell, false)) return std::nullopt;
   SharingNews news = std::exchange(sharing().news, {});

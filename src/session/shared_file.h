@@ -39,6 +39,8 @@ bool takeInBeforeSaving(const std::optional<std::string>& found, bool isLocked);
 void addNews(const Merge& merge);
 /// The contest was saved.
 void newsMayBeTold();
+/// It was not, so nothing was replaced.
+void nothingWasReplaced();
 /// The news that may be told, which is forgotten here; nothing when there is none.
 [[nodiscard]] std::optional<SharingNews> takeNews();
 
