@@ -9,6 +9,7 @@
 #include "model/bring_in_scores.h"
 #include "model/contest_merge.h"
 #include "reports/merge_report.h"
+#include "text/format.h"
 
 namespace scorvane {
 
@@ -43,8 +44,9 @@ CliResult runMerge(const MergeOptions& options, FileSystem& files) {
   const Contest& ancestor = std::get<LoadedContest>(base).contest;
   for (const Contest* contest : {&std::as_const(ours.contest), &other}) {
     if (isSameContest(ancestor, *contest)) continue;
-    return nothingDone("'" + contestText(contest == &other ? options.theirs : options.ours) +
-                       "' and '" + contestText(*options.base) + "' are different contests");
+    const std::string& path = contest == &other ? options.theirs : options.ours;
+    return nothingDone(formatText("'%s' and '%s' are different contests", contestText(path).c_str(),
+                                  contestText(*options.base).c_str()));
   }
   Merge merge = mergeContests(ancestor, ours.contest, other);
   const std::string report = mergeReport(merge);
