@@ -431,10 +431,13 @@ void fillClipboard(const Fields& f) {
 }
 
 Fields clipboard(const Fields& f) {
-  // Without a window of its own a program can put nothing on the clipboard.
-  static HWND owner =
-      CreateWindowA("STATIC", "", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
-  if (OpenClipboard(owner) == 0) throw Failure{"the clipboard is in use"};
+  // Without a window of its own a program can put nothing on the clipboard. It goes at once, as the
+  // next program that empties the clipboard would wait for its answer.
+  HWND owner = CreateWindowA("STATIC", "", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+  if (OpenClipboard(owner) == 0) {
+    DestroyWindow(owner);
+    throw Failure{"the clipboard is in use"};
+  }
   std::string content;
   if (f.size() > 1 && f.at(1) == "clear") {
     EmptyClipboard();
@@ -445,6 +448,7 @@ Fields clipboard(const Fields& f) {
     GlobalUnlock(data);
   }
   CloseClipboard();
+  DestroyWindow(owner);
   return {content};
 }
 
