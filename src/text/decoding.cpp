@@ -4,6 +4,8 @@
 #include <array>
 #include <optional>
 
+#include "text/unicode.h"
+
 namespace scorvane {
 
 namespace {
@@ -231,23 +233,8 @@ struct Utf8Writer {
   std::string& out;
 
   void ascii(std::string_view run) const { out += run; }
-  void operator()(char32_t c) const;
+  void operator()(char32_t c) const { appendCharacter(out, c); }
 };
-
-void Utf8Writer::operator()(char32_t c) const {
-  if (c < 0x80) {
-    out += byteOf(c);
-    return;
-  }
-  if (c < 0x800) {
-    out += byteOf(0xC0 | (c >> 6));
-  } else {
-    out += c < kFirstPair ? byteOf(0xE0 | (c >> 12)) : byteOf(0xF0 | (c >> 18));
-    if (c >= kFirstPair) out += byteOf(0x80 | ((c >> 12) & 0x3F));
-    out += byteOf(0x80 | ((c >> 6) & 0x3F));
-  }
-  out += byteOf(0x80 | (c & 0x3F));
-}
 
 }  // namespace
 

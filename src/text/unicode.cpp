@@ -25,7 +25,19 @@ constexpr char byteOf(char32_t value) {
   return static_cast<char>(static_cast<unsigned char>(value));
 }
 
-void appendUtf8(std::string& out, char32_t c) {
+constexpr char32_t kFirstOwn = 0x80;
+constexpr char32_t kFirstLatin = 0xA0;
+
+char in1252(char16_t unit) {
+  if (unit < kFirstOwn || (unit >= kFirstLatin && unit <= 0xFF)) return byteOf(unit);
+  const auto* const own = std::find(kWindows1252Own.begin(), kWindows1252Own.end(), unit);
+  if (own == kWindows1252Own.end()) return '?';
+  return byteOf(kFirstOwn + static_cast<char32_t>(own - kWindows1252Own.begin()));
+}
+
+}  // namespace
+
+void appendCharacter(std::string& out, char32_t c) {
   constexpr char32_t kSixBits = 0x3F;
   if (c < 0x80) {
     out += byteOf(c);
@@ -44,23 +56,6 @@ void appendUtf8(std::string& out, char32_t c) {
   }
   out += byteOf(0x80 | (c & kSixBits));
 }
-
-// Bytes 0x80 to 0x9F of code page 1252; 0 where it has none. All above are as in Unicode.
-constexpr std::array<char16_t, 32> kWindows1252 = {
-    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
-constexpr char32_t kFirstOwn = 0x80;
-constexpr char32_t kFirstLatin = 0xA0;
-
-char in1252(char16_t unit) {
-  if (unit < kFirstOwn || (unit >= kFirstLatin && unit <= 0xFF)) return byteOf(unit);
-  const auto* const own = std::find(kWindows1252.begin(), kWindows1252.end(), unit);
-  if (own == kWindows1252.end()) return '?';
-  return byteOf(kFirstOwn + static_cast<char32_t>(own - kWindows1252.begin()));
-}
-
-}  // namespace
 
 std::optional<std::u16string> utf16Of(std::string_view utf8) {
   std::u16string utf16;
@@ -92,7 +87,7 @@ std::string utf8Of(std::u16string_view utf16) {
     if (isHigh(c) && i + 1 < utf16.size() && isLow(utf16[i + 1])) {
       c = kFirstPair + ((c - kSurrogates) << 10) + (utf16[++i] - kLowSurrogates);
     }
-    appendUtf8(utf8, c);
+    appendCharacter(utf8, c);
   }
   return utf8;
 }
