@@ -24,6 +24,7 @@
 #include "results/score_cards_report.h"
 #include "results/tie_breakers.h"
 #include "results/total_summary_report.h"
+#include "session/open_contest.h"
 
 namespace scorvane {
 
@@ -211,8 +212,12 @@ void runCommand(int id, MainWindow& window) {
   if (const Report* report = command->report()) {
     runReport(window, *report);
   } else {
+    const std::string name = currentContest().settings.contestName;
     std::get<void (*)(MainWindow&)>(command->does)(window);
-    if (worksOnContest(*command)) lookForOthersWork(window);
+    if (worksOnContest(*command)) {
+      lookForOthersWork(window);
+      if (currentContest().settings.contestName != name) showContestTitle(window);
+    }
   }
   tellNews(window);
 }

@@ -17,7 +17,7 @@ namespace {
 
 using Replaced = SharingNews::Replaced;
 
-std::string replacedText(Replaced replaced) {
+std::string replacedText(Replaced replaced, bool isKept) {
   std::string text;
   switch (replaced) {
     case Replaced::nothing:
@@ -34,7 +34,8 @@ std::string replacedText(Replaced replaced) {
   }
   text += "\r\n" + shownPath(currentFileName()) + "\r\n";
   if (replaced != Replaced::missingFile) {
-    text += "What it held is one of the earlier saves now.  See Tools->Earlier Saves.\r\n";
+    text += isKept ? "What it held is one of the earlier saves now.  See Tools->Earlier Saves.\r\n"
+                   : "What it held could NOT be kept as one of the earlier saves.\r\n";
   }
   return text;
 }
@@ -43,7 +44,7 @@ void appendCount(std::string& text, std::size_t count, const char* one, const ch
   if (count > 0) text += std::to_string(count) + (count == 1 ? one : many) + "\r\n";
 }
 
-std::string mergeText(const Merge& merge) {
+std::string mergeText(const Merge& merge, bool isKept) {
   std::string text = "Your contest was saved together with what somebody else has saved.\r\n\r\n";
   appendCount(text, merge.values.size() + merge.scores.size(), " value differs; yours was saved.",
               " values differ; yours were saved.");
@@ -54,7 +55,9 @@ std::string mergeText(const Merge& merge) {
               " contestants have other numbers now.");
   return text +
          "\r\nThe report lists them.  Please settle them with the cards in hand.  The contest as "
-         "the other side saved it is one of the earlier saves.\r\n";
+         "the other side saved it " +
+         (isKept ? "is one of the earlier saves.\r\n"
+                 : "could NOT be kept as one of the earlier saves.\r\n");
 }
 
 }  // namespace
@@ -66,9 +69,9 @@ void lookForOthersWork(MainWindow& window) {
 void tellNews(MainWindow& window) {
   const auto news = takeNews();
   if (!news) return;
-  std::string text = replacedText(news->replaced);
+  std::string text = replacedText(news->replaced, news->isKept);
   if (!news->merge.isSmooth()) {
-    text += (text.empty() ? "" : "\r\n") + mergeText(news->merge);
+    text += (text.empty() ? "" : "\r\n") + mergeText(news->merge, news->isKept);
     std::string& report = reportText();
     report = (report == kWelcomeText ? std::string() : report + "\n") + mergeReport(news->merge);
   }

@@ -73,11 +73,14 @@ void runBringInScores(MainWindow& window) {
   BroughtScores brought = bringInScores(currentContest(), *request->other);
   const std::string report = broughtScoresReport(brought);
   if (!brought.broughtIn.empty()) {
-    if (!window.confirm(formatText("%d scores that are missing here will be brought in from %s.  "
-                                   "%d scores differ and stay as they are.  Continue?",
-                                   static_cast<int>(brought.broughtIn.size()),
-                                   request->otherName.c_str(),
-                                   static_cast<int>(brought.differing.size())))) {
+    const auto counted = [](std::size_t count, const char* one, const char* many) {
+      return std::to_string(count) + (count == 1 ? one : many);
+    };
+    if (!window.confirm(counted(brought.broughtIn.size(), " score that is", " scores that are") +
+                        " missing here will be brought in from " + request->otherName + ".  " +
+                        counted(brought.differing.size(), " score differs and stays as it is",
+                                " scores differ and stay as they are") +
+                        ".  Continue?")) {
       return;
     }
     currentContest() = std::move(brought.contest);

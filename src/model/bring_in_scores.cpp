@@ -15,6 +15,7 @@ class BringingIn {
     matchPeople();
     sortAsCardsLie(found_.contest, found_.broughtIn);
     sortAsCardsLie(found_.contest, found_.differing);
+    sortAsCardsLie(found_.contest, found_.leftOut);
     return std::move(found_);
   }
 
@@ -49,18 +50,21 @@ class BringingIn {
     const ScoreRecord before = scoreRecord(found_.contest, number, here);
     const ScoreRecord& other = scoreRecord(there_, number, there);
     ScoreRecord record = before;
-    const auto take = [&](ScoreValue value, auto ScoreRecord::*score) {
+    const JudgingClasses& classes = found_.contest.classes;
+    const auto take = [&](ScoreValue value, bool isCarried, auto ScoreRecord::*score) {
       if (!isEntered(value, other) || before.*score == other.*score) return;
       const bool isMissing = !isEntered(value, before);
-      if (isMissing) record.*score = other.*score;
-      (isMissing ? found_.broughtIn : found_.differing)
+      const bool isTaken = isMissing && isCarried;
+      if (isTaken) record.*score = other.*score;
+      (isTaken     ? found_.broughtIn
+       : isMissing ? found_.leftOut
+                   : found_.differing)
           .push_back({here, value, number, {before, other}});
     };
-    take(ScoreValue::letter, &ScoreRecord::letter);
-    take(ScoreValue::reasons, &ScoreRecord::reasonsScore);
-    take(ScoreValue::questions, &ScoreRecord::questionsScore);
+    take(ScoreValue::letter, true, &ScoreRecord::letter);
+    take(ScoreValue::reasons, classes.hasReasons(here), &ScoreRecord::reasonsScore);
+    take(ScoreValue::questions, classes.hasQuestions(here), &ScoreRecord::questionsScore);
     if (record == before) return;
-    const JudgingClasses& classes = found_.contest.classes;
     record.placingScore = placingScore(record.letter, classes.official(here), classes.cuts(here));
     found_.contest.scores[number][here] = record;
   }

@@ -91,6 +91,7 @@ class RosterMerge {
       const Side side = numbers[kOurs] ? kOurs : kTheirs;
       const Person* other = roster_.personOf[otherSide(side)].find(*numbers[side]);
       if (other == nullptr || !state_.staysPerson[*other]) continue;
+      if (numberLeftBy(roster_.people[*other]) != *numbers[side]) continue;
       if (!state_.nameOn(side, person).empty() || state_.isChanged(side, person)) continue;
       const auto& teams = in(side).teams;
       const bool hasTeam = std::any_of(teams.begin(), teams.end(), [&](const auto& team) {
@@ -99,6 +100,13 @@ class RosterMerge {
       });
       if (!hasTeam) state_.staysPerson[person] = false;
     }
+  }
+
+  // The number of somebody who keeps the one of the side that changed it.
+  static ContestantNumber numberLeftBy(const Three<ContestantNumber>& numbers) {
+    const auto& [base, ours, theirs] = numbers;
+    if (!ours) return *theirs;
+    return theirs && base == ours ? *theirs : *ours;
   }
 
   void addLost(DifferenceKind kind, std::string subject, Side keeper) {

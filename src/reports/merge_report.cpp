@@ -92,12 +92,16 @@ std::string broughtScoresReport(const BroughtScores& brought) {
   std::string out = "Scores brought in from another file\n\n";
   appendCount(out, brought.broughtIn.size(), "scores brought in");
   appendCount(out, brought.differing.size(), "scores differ; ours stay");
+  if (!brought.leftOut.empty()) {
+    appendCount(out, brought.leftOut.size(), "scores left out, as their class has no such scores");
+  }
   appendCount(out, brought.people.here.size() + brought.people.there.size(),
               "contestants left out");
   appendCount(out, brought.classes.here.size() + brought.classes.there.size(), "classes left out");
   const Contest& contest = brought.contest;
   appendScores(out, "Brought in", contest, brought.broughtIn, {"Before", "Now"});
   appendScores(out, "Differing", contest, brought.differing, {"Here", "There"});
+  appendScores(out, "Left out", contest, brought.leftOut, {"Here", "There"});
   appendLines(out, "Contestants only here", brought.people.here);
   appendLines(out, "Contestants only there", brought.people.there);
   appendLines(out, "Classes only here", brought.classes.here);

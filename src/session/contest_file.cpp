@@ -31,16 +31,30 @@ constexpr const char* kNotSaved =
     "Select File->Save As and save your file to another location.\r\n"
     "Again, your file did NOT save!  Please use File->Save As to ensure your work is saved.\r\n";
 
+struct KeptSave {
+  bool isSaved = false;
+  Keeping old = Keeping::known;  ///< what became of that which the save replaced
+  bool hasChanged = false;       ///< not saved, as the file holds something newer
+};
+
 /// Keeps what the save replaces. On a disk too full for both the save comes first.
-bool saveAndKeepOld(const std::string& path, const std::optional<std::string>& old,
-                    std::string_view bytes) {
+KeptSave saveAndKeepOld(const std::string& path, const std::optional<std::string>& old,
+                        std::string_view bytes, bool onlyOverOld) {
   FileSystem& files = sessionFiles();
-  const bool isKept = isKeepingWork() && old && *old != bytes &&
-                      keepEarlierSave(files, path, *old, false) == Keeping::kept;
-  if (saveSafely(files, path, bytes)) return true;
-  if (!isKept) return false;
+  KeptSave save;
+  if (isKeepingWork() && old && *old != bytes) {
+    save.old = keepEarlierSave(files, path, *old, false);
+  }
+  const auto mayReplace = [&] {
+    save.hasChanged = onlyOverOld && files.readWhole(path) != old;
+    return !save.hasChanged;
+  };
+  save.isSaved = saveSafely(files, path, bytes, mayReplace);
+  if (save.isSaved || save.hasChanged || save.old != Keeping::kept) return save;
   forgetNewestSave(files, path);
-  return saveSafely(files, path, bytes);
+  save.old = Keeping::failed;
+  save.isSaved = saveSafely(files, path, bytes, mayReplace);
+  return save;
 }
 
 /// A file that another program is just putting in place may refuse to be read for a moment.
@@ -66,15 +80,25 @@ bool isUnreadableFile(FileSystem& files, const std::string& path) {
 enum class OthersWork { takenIn, replaced };
 enum class Saving { done, failed, perhapsReplacedOthersWork };
 
+constexpr int kAttempts = 3;
+
 Saving save(OthersWork othersWork) {
   FileSystem& files = sessionFiles();
   const std::string& path = currentFileName();
   const SaveLock lock(files, path);
-  const std::optional<std::string> old = readPatiently(files, path);
-  if (!old && isUnreadableFile(files, path)) return Saving::failed;
-  if (othersWork == OthersWork::takenIn) takeInBeforeSaving(old, lock.isHeld());
-  const std::string bytes = writeContest(currentContest());
-  if (!saveAndKeepOld(path, old, bytes)) return Saving::failed;
+  std::string bytes;
+  for (int attempt = 1;; ++attempt) {
+    const std::optional<std::string> old = readPatiently(files, path);
+    if (!old && isUnreadableFile(files, path)) return Saving::failed;
+    const bool takesIn = othersWork == OthersWork::takenIn;
+    const bool isToldOf = takesIn && takeInBeforeSaving(old, lock.isHeld());
+    bytes = writeContest(currentContest());
+    const bool canLookAgain = takesIn && !lock.isHeld() && attempt < kAttempts;
+    const KeptSave result = saveAndKeepOld(path, old, bytes, canLookAgain);
+    if (isToldOf && result.old == Keeping::failed) othersWorkWasNotKept();
+    if (result.isSaved) break;
+    if (!result.hasChanged) return Saving::failed;
+  }
   if (lock.isHeld()) {
     knowFile(bytes);
   } else {
@@ -94,7 +118,9 @@ void sayNotSaved(Window& owner) {
 void saveToCurrentFile(Window& owner, OthersWork othersWork) {
   Saving saving = save(othersWork);
   // Whoever could not get the lock may have saved at the same moment as the one that has it.
-  if (saving == Saving::perhapsReplacedOthersWork && takeInOthersWork()) {
+  for (int attempt = 1;
+       saving == Saving::perhapsReplacedOthersWork && attempt < kAttempts && takeInOthersWork();
+       ++attempt) {
     saving = save(OthersWork::takenIn);
   }
   if (saving == Saving::failed) return sayNotSaved(owner);
@@ -123,7 +149,8 @@ void showFault(Window& owner, const ContestFault& fault, const std::string& path
 void finishSave(Window& owner, const std::string& path, const LoadedContest& loaded) {
   FileSystem& files = sessionFiles();
   const SaveLock lock(files, path);
-  const bool isSaved = saveAndKeepOld(path, readPatiently(files, path), loaded.bytes);
+  const bool isSaved =
+      saveAndKeepOld(path, readPatiently(files, path), loaded.bytes, false).isSaved;
   if (isSaved) {
     files.remove(loaded.copy);
     knowFile(loaded.bytes);
@@ -224,7 +251,7 @@ void saveContestAs(Window& owner) {
 
 bool saveElsewhere(const std::string& path, std::string_view bytes) {
   const SaveLock lock(sessionFiles(), path);
-  return saveAndKeepOld(path, sessionFiles().readWhole(path), bytes);
+  return saveAndKeepOld(path, sessionFiles().readWhole(path), bytes, false).isSaved;
 }
 
 }  // namespace scorvane

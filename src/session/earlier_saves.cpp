@@ -160,8 +160,10 @@ Keeping keepEarlierSave(FileSystem& files, const std::string& contestPath, std::
   if (files.localDataFolder().empty() || bytes.size() > kMostBytes) return Keeping::failed;
   const std::string folder = folderOf(files, contestPath);
   if (!files.makeFolders(folder)) return Keeping::failed;
-  // Another program must not take the same number.
-  const auto lock = files.lockForSaving(folder + kNoteName);
+  // Another program must not take the same number. It needs a moment for it; a save is not to wait
+  // for one that hangs.
+  constexpr int kPatience = 200;
+  const auto lock = files.lockForSaving(folder + kNoteName, kPatience);
   const KeptFiles kept = keptIn(files, folder, contestPath);
   if (!kept.saves.empty() && kept.saves[0].size == bytes.size() &&
       readEarlierSave(files, kept.saves[0]) == bytes) {

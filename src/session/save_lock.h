@@ -18,7 +18,7 @@ class SaveLock {
   SaveLock& operator=(const SaveLock&) = delete;
   ~SaveLock() = default;
 
-  /// Whether nobody else saves. A folder that takes no second file has to do without that one.
+  /// Whether certainly nobody else saves. A folder that takes no second file has to do without.
   [[nodiscard]] bool isHeld() const { return isHeld_; }
 
  private:

@@ -43,32 +43,57 @@ Known& known() {
 
 // Times of files are as coarse as two seconds, so content read sooner after a time was first seen
 // may be followed by other content with the same time. The clock of a share may be anyone's.
-void see(const std::optional<FileStamp>& stamp) {
-  constexpr std::int64_t kCoarsest = 3 * kTicksPerSecond;
-  const std::int64_t now = sessionFiles().now();
-  if (stamp != known().stamp) {
-    known().stamp = stamp;
-    known().stampSince = now;
-  }
-  known().isSettled = now - known().stampSince >= kCoarsest;
+constexpr std::int64_t kCoarsest = 3 * kTicksPerSecond;
+
+void seeAnew(const std::optional<FileStamp>& stamp) {
+  known().stamp = stamp;
+  known().stampSince = sessionFiles().now();
+  known().isSettled = false;
 }
 
 void know(std::string_view bytes) {
   const std::string& path = currentFileName();
   if (known().path != path) known() = {path, 0, {}, {}, 0, false};
   known().hash = contentHash(bytes);
-  see(sessionFiles().stamp(path));
+  seeAnew(sessionFiles().stamp(path));
+}
+
+// Who reads the file and replaces it without a lock has done so by now.
+bool hasStayed() {
+  constexpr std::int64_t kLongestSave = 60 * kTicksPerSecond;
+  return sessionFiles().now() - known().stampSince >= kLongestSave;
 }
 
 bool isKnown() {
   return !currentFileName().empty() && known().path == currentFileName();
 }
 
+// A later merge, or the operator, may have moved the classes.
+void followClasses(Merge& news, const JudgingClasses& now) {
+  std::vector<std::optional<std::int32_t>> indexNow(
+      static_cast<std::size_t>(news.contest.classes.count()));
+  for (const ClassMatch& match : matchClasses(news.contest.classes, now)) {
+    if (match.here) indexNow[static_cast<std::size_t>(*match.here)] = match.there;
+  }
+  const auto indexOf = [&](const ContestantScore& score) {
+    return indexNow[static_cast<std::size_t>(score.classIndex)];
+  };
+  std::erase_if(news.scores, [&](const ContestantScore& score) { return !indexOf(score); });
+  for (ContestantScore& score : news.scores) score.classIndex = *indexOf(score);
+  news.contest.classes = now;
+}
+
 void append(Merge& to, const Merge& from) {
+  followClasses(to, from.contest.classes);
   to.values.insert(to.values.end(), from.values.begin(), from.values.end());
   to.scores.insert(to.scores.end(), from.scores.begin(), from.scores.end());
   to.lostRemovals.insert(to.lostRemovals.end(), from.lostRemovals.begin(), from.lostRemovals.end());
   to.numbers.insert(to.numbers.end(), from.numbers.begin(), from.numbers.end());
+}
+
+std::size_t countOf(const Merge& merge) {
+  return merge.values.size() + merge.scores.size() + merge.lostRemovals.size() +
+         merge.numbers.size();
 }
 
 using Replaced = SharingNews::Replaced;
@@ -86,10 +111,11 @@ Replaced takeIn(const std::string& bytes, Theirs whole) {
   Merge merge = mergeContests(*ancestor, currentContest(), *theirs);
   const bool hasSameNumbers = merge.numbers.empty() &&
                               merge.contest.classes.className == currentContest().classes.className;
-  currentContest() = std::move(merge.contest);
   addNews(merge);
-  if (whole == Theirs::keep && !merge.isSmooth() && isKeepingWork()) {
-    keepEarlierSave(sessionFiles(), currentFileName(), bytes, false);
+  currentContest() = std::move(merge.contest);
+  if (whole == Theirs::keep && !merge.isSmooth() && isKeepingWork() &&
+      keepEarlierSave(sessionFiles(), currentFileName(), bytes, false) == Keeping::failed) {
+    othersWorkWasNotKept();
   }
   known().hash = contentHash(bytes);
   known().ancestor = bytes;
@@ -117,12 +143,14 @@ bool takeInOthersWork() {
   if (!isKnown()) return false;
   FileSystem& files = sessionFiles();
   const std::string path = currentFileName();
-  // Before the content, so that content that is newer than this is read again.
+  // Both before the content, so that content that is newer than this is read again.
+  const std::int64_t now = files.now();
   const auto stamp = files.stamp(path);
   if (!stamp || (stamp == known().stamp && known().isSettled)) return false;
   const auto bytes = files.readWhole(path);
   if (!bytes) return false;
-  see(stamp);
+  if (stamp != known().stamp) seeAnew(stamp);
+  known().isSettled = now - known().stampSince >= kCoarsest;
   const std::uint64_t hash = contentHash(*bytes);
   if (hash == known().hash || hash == sharing().refusedHash) return false;
   if (takeIn(*bytes, Theirs::keep) == Replaced::nothing) return true;
@@ -138,13 +166,17 @@ bool takeInBeforeSaving(const std::optional<std::string>& found, bool isLocked) 
     return false;
   }
   if (contentHash(*found) == known().hash) {
-    if (isLocked) known().ancestor = *found;
+    if (isLocked || hasStayed()) known().ancestor = *found;
     return false;
   }
+  const std::size_t before = countOf(sharing().news.merge);
   const Replaced replaced = takeIn(*found, Theirs::willBeKept);
-  if (replaced == Replaced::nothing) return true;
-  sharing().news.replaced = replaced;
-  return false;
+  if (replaced != Replaced::nothing) sharing().news.replaced = replaced;
+  return replaced != Replaced::nothing || countOf(sharing().news.merge) > before;
+}
+
+void othersWorkWasNotKept() {
+  sharing().news.isKept = false;
 }
 
 void addNews(const Merge& merge) {
@@ -163,6 +195,8 @@ std::optional<SharingNews> takeNews() {
   if (!std::exchange(sharing().mayTell, false)) return std::nullopt;
   SharingNews news = std::exchange(sharing().news, {});
   if (news.replaced == Replaced::nothing && news.merge.isSmooth()) return std::nullopt;
+  followClasses(news.merge, currentContest().classes);
+  sortAsCardsLie(currentContest(), news.merge.scores);
   news.merge.contest = currentContest();
   return news;
 }

@@ -12,7 +12,8 @@ namespace scorvane {
 
 /// What the operator has to hear about once the contest is saved.
 struct SharingNews {
-  Merge merge;  ///< with the contest as it was saved
+  Merge merge;         ///< with the contest as it was saved
+  bool isKept = true;  ///< whether all that others had saved is among the earlier saves
   /// What a save replaced, or did not find, instead of this contest.
   enum class Replaced { nothing, anotherContest, noContest, missingFile };
   Replaced replaced = Replaced::nothing;
@@ -32,8 +33,10 @@ void forgetFile();
 bool takeInOthersWork();
 
 /// The same with what a save has found in the file; nothing when that is gone. What is not this
-/// contest is news.
+/// contest is news. Whether the news tell that what was found is among the earlier saves.
 bool takeInBeforeSaving(const std::optional<std::string>& found, bool isLocked);
+/// It could not be kept as one.
+void othersWorkWasNotKept();
 
 /// To be told once the contest is saved.
 void addNews(const Merge& merge);

@@ -119,7 +119,7 @@ Loading loadContestFile(FileSystem& files, const std::string& path) {
   if (fault != nullptr && fault->kind == ContestFault::unreadable) return loading;
   if (!copyOf(files, path, loading)) return loading;
   // Perhaps another program is at it.
-  const auto lock = files.lockForSaving(path);
+  const auto lock = files.lockForSaving(path, FileSystem::kSavePatience);
   loading = asContest(readContestBytes(files, path));
   auto copy = copyOf(files, path, loading);
   return copy ? Loading(std::move(*copy)) : std::move(loading);

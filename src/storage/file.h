@@ -133,9 +133,10 @@ class FileSystem {
     std::shared_ptr<void> hold;                 ///< with `done` only; destroying it ends the claim
   };
   /// Keeps other copies of the program on this machine from saving to the same path until the
-  /// result is destroyed. Waits for at most five seconds: a lock that cannot be had is no reason
-  /// not to save.
-  [[nodiscard]] virtual Claim lockForSaving(const std::string& path) = 0;
+  /// result is destroyed. Waits for at most so many milliseconds: a lock that cannot be had is no
+  /// reason not to save.
+  [[nodiscard]] virtual Claim lockForSaving(const std::string& path, int patience) = 0;
+  static constexpr int kSavePatience = 5000;
 
   /// Opens a file for writing behind its content; makes it when there is none.
   [[nodiscard]] virtual Opened openToAppend(const std::string& path) = 0;

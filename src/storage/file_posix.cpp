@@ -243,14 +243,14 @@ class PosixFileSystem : public FileSystem {
   }
 
   // Locks the folder, since every save replaces the file by another one.
-  Claim lockForSaving(const std::string& path) override {
+  Claim lockForSaving(const std::string& path, int patience) override {
     auto lock = std::make_shared<SaveLock>(
         ::open(folderOf(resolve(path).value_or(path)).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    constexpr int kMostAttempts = 500;
-    for (int i = 0; i < kMostAttempts; ++i) {
+    constexpr int kPause = 10;
+    for (int waited = 0; waited < patience; waited += kPause) {
       if (::flock(lock->folder.number(), LOCK_EX | LOCK_NB) == 0) return {FileOutcome::done, lock};
       if (errno != EWOULDBLOCK) return {};
-      pause(10);
+      pause(kPause);
     }
     return {FileOutcome::denied, nullptr};
   }

@@ -287,13 +287,12 @@ class WindowsFileSystem : public FileSystem {
   void pause(int milliseconds) override { Sleep(static_cast<DWORD>(milliseconds)); }
 
   // One lock for all paths, as one file has many names. Windows frees that of a killed program.
-  Claim lockForSaving(const std::string& /*path*/) override {
-    constexpr DWORD kPatience = 5000;
+  Claim lockForSaving(const std::string& /*path*/, int patience) override {
     std::shared_ptr<void> lock(CreateMutexA(nullptr, FALSE, "Scorvane saves"), [](HANDLE mutex) {
       ReleaseMutex(mutex);
       CloseHandle(mutex);
     });
-    const DWORD waited = WaitForSingleObject(lock.get(), kPatience);
+    const DWORD waited = WaitForSingleObject(lock.get(), static_cast<DWORD>(patience));
     const bool isHeld = waited == WAIT_OBJECT_0 || waited == WAIT_ABANDONED;
     return {isHeld ? FileOutcome::done : FileOutcome::denied, isHeld ? std::move(lock) : nullptr};
   }

@@ -74,15 +74,16 @@ TemporaryCopy writeCopy(FileSystem& files, const Name& name, std::string_view by
 }
 
 /// Virus scanners and indexers keep fresh files open for some hundred milliseconds.
-FileOutcome replacePatiently(FileSystem& files, const std::string& from, const std::string& to) {
+FileOutcome replacePatiently(FileSystem& files, const std::string& from, const std::string& to,
+                             const std::function<bool()>& mayReplace) {
   constexpr int kReplacings = 10;
   constexpr int kLongerEachTime = 25;
-  FileOutcome outcome = files.replace(from, to);
-  for (int attempt = 1; outcome == FileOutcome::denied && attempt <= kReplacings; ++attempt) {
+  for (int attempt = 1;; ++attempt) {
+    if (!mayReplace()) return FileOutcome::failed;
+    const FileOutcome outcome = files.replace(from, to);
+    if (outcome != FileOutcome::denied || attempt > kReplacings) return outcome;
     files.pause(attempt * kLongerEachTime);
-    outcome = files.replace(from, to);
   }
-  return outcome;
 }
 
 bool writeStart(FileSystem& files, const std::string& target, std::string_view bytes) {
@@ -124,7 +125,8 @@ InPlace overwrite(FileSystem& files, const std::string& target, std::string_view
 }
 
 // A program killed meanwhile must leave a whole copy somewhere.
-bool saveInPlace(FileSystem& files, const std::string& target, std::string_view bytes) {
+bool saveInPlace(FileSystem& files, const std::string& target, std::string_view bytes,
+                 const std::function<bool()>& mayReplace) {
   const std::optional<std::string> old = files.readWhole(target);
   if (!old) return false;
   const std::string tail = copyTail(*old, bytes);
@@ -136,7 +138,7 @@ bool saveInPlace(FileSystem& files, const std::string& target, std::string_view 
     copy = writeCopy(files, name, bytes, tail);
   }
   if (copy.outcome != FileOutcome::done) return false;
-  const InPlace result = overwrite(files, target, *old, bytes);
+  const InPlace result = mayReplace() ? overwrite(files, target, *old, bytes) : InPlace::oldKept;
   // When the old content could not be put back, the copy is the only whole one. Once all is well,
   // those that other saves left are of no use either.
   const int first = result == InPlace::saved ? 1 : copy.attempt;
@@ -162,12 +164,13 @@ std::optional<std::string> wholeCopy(FileSystem& files, const std::string& path,
 
 }  // namespace
 
-bool saveSafely(FileSystem& files, const std::string& path, std::string_view bytes) {
+bool saveSafely(FileSystem& files, const std::string& path, std::string_view bytes,
+                const std::function<bool()>& mayReplace) {
   const std::optional<std::string> target = files.resolve(path);
   if (!target) return false;
   const std::optional<FileStatus> status = files.status(*target);
   if (!status || (status->exists && (!status->isRegular || status->isReadOnly))) return false;
-  if (status->hasOtherNames) return saveInPlace(files, *target, bytes);
+  if (status->hasOtherNames) return saveInPlace(files, *target, bytes, mayReplace);
 
   const auto name = [&](int attempt) {
     return files.temporaryName(*target, FileSystem::Place::beside, attempt);
@@ -175,10 +178,11 @@ bool saveSafely(FileSystem& files, const std::string& path, std::string_view byt
   const TemporaryCopy copy = writeCopy(files, name, bytes, "");
   FileOutcome outcome = copy.outcome;
   if (outcome == FileOutcome::done) {
-    outcome = replacePatiently(files, copy.path, *target);
+    outcome = replacePatiently(files, copy.path, *target, mayReplace);
     if (outcome != FileOutcome::done) files.remove(copy.path);
   }
-  if (outcome == FileOutcome::denied && status->exists) return saveInPlace(files, *target, bytes);
+  if (outcome == FileOutcome::denied && status->exists)
+    return saveInPlace(files, *target, bytes, mayReplace);
   return outcome == FileOutcome::done;
 }
 

@@ -1,6 +1,7 @@
 // Saving so that the last good file is never at risk.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,8 +16,11 @@ namespace scorvane {
 /// overwritten in place instead: room is made first, the old content is put back on failure, and
 /// a copy (beside it or in the folder for temporary files) is kept until all is well. Meanwhile the
 /// file begins with kUnfinishedMark. False when the content was not saved; the old file is then
-/// whole. A read-only file is never written.
-[[nodiscard]] bool saveSafely(FileSystem& files, const std::string& path, std::string_view bytes);
+/// whole. A read-only file is never written. `mayReplace` is asked at the last moment before the
+/// old content goes.
+[[nodiscard]] bool saveSafely(
+    FileSystem& files, const std::string& path, std::string_view bytes,
+    const std::function<bool()>& mayReplace = [] { return true; });
 
 /// The copy of a save in place that was never finished.
 struct UnfinishedSave {

@@ -84,7 +84,7 @@ TEST(Import, WritesAllOrNothing) {
 // What somebody else saved meanwhile is not written over.
 TEST(Import, RespectsWhatOthersSaved) {
   struct SharedFiles : ImportFiles {
-    Claim lockForSaving(const std::string& path) override {
+    Claim lockForSaving(const std::string& path, int /*patience*/) override {
       files[path].content = "saved meanwhile";
       return {FileOutcome::done, nullptr};
     }

@@ -84,12 +84,14 @@ TEST(ContestMerge, GivesClashingTeamsOtherNumbers) {
 
 TEST(BringInScores, TakesOverWhatIsMissing) {
   ContestBuilder builder;
-  builder.addClass({.name = "Steers"}).addClass({.name = "Ewes"}).team("Ash", "", {"An", "Ben"});
+  builder.addClass({.name = "Steers"})
+      .addClass({.name = "Ewes", .questions = true})
+      .team("Ash", "", {"An", "Ben"});
   builder.placings(101, "A").placings(102, "B");
   const Contest here = builder.contest;
   Contest there = here;
   there.scores[101][0].letter = 'C';
-  there.scores[101][1] = {'D', 0, 30, 0};
+  there.scores[101][1] = {'D', 0, 30, 30};
   there.scores[102][0].letter = kNoLetter;
   there.contestantNames[102] = "Bo";
   const BroughtScores brought = bringInScores(here, there);
@@ -98,8 +100,9 @@ TEST(BringInScores, TakesOverWhatIsMissing) {
   EXPECT_EQ(brought.people.here, std::vector<std::string>{"102 Ben"});
   EXPECT_EQ(brought.people.there, std::vector<std::string>{"102 Bo"});
   EXPECT_EQ(scoreRecord(brought.contest, 101, 0), scoreRecord(here, 101, 0));
+  EXPECT_EQ(brought.leftOut.size(), 1U) << "the class has no reasons";
   EXPECT_EQ(scoreRecord(brought.contest, 101, 1),
-            (ScoreRecord{'D', placingScore('D', 'A', {2, 3, 4}), 30, 0}));
+            (ScoreRecord{'D', placingScore('D', 'A', {2, 3, 4}), 0, 30}));
 }
 
 TEST(ContestMerge, KnowsAnotherContest) {

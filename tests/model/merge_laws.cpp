@@ -270,9 +270,10 @@ bool isKnownByName(const Contest& base, const Contest& side, const Contest& merg
                           const std::vector<std::string>& now,
                           const std::vector<std::string>& after) {
     const auto isUnclear = [&](const std::string& name) {
-      return std::count(after.begin(), after.end(), name) > 1;
+      return std::count(after.begin(), after.end(), name) > 1 ||
+             std::count(now.begin(), now.end(), name) > 1;
     };
-    if (before == after) return true;
+    if (before == after && now == after) return true;
     if (std::any_of(before.begin(), before.end(), isUnclear)) return false;
     if (after.size() == before.size()) return true;
     const std::vector<ClassMatch> matches = matchNames(before, now, true);
@@ -315,8 +316,11 @@ std::string brokenMergeLaw(const Contest& base, const Contest& ours, const Conte
   const auto isClear = [](const Merge& m) {
     return m.values.empty() && m.scores.empty() && m.numbers.empty();
   };
-  if (isClear(merge) != isClear(back)) return "both sides find the same to differ";
-  if (isClear(merge) && merge.contest != back.contest) return "both sides merge alike";
+  // Other numbers that one side gave are news for the other one only.
+  const bool isRenumbered = merge.numbers.empty() != back.numbers.empty();
+  if (!isRenumbered && isClear(merge) != isClear(back)) return "both sides find the same to differ";
+  if (isClear(merge) && isClear(back) && merge.contest != back.contest)
+    return "both sides merge alike";
   // An older ancestor than what was read last knows less of new numbers and of what stayed.
   const bool isAllKnown = merge.numbers.empty() && merge.lostRemovals.empty() &&
                           isKnownByName(base, ours, merge.contest) &&

@@ -124,7 +124,7 @@ TEST_F(ContestCommands, SavesToTheCurrentFileOrAsksForOneOrSaysThatItCouldNot) {
 TEST_F(ContestCommands, WaitsWhileAnotherCopyOfTheProgramSaves) {
   EXPECT_TRUE(openContest(window, path));
   currentContest().settings.contestName = "Ours";
-  auto lock = systemFiles().lockForSaving(path);
+  auto lock = systemFiles().lockForSaving(path, FileSystem::kSavePatience);
   std::atomic<bool> isSaved = false;
   std::thread saving([&] {
     saveCurrent(window);

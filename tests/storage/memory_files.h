@@ -114,7 +114,9 @@ class MemoryFiles : public FileSystem {
     return (place == Place::beside ? path : "temporary/" + path) + "." + std::to_string(attempt);
   }
   void pause(int milliseconds) override { pausedFor += milliseconds; }
-  Claim lockForSaving(const std::string& /*path*/) override { return {FileOutcome::done, nullptr}; }
+  Claim lockForSaving(const std::string& /*path*/, int /*patience*/) override {
+    return {FileOutcome::done, nullptr};
+  }
   Opened openToAppend(const std::string& path) override {
     if (fails() || isProtected(path)) return {failure, nullptr};
     File& file = files[path];
