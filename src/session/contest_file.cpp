@@ -91,11 +91,11 @@ Saving save(OthersWork othersWork) {
     const std::optional<std::string> old = readPatiently(files, path);
     if (!old && isUnreadableFile(files, path)) return Saving::failed;
     const bool takesIn = othersWork == OthersWork::takenIn;
-    const bool isToldOf = takesIn && takeInBeforeSaving(old, lock.isHeld());
+    if (takesIn) takeInBeforeSaving(old, lock.isHeld());
     bytes = writeContest(currentContest());
     const bool canLookAgain = takesIn && !lock.isHeld() && attempt < kAttempts;
     const KeptSave result = saveAndKeepOld(path, old, bytes, canLookAgain);
-    if (isToldOf && result.old == Keeping::failed) othersWorkWasNotKept();
+    if (result.isSaved) foundWasReplaced(result.old != Keeping::failed);
     if (result.isSaved) break;
     if (!result.hasChanged) return Saving::failed;
   }

@@ -30,6 +30,7 @@ struct Sharing {
   std::uint64_t refusedHash = 0;  ///< of what a look found and could not take in
   SharingNews news;
   bool mayTell = false;
+  bool mustKeepFound = false;  ///< as the news tell of what a save is about to replace
 };
 
 Sharing& sharing() {
@@ -115,7 +116,7 @@ Replaced takeIn(const std::string& bytes, Theirs whole) {
   currentContest() = std::move(merge.contest);
   if (whole == Theirs::keep && !merge.isSmooth() && isKeepingWork() &&
       keepEarlierSave(sessionFiles(), currentFileName(), bytes, false) == Keeping::failed) {
-    othersWorkWasNotKept();
+    sharing().news.isKept = false;
   }
   known().hash = contentHash(bytes);
   known().ancestor = bytes;
@@ -158,25 +159,27 @@ bool takeInOthersWork() {
   return false;
 }
 
-bool takeInBeforeSaving(const std::optional<std::string>& found, bool isLocked) {
-  if (!isKnown()) return false;
+void takeInBeforeSaving(const std::optional<std::string>& found, bool isLocked) {
+  if (!isKnown()) return;
   if (!found) {
     const auto status = sessionFiles().status(currentFileName());
     if (status && !status->exists) sharing().news.replaced = Replaced::missingFile;
-    return false;
+    return;
   }
   if (contentHash(*found) == known().hash) {
     if (isLocked || hasStayed()) known().ancestor = *found;
-    return false;
+    return;
   }
   const std::size_t before = countOf(sharing().news.merge);
   const Replaced replaced = takeIn(*found, Theirs::willBeKept);
   if (replaced != Replaced::nothing) sharing().news.replaced = replaced;
-  return replaced != Replaced::nothing || countOf(sharing().news.merge) > before;
+  if (replaced != Replaced::nothing || countOf(sharing().news.merge) > before) {
+    sharing().mustKeepFound = true;
+  }
 }
 
-void othersWorkWasNotKept() {
-  sharing().news.isKept = false;
+void foundWasReplaced(bool isKept) {
+  if (std::exchange(sharing().mustKeepFound, false) && !isKept) sharing().news.isKept = false;
 }
 
 void addNews(const Merge& merge) {

@@ -33,10 +33,10 @@ void forgetFile();
 bool takeInOthersWork();
 
 /// The same with what a save has found in the file; nothing when that is gone. What is not this
-/// contest is news. Whether the news tell that what was found is among the earlier saves.
-bool takeInBeforeSaving(const std::optional<std::string>& found, bool isLocked);
-/// It could not be kept as one.
-void othersWorkWasNotKept();
+/// contest is news.
+void takeInBeforeSaving(const std::optional<std::string>& found, bool isLocked);
+/// The save has replaced what was found, and whether that is among the earlier saves.
+void foundWasReplaced(bool isKept);
 
 /// To be told once the contest is saved.
 void addNews(const Merge& merge);

@@ -190,7 +190,8 @@ std::int32_t valueOf(const ScoreRecord& record, ScoreValue value) {
                                         : record.questionsScore;
 }
 
-// Looks for each score that a side entered, by its number or the one it was given, and its class.
+// Looks for each score that a side entered, by its number or the one it was given, by whichever
+// side, and its class.
 bool hasEveryScoreOf(const Contest& base, const Contest& side, const Merge& merge,
                      ScoreRecord Sides<ScoreRecord>::*own) {
   std::vector<std::optional<std::int32_t>> before(static_cast<std::size_t>(side.classes.count()));
@@ -210,6 +211,9 @@ bool hasEveryScoreOf(const Contest& base, const Contest& side, const Merge& merg
     std::vector<ContestantNumber> numbers = {number};
     for (const NumberChange& change : merge.numbers) {
       if (change.from == number) numbers.push_back(change.to);
+    }
+    for (const auto& [other, name] : merge.contest.contestantNames) {
+      if (!name.empty() && name == contestantName(side, number)) numbers.push_back(other);
     }
     for (const auto& [k, record] : records) {
       const auto index = static_cast<std::size_t>(k);

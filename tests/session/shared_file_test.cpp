@@ -24,18 +24,28 @@ namespace {
 const std::string kPath = "county.scv";
 constexpr auto kTwoSeconds = 2 * kTicksPerSecond;
 
-/// A disk that others can write to right after this program has.
+/// A disk that others can write to right before and after this program has, and that may be slow.
 struct SharedDisk : MemoryFiles {
   FileOutcome lockOutcome = FileOutcome::done;
-  std::function<void()> afterSave = nullptr;
+  std::function<void()> beforeSave = nullptr, afterSave = nullptr;
+  int othersSaves = 0;  ///< that are still to come after one of this program
+  std::int64_t slowness = 0;
 
   Claim lockForSaving(const std::string& /*path*/, int /*patience*/) override {
     return {lockOutcome, nullptr};
   }
   FileOutcome replace(const std::string& from, const std::string& to) override {
     const FileOutcome outcome = MemoryFiles::replace(from, to);
-    if (to == kPath && afterSave) std::exchange(afterSave, nullptr)();
+    if (to == kPath && othersSaves-- > 0) afterSave();
     return outcome;
+  }
+  Opened create(const std::string& path) override {
+    if (path.starts_with(kPath) && beforeSave) std::exchange(beforeSave, nullptr)();
+    return MemoryFiles::create(path);
+  }
+  std::unique_ptr<InputFile> openToRead(const std::string& path) override {
+    clock += slowness;
+    return MemoryFiles::openToRead(path);
   }
 };
 
@@ -108,10 +118,31 @@ TEST_F(SharedFile, HoldsEverybodysWorkAfterASave) {
   ASSERT_TRUE(news);
   ASSERT_EQ(news->merge.scores.size(), 1U);
   EXPECT_EQ(news->merge.scores[0].records.there.letter, 'E');
+  EXPECT_TRUE(news->isKept);
   EXPECT_FALSE(takeNews());
   const auto newest = readEarlierSave(disk, earlierSaves(disk, kPath).at(0));
   EXPECT_EQ(letters(std::get<Contest>(readContest(newest.value()))), "EB ");
   ASSERT_EQ(window.desktop.messages.size(), 1U);  // that of the save that failed
+}
+
+TEST_F(SharedFile, TellsOfTheClassByItsPositionNowAndOfWhatWasNotKept) {
+  type(101, 1, 'A');
+  othersSave(101, 1, 'E');
+  disk.localData.clear();
+  EXPECT_TRUE(takeInOthersWork());
+  currentContest().classes.remove(0);
+  newsMayBeTold();
+  const auto news = takeNews();
+  ASSERT_TRUE(news && news->merge.scores.size() == 1);
+  EXPECT_EQ(news->merge.scores[0].classIndex, 0);
+  EXPECT_FALSE(news->isKept);
+
+  currentContest().settings.contestName = "Ours";
+  Contest theirs = inFile();
+  theirs.settings.contestName = "Theirs";
+  put(writeContest(theirs));
+  saveCurrent(window);
+  EXPECT_EQ(takeNews().value().isKept, false);
 }
 
 TEST_F(SharedFile, IsLookedAtAgainOnlyWhileItsTimeMayHideAChange) {
@@ -119,9 +150,10 @@ TEST_F(SharedFile, IsLookedAtAgainOnlyWhileItsTimeMayHideAChange) {
   othersSave(102, 0, 'B');  // with the same size and time
   EXPECT_TRUE(takeInOthersWork());
   disk.clock += kTwoSeconds;
+  disk.slowness = kTwoSeconds;
   EXPECT_TRUE(looksAndReads());
-  disk.clock += kTwoSeconds;
-  EXPECT_TRUE(looksAndReads());
+  disk.slowness = 0;
+  EXPECT_TRUE(looksAndReads()) << "what changed while it was read";
   EXPECT_FALSE(looksAndReads());
   othersSave(102, 0, 'C');
   disk.calls = 0;
@@ -203,7 +235,8 @@ TEST_F(SharedFile, IsReplacedByNoOtherContest) {
 
 // Without the lock, somebody who read the file before may replace it at any moment.
 TEST_F(SharedFile, IsNotLostToASaveAtTheSameMoment) {
-  for (const bool isAtOnce : {true, false}) {
+  enum class Moment { before, after, later };
+  for (const Moment moment : {Moment::before, Moment::after, Moment::later}) {
     put(smallFile());
     start();
     type(101, 0, 'A');
@@ -212,10 +245,12 @@ TEST_F(SharedFile, IsNotLostToASaveAtTheSameMoment) {
       othersSave(102, 0, 'B');
     };
     disk.lockOutcome = FileOutcome::denied;
-    if (isAtOnce) disk.afterSave = replaceIt;
+    disk.afterSave = replaceIt;
+    if (moment == Moment::before) disk.beforeSave = replaceIt;
+    if (moment == Moment::after) disk.othersSaves = 2;
     saveCurrent(window);
-    if (isAtOnce) expectBothHold("AB ");
-    if (!isAtOnce) replaceIt();
+    if (moment == Moment::later) replaceIt();
+    if (moment != Moment::later) expectBothHold("AB ");
     disk.lockOutcome = FileOutcome::done;
     saveCurrent(window);
     expectBothHold("AB ");
