@@ -83,6 +83,14 @@ TEST_F(SharedWork, CountsInReportsAndDialogs) {
   };
   runCommand(32791, window);
   EXPECT_EQ(scoreRecord(currentContest(), 102, 0).letter, 'E');
+
+  // When it was taken in by the save at the end of a dialog.
+  window.operate = [&](MemoryDialog& dialog) {
+    othersSave([](Contest& theirs) { theirs.settings.contestName = "Hill Fair"; });
+    dialog.pressCloseBox();
+  };
+  runCommand(32791, window);
+  EXPECT_NE(window.log.find("fair.scv - Hill Fair"), std::string::npos) << window.log;
   EXPECT_TRUE(window.desktop.messages.empty());
 }
 
