@@ -34,6 +34,12 @@ bool saysYes(std::string_view cell) {
   return isOneOf(cell, kWords);
 }
 
+bool saysNo(std::string_view cell) {
+  static constexpr std::array<std::string_view, 9> kWords = {"",      "no",      "n",    "0",  "-",
+                                                             "false", "regular", "none", "n/a"};
+  return isOneOf(cell, kWords);
+}
+
 // Reads the rows of a sheet one by one.
 class RosterReader {
  public:
@@ -42,7 +48,7 @@ class RosterReader {
 
   /// Whether there was a team or a contestant.
   bool read() {
-    remarkOnRowsAbove();
+    remarkOnHeadings();
     for (std::size_t i = columns_.firstRow; i < sheet_.rows().size(); ++i) {
       readRow(sheet_.rows()[i]);
     }
@@ -50,7 +56,8 @@ class RosterReader {
   }
 
  private:
-  void remarkOnRowsAbove() {
+  void remarkOnHeadings() {
+    if (columns_.firstRow == 0) return;
     constexpr std::ptrdiff_t kMoreThanATitle = 2;
     for (std::size_t i = 0; i + 1 < columns_.firstRow; ++i) {
       const Sheet::Row& row = sheet_.rows()[i];
@@ -58,6 +65,10 @@ class RosterReader {
       for (std::size_t k = 0; k < row.cells; ++k) filled += sheet_.cell(row, k).empty() ? 0 : 1;
       if (filled < kMoreThanATitle) continue;
       planner_.remark(row.line, "This line is above the headings and is not read.");
+    }
+    if (columns_.areDoubtful) {
+      planner_.remark(sheet_.rows()[columns_.firstRow - 1].line,
+                      "This line was read as the headings.");
     }
   }
 
@@ -88,7 +99,8 @@ class RosterReader {
     if (!team.empty()) team_ = team;
     read.team = team_;
     read.coach = nameOf(row, columns_.coach);
-    const bool isFlagged = saysYes(cellOf(row, columns_.alternate));
+    const std::string_view flag = cellOf(row, columns_.alternate);
+    const bool isFlagged = saysYes(flag);
     for (const auto& [name, isAlternate] : columns_.members) {
       const std::string_view person = nameOf(row, name);
       if (!person.empty()) read.people.push_back({person, isAlternate || isFlagged});
@@ -97,6 +109,11 @@ class RosterReader {
     if (const auto problem = problemOf(row, read)) return planner_.refuse(row.line, *problem);
     if (team.empty() && read.people.empty() && read.coach.empty()) return;
     planner_.add(read);
+    if (!isFlagged && !saysNo(flag) && !read.people.empty()) {
+      planner_.remark(row.line, quotedName(flag) +
+                                    " is neither yes nor no: " + quotedName(read.people[0].name) +
+                                    " is taken for a regular member.");
+    }
     remarkOnChanges(row);
   }
 

@@ -56,15 +56,21 @@ void RosterPlanner::openSlots(OpenTeam& team, const Team* present) const {
   }
 }
 
+// The contest's team by its very name, or else one that reads the same; for a new team what its
+// spellings have in common, which is the name of none in the contest.
+std::string RosterPlanner::nameOrKey(std::string_view team) const {
+  std::string name(team);
+  if (contest_.teams.contains(name)) return name;
+  std::string key = keyOfName(team);
+  const auto alike = present_.find(key);
+  return alike == present_.end() ? key : *alike->second;
+}
+
 RosterPlanner::OpenTeam RosterPlanner::openTeam(const RosterRow& row,
-                                                const std::string& key) const {
+                                                const std::string& nameOrKey) const {
   OpenTeam team;
   team.line = row.line;
-  auto present = contest_.teams.find(std::string(row.team));
-  if (present == contest_.teams.end()) {
-    const auto alike = present_.find(key);
-    if (alike != present_.end()) present = contest_.teams.find(*alike->second);
-  }
+  const auto present = contest_.teams.find(nameOrKey);
   team.planned.isNew = present == contest_.teams.end();
   team.planned.name = team.planned.isNew ? std::string(row.team) : present->first;
   if (!team.planned.isNew) team.planned.coach = present->second.coach;
@@ -80,7 +86,7 @@ void RosterPlanner::add(const RosterRow& row) {
   std::optional<OpenTeam> fresh;
   std::string key;
   if (!last_ || row.team != lastName_) {
-    key = keyOfName(row.team);
+    key = nameOrKey(row.team);
     const auto known = opened_.find(key);
     lastName_ = row.team;
     last_.reset();

@@ -74,7 +74,8 @@ class RosterPlanner {
     std::optional<std::string> problem;
   };
 
-  [[nodiscard]] OpenTeam openTeam(const RosterRow& row, const std::string& key) const;
+  [[nodiscard]] std::string nameOrKey(std::string_view team) const;
+  [[nodiscard]] OpenTeam openTeam(const RosterRow& row, const std::string& nameOrKey) const;
   void openSlots(OpenTeam& team, const Team* present) const;
   [[nodiscard]] std::optional<std::string> problemOfNames(const RosterRow& row,
                                                           const OpenTeam& team) const;
@@ -93,7 +94,7 @@ class RosterPlanner {
   std::int64_t next_ = 0;      ///< the same after what is planned so far
   std::size_t regularSlots_ = 0;
   std::map<std::string, const std::string*> present_;  ///< the contest's teams by key
-  std::map<std::string, std::size_t> opened_;          ///< the sheet's teams by key
+  std::map<std::string, std::size_t> opened_;          ///< the sheet's teams by nameOrKey()
   std::vector<OpenTeam> teams_;                        ///< in the order of the sheet
   std::set<ContestantNumber> taken_;                   ///< numbers of the contest that were free
   std::string lastName_;                               ///< the row before had this team
