@@ -171,6 +171,12 @@ TEST(ContestCheck, FindsOnePlantedFaultAndNothingElse) {
   }
 }
 
+TEST(ContestCheck, FindsNothingInTheSamples) {
+  for (const char* sample : {"samples/county.scv", "samples/state.scv"}) {
+    EXPECT_EQ(contestCheckReport(contestOfFile(sample)), "Nothing is missing.\n");
+  }
+}
+
 TEST(ContestCheck, IsAsApproved) {
   Random random(1);
   const Contest clean = nothingMissing(random);

