@@ -131,14 +131,20 @@ std::optional<std::string> RosterPlanner::problemOfNames(const RosterRow& row,
          " and of its coach are too long together.  Shorten them.";
 }
 
+RosterPlanner::KnownMember* RosterPlanner::OpenTeam::find(std::uint32_t hash,
+                                                          std::string_view name) {
+  for (KnownMember& member : known) {
+    if (member.hash != hash) continue;
+    if (isSameName(member.isPlanned ? planned.members[member.name].name : present[member.name],
+                   name)) {
+      return &member;
+    }
+  }
+  return nullptr;
+}
+
 std::optional<std::string> RosterPlanner::findPlaces(const RosterRow& row, OpenTeam& team) {
   places_.clear();
-  const auto isKnown = [&](const KnownMember& member, std::uint32_t hash, std::string_view name) {
-    if (member.hash != hash) return false;
-    return isSameName(
-        member.isPlanned ? team.planned.members[member.name].name : team.present[member.name],
-        name);
-  };
   // Whoever comes later in the row finds no slot before these.
   std::size_t regular = 0;
   std::size_t alternate = regularSlots_;
@@ -146,25 +152,24 @@ std::optional<std::string> RosterPlanner::findPlaces(const RosterRow& row, OpenT
     while (slot < end && !isFree(team.slots[slot])) ++slot;
     return slot < end;
   };
-  for (const auto& [name, isAlternate] : row.people) {
-    const std::uint32_t hash = hashOfName(name);
-    const auto known = std::find_if(team.known.begin(), team.known.end(),
-                                    [&](auto& member) { return isKnown(member, hash, name); });
+  for (const RosterRow::Person& person : row.people) {
+    const std::uint32_t hash = hashOfName(person.name);
+    KnownMember* known = team.find(hash, person.name);
     std::size_t before = 0;
     while (before < places_.size() &&
-           (places_[before].hash != hash || !isSameName(row.people[before].name, name))) {
+           (places_[before].hash != hash || !isSameName(row.people[before].name, person.name))) {
       ++before;
     }
     const bool isInRow = before < places_.size();
-    if (isInRow || (known != team.known.end() && known->line > 0)) {
+    if (isInRow || (known != nullptr && known->line > 0)) {
       return formatText(
           "%s is in the team %s twice, also in line %d.  Take one out, or tell the two apart.",
-          quotedName(name).c_str(), quotedName(team.planned.name).c_str(),
+          quotedName(person.name).c_str(), quotedName(team.planned.name).c_str(),
           isInRow ? row.line : known->line);
     }
-    if (known != team.known.end()) {
-      places_.push_back({known->slot, hash, &*known});
-    } else if (!isAlternate && passTaken(regular, regularSlots_)) {
+    if (known != nullptr) {
+      places_.push_back({known->slot, hash, known});
+    } else if (!person.isAlternate && passTaken(regular, regularSlots_)) {
       places_.push_back({regular++, hash, nullptr});
     } else if (passTaken(alternate, team.slots.size())) {
       places_.push_back({alternate++, hash, nullptr});
@@ -172,8 +177,8 @@ std::optional<std::string> RosterPlanner::findPlaces(const RosterRow& row, OpenT
       return formatText(
           "The team %s has no %s left for %s.  Take somebody out, or raise the members of a team "
           "in Setup Contest.",
-          quotedName(team.planned.name).c_str(), isAlternate ? "alternate's place" : "place",
-          quotedName(name).c_str());
+          quotedName(team.planned.name).c_str(), person.isAlternate ? "alternate's place" : "place",
+          quotedName(person.name).c_str());
     }
   }
   return std::nullopt;

@@ -69,6 +69,8 @@ class RosterPlanner {
     std::size_t numberFields = 0;      ///< bytes of its line in the file that the numbers take
     std::int32_t line = 0;             ///< its first in the sheet
     std::string otherCoach;            ///< a second coach that was told of
+
+    KnownMember* find(std::uint32_t hash, std::string_view name);
   };
 
   // Where a person of a row goes: into a slot, or to where he or she is already.
