@@ -26,26 +26,54 @@ enum class Word {
 
 struct WordList {
   Word means;
-  std::string_view words;  // with a blank before and after each
+  std::string_view words;
 };
 constexpr std::array kWords = {
-    WordList{Word::team, " team club county chapter school organization organisation "},
-    WordList{Word::coach, " coach leader advisor adviser teacher agent "},
-    WordList{Word::contestant, " contestant member participant student judge "},
-    WordList{Word::name, " name "},
-    WordList{Word::alternate, " alternate alt "},
-    WordList{Word::first, " first forename "},
-    WordList{Word::last, " last surname "},
-    WordList{Word::ordinal, " second third fourth fifth sixth "},
+    WordList{Word::team, "team club county chapter school organization organisation"},
+    WordList{Word::coach, "coach leader advisor adviser teacher agent"},
+    WordList{Word::contestant, "contestant member participant student judge"},
+    WordList{Word::name, "name"},
+    WordList{Word::alternate, "alternate alt"},
+    WordList{Word::first, "first forename"},
+    WordList{Word::last, "last surname"},
+    WordList{Word::ordinal, "second third fourth fifth sixth"},
     WordList{
         Word::attribute,
-        " mail email phone telephone cell mobile fax address number num no id date timestamp "
+        "mail email phone telephone cell mobile fax address number num no id date timestamp "
         "time grade age birth dob birthday birthdate gender sex size zip fee paid note comment "
-        "shirt division type status "},
-    WordList{Word::relative, " parent guardian emergency group "},
+        "shirt division type status"},
+    WordList{Word::relative, "parent guardian emergency group"},
     WordList{Word::usual,
-             " a an and any are e for full h ffa if in is legal of official optional or please the "
-             "this to what who yes you your "}};
+             "a an and any are e for full h ffa if in is legal of official optional or please the "
+             "this to what who yes you your"}};
+
+struct KnownWord {
+  std::string_view word;
+  Word means = Word::unknown;
+};
+
+constexpr std::size_t kKnownWords = [] {
+  std::size_t count = 0;
+  for (const WordList& list : kWords) {
+    count += static_cast<std::size_t>(std::count(list.words.begin(), list.words.end(), ' ')) + 1;
+  }
+  return count;
+}();
+
+constexpr std::array<KnownWord, kKnownWords> kSortedWords = [] {
+  std::array<KnownWord, kKnownWords> sorted;
+  std::size_t next = 0;
+  for (const auto& [means, words] : kWords) {
+    for (std::size_t start = 0; start < words.size(); ++next) {
+      const std::size_t end = std::min(words.find(' ', start), words.size());
+      sorted[next] = {words.substr(start, end - start), means};
+      start = end + 1;
+    }
+  }
+  std::sort(sorted.begin(), sorted.end(),
+            [](const KnownWord& a, const KnownWord& b) { return a.word < b.word; });
+  return sorted;
+}();
 
 struct HeadingWord {
   std::string text;
@@ -87,10 +115,10 @@ std::string_view withoutEnd(std::string_view word, std::string_view end) {
 Word meaningOf(std::string_view word) {
   for (const std::string_view form : {word, withoutEnd(word, "s"), withoutEnd(word, "es")}) {
     if (form.empty()) return Word::usual;  // of "coach's"
-    const std::string wanted = ' ' + std::string(form) + ' ';
-    for (const auto& [means, words] : kWords) {
-      if (words.find(wanted) != std::string_view::npos) return means;
-    }
+    const auto* found = std::lower_bound(
+        kSortedWords.begin(), kSortedWords.end(), form,
+        [](const KnownWord& known, std::string_view wanted) { return known.word < wanted; });
+    if (found != kSortedWords.end() && found->word == form) return found->means;
   }
   return Word::unknown;
 }

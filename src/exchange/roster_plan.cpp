@@ -23,6 +23,7 @@ bool isOneOf(std::string_view cell, std::span<const std::string_view> words) {
 }
 
 bool isTotal(std::string_view cell) {
+  if (!cell.starts_with('T') && !cell.starts_with('t')) return false;  // nearly every row
   static constexpr std::array<std::string_view, 4> kWords = {"total", "totals",
                                                              "total:", "totals:"};
   return isOneOf(cell, kWords);
@@ -100,21 +101,25 @@ class RosterReader {
     read.team = team_;
     read.coach = nameOf(row, columns_.coach);
     const std::string_view flag = cellOf(row, columns_.alternate);
-    const bool isFlagged = saysYes(flag);
+    if (flag != lastFlag_) {
+      lastFlag_ = flag;
+      isFlagged_ = saysYes(flag);
+      isFlagClear_ = isFlagged_ || saysNo(flag);
+    }
     for (const auto& [name, isAlternate] : columns_.members) {
       const std::string_view person = nameOf(row, name);
-      if (!person.empty()) read.people.push_back({person, isAlternate || isFlagged});
+      if (!person.empty()) read.people.push_back({person, isAlternate || isFlagged_});
     }
     foundSomebody_ = foundSomebody_ || !team.empty() || !read.people.empty();
     if (const auto problem = problemOf(row, read)) return planner_.refuse(row.line, *problem);
     if (team.empty() && read.people.empty() && read.coach.empty()) return;
     planner_.add(read);
-    if (!isFlagged && !saysNo(flag) && !read.people.empty()) {
+    if (!isFlagClear_ && !read.people.empty()) {
       planner_.remark(row.line, quotedName(flag) +
                                     " is neither yes nor no: " + quotedName(read.people[0].name) +
                                     " is taken for a regular member.");
     }
-    remarkOnChanges(row);
+    if (sheet_.hasChanges()) remarkOnChanges(row);
   }
 
   std::optional<std::string> problemOf(const Sheet::Row& row, const RosterRow& read) const {
@@ -153,7 +158,10 @@ class RosterReader {
   RosterPlanner& planner_;
   RosterColumns columns_;
   RosterRow read_;
-  std::string_view team_;  ///< of the row above
+  std::string_view team_;      ///< of the row above
+  std::string_view lastFlag_;  ///< of the row above, and what it says
+  bool isFlagged_ = false;
+  bool isFlagClear_ = true;
   std::vector<std::string> joined_;
   bool foundSomebody_ = false;
 };
@@ -164,6 +172,7 @@ char separatorOf(const DecodedText& decoded) {
   char best = '\t';
   std::pair<std::size_t, std::ptrdiff_t> most;
   for (const char separator : {'\t', ';', ','}) {
+    if (decoded.text.find(separator) == std::string::npos) continue;
     const Sheet sheet(decoded, separator, kProbedRows);
     const std::pair told = {findColumns(sheet).kinds,
                             std::count_if(sheet.rows().begin(), sheet.rows().end(),

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 #include <optional>
 
 #include "text/unicode.h"
@@ -48,22 +50,23 @@ std::optional<char32_t> nextOfUtf8(std::string_view bytes, std::size_t& i) {
   return isSurrogate ? kNoCharacter : c;
 }
 
-bool isUtf8(std::string_view bytes) {
-  for (std::size_t i = 0; i < bytes.size();) {
-    if (byteAt(bytes, i) < 0x80) {
-      ++i;
-    } else if (!nextOfUtf8(bytes, i)) {
-      return false;
-    }
-  }
-  return true;
-}
-
 // How many characters from `i` on are ASCII.
 std::size_t asciiRun(std::string_view bytes, std::size_t i) {
+  constexpr std::uint64_t kOtherBits = 0x8080808080808080;
   std::size_t end = i;
+  for (std::uint64_t eight = 0; end + sizeof eight <= bytes.size(); end += sizeof eight) {
+    std::memcpy(&eight, bytes.data() + end, sizeof eight);
+    if ((eight & kOtherBits) != 0) break;
+  }
   while (end < bytes.size() && byteAt(bytes, end) < 0x80) ++end;
   return end - i;
+}
+
+bool isUtf8(std::string_view bytes) {
+  for (std::size_t i = asciiRun(bytes, 0); i < bytes.size(); i += asciiRun(bytes, i)) {
+    if (!nextOfUtf8(bytes, i)) return false;
+  }
+  return true;
 }
 
 // Hands every character of the file to `take`, runs of ASCII as such.
