@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "fuzz/checks.h"
+#include "model/contest_differences.h"
 #include "model/contest_findings.h"
 
 namespace scorvane {
@@ -65,6 +66,33 @@ void CardLedger::watch(const Contest& contest) {
                   : "setup leaves everybody's scores alone");
   }
   takeOver(contest);
+}
+
+CardLedger::Scores CardLedger::scores() const {
+  Scores scores;
+  for (const auto& [number, cards] : cards_) {
+    for (const auto& [k, record] : cards) {
+      if (isEntered(ScoreValue::letter, record)) ++scores[{0, record.letter}];
+      if (record.reasonsScore != 0) ++scores[{1, record.reasonsScore}];
+      if (record.questionsScore != 0) ++scores[{2, record.questionsScore}];
+    }
+  }
+  return scores;
+}
+
+void CardLedger::move(const Contest& contest) {
+  const std::map<ContestantNumber, Cards> cardsBefore = cards_;
+  const Scores before = scores();
+  enter(contest);
+  for (const auto& [score, count] : scores()) {
+    const auto found = before.find(score);
+    require(found != before.end() && count <= found->second, "a moved score was there before");
+  }
+  for (const auto& [number, cards] : cards_) {
+    const auto found = cardsBefore.find(number);
+    const bool isAsBefore = found == cardsBefore.end() ? cards.empty() : cards == found->second;
+    require(isAsBefore || present_.contains(number), "only contestants' scores are moved");
+  }
 }
 
 void CardLedger::checkFindings(const Contest& contest) const {

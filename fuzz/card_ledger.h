@@ -1,8 +1,10 @@
 // A ledger of cards, kept beside the contest: which scores were handed in under which number.
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <set>
+#include <utility>
 
 #include "model/contest.h"
 
@@ -18,6 +20,10 @@ class CardLedger {
   /// Ends the run when setup changed a score, or somebody came into the contest with one.
   void watch(const Contest& contest);
 
+  /// Ends the run when moving, exchanging or clearing made a score that nobody handed in, or
+  /// changed those of somebody who is no contestant.
+  void move(const Contest& contest);
+
   /// Ends the run unless contestFindings() tells exactly of the numbers and scores that are not one
   /// contestant's of one team and class.
   void checkFindings(const Contest& contest) const;
@@ -25,7 +31,10 @@ class CardLedger {
  private:
   using Cards = std::map<std::int32_t, ScoreRecord>;  ///< by class, those with a score
 
+  using Scores = std::map<std::pair<int, std::int64_t>, int>;  ///< how often by kind and value
+
   [[nodiscard]] static Cards cardsOf(const Contest& contest, ContestantNumber number);
+  [[nodiscard]] Scores scores() const;
   void takeOver(const Contest& contest);
 
   std::set<ContestantNumber> present_;

@@ -19,6 +19,8 @@ namespace {
 constexpr int kSetupClasses = 32788;
 constexpr int kSetupTeams = 32789;
 constexpr int kEditContestants = 32856;
+constexpr int kImportRoster = 33001;
+constexpr int kMoveCards = 33024;
 
 bool evenColumns(const JudgingClasses& classes) {
   const std::size_t count = classes.className.size();
@@ -134,10 +136,14 @@ void ContestPromises::dialogActed(const MemoryDialog& dialog) {
   }
 }
 
-// Scores come in by these menus only, or with another contest.
+// Scores come in by these menus only, or with another contest. A roster brings none.
 void ContestPromises::keepLedger(const Contest& contest) {
   const std::string_view menu = findCommand(command_)->menu;
-  if (menu == "Score" || menu == "File" || menu == "Tools") {
+  if (command_ == kMoveCards) {
+    ledger_.move(contest);
+  } else if (command_ == kImportRoster) {
+    ledger_.watch(contest);
+  } else if (menu == "Score" || menu == "File" || menu == "Tools") {
     ledger_.enter(contest);
   } else {
     ledger_.watch(contest);

@@ -69,10 +69,12 @@ Contest contestOf(Bytes& bytes) {
 /// Texts that fields of this program are sensitive to, or bytes of the input themselves.
 std::string textOf(Bytes& bytes) {
   static const std::string_view kTexts[] = {
-      "",    "A",    "Z",    "Y",  "0",     "1",   "2",   "3",          "4",
-      "5",   "7",    "50",   "51", "-1",    "101", "102", "2147483647", "4294967295",
-      "999", "none", " ",    "\t", "Alpha", "a",   "AB",  "\r\n",       "103",
-      "26",  "80",   "1000", "10", "Beta",  "\xff"};
+      "", "A", "Z", "Y", "0", "1", "2", "3", "4", "5", "7", "50", "51", "-1", "101", "102",
+      "2147483647", "4294967295", "999", "none", " ", "\t", "Alpha", "a", "AB", "\r\n", "103", "26",
+      "80", "1000", "10", "Beta", "\xff",
+      // Sheets of a roster.
+      "Alpha\tAnn\r\nAlpha\tBob\r\nBeta\tCy", "Team,Coach,Name,Alternate\r\nBeta,Kay,Dee,x\r\n",
+      "Team,Member 1,Member 2,Alternate\r\nAlpha,Ann,Bob,Eve\r\n,Cy\r\nGamma,Flo,Gus,Hal"};
   const int kind = bytes.below(48);
   if (kind < static_cast<int>(std::size(kTexts))) return std::string(kTexts[kind]);
   if (kind == 47) return std::string(600, static_cast<char>('a' + bytes.below(26)));

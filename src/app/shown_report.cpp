@@ -62,6 +62,22 @@ std::optional<ReportRequest> askCustom(MainWindow& window) {
   return dialog.request();
 }
 
+namespace {
+
+// What is told where a contest is opened must be known before its scores are held against
+// another's.
+void tellOfOtherFile(Window& window, const std::string& path, const LoadedContest& loaded) {
+  std::string told;
+  if (!loaded.copy.empty()) {
+    told += "It was left unfinished by a save, and its copy was read instead:\n" +
+            shownPath(loaded.copy) + "\n";
+  }
+  if (!loaded.oddities.empty()) told += "It was read, but it may be damaged:\n" + loaded.oddities;
+  if (!told.empty()) window.show("The file\n" + path + "\n\n" + told, "Information");
+}
+
+}  // namespace
+
 std::optional<ReportRequest> askOtherContest(MainWindow& window) {
   const auto path = window.chooseFile(contestFileQuestion(FileQuestion::Purpose::open));
   if (!path) return std::nullopt;
@@ -72,6 +88,7 @@ std::optional<ReportRequest> askOtherContest(MainWindow& window) {
                 "Error");
     return std::nullopt;
   }
+  tellOfOtherFile(window, shownPath(*path), *loaded);
   ReportRequest request;
   request.other = std::make_shared<const Contest>(std::move(loaded->contest));
   request.otherName = shownPath(path->substr(path->find_last_of("/\\") + 1));

@@ -30,6 +30,15 @@ std::variant<ContestInFile, std::string> ContestInFile::open(FileSystem& files,
   auto& loaded = std::get<LoadedContest>(loading);
   opened.contest = std::move(loaded.contest);
   opened.bytes_ = std::move(loaded.bytes);
+  opened.copy_ = std::move(loaded.copy);
+  if (opened.copy_.empty()) return opened;
+  // What is to be replaced is what the file itself holds, as long as nobody else has finished it.
+  auto unfinished = files.readWhole(path);
+  const auto again = loadContestFile(files, path);
+  const auto* stillUnfinished = std::get_if<LoadedContest>(&again);
+  if (stillUnfinished != nullptr && stillUnfinished->copy == opened.copy_) {
+    opened.bytes_ = std::move(unfinished);
+  }
   return opened;
 }
 
@@ -37,11 +46,15 @@ std::optional<std::string> ContestInFile::save(FileSystem& files,
                                                const std::optional<std::string>& into) const {
   const std::string& path = into ? *into : path_;
   const SaveLock lock(files, path);
-  if (reachesSameFile(files, path, path_) && files.readWhole(path) != bytes_) {
+  const bool isOwn = reachesSameFile(files, path, path_);
+  if (isOwn && files.readWhole(path) != bytes_) {
     return "another program has changed '" + contestText(path) + "' meanwhile";
   }
-  if (saveSafely(files, path, writeContest(contest))) return std::nullopt;
-  return "cannot write '" + contestText(path) + "'";
+  if (!saveSafely(files, path, writeContest(contest))) {
+    return "cannot write '" + contestText(path) + "'";
+  }
+  if (isOwn && !copy_.empty()) files.remove(copy_);
+  return std::nullopt;
 }
 
 }  // namespace scorvane

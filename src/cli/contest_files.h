@@ -35,6 +35,7 @@ class ContestInFile {
  private:
   std::string path_;
   std::optional<std::string> bytes_;  ///< of the file as it was read; nothing without a file
+  std::string copy_;                  ///< what was read instead of an unfinished file; or empty
 };
 
 }  // namespace scorvane

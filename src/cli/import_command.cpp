@@ -10,19 +10,19 @@ CliResult runImport(const ImportOptions& options, FileSystem& files) {
   auto opening = ContestInFile::open(files, options.contest);
   if (const auto* refusal = std::get_if<std::string>(&opening)) return nothingDone(*refusal);
   auto& opened = std::get<ContestInFile>(opening);
-  const auto bytes = files.readWhole(options.roster, kMostSheetBytes);
-  if (!bytes) return nothingDone("cannot read '" + contestText(options.roster) + "'");
-
-  const RosterPlan plan = planRoster(*bytes, opened.contest);
   CliResult result;
   result.error = opened.remarks;
-  for (const std::string& line : planLines(plan, opened.contest)) result.output += line + '\n';
-  result.output += planSummary(plan) + '\n';
   const auto fail = [&result](const std::string& reason) {
     result.status = kFailed;
     result.error += nothingDone(reason).error;
     return result;
   };
+  const auto bytes = files.readWhole(options.roster, kMostSheetBytes);
+  if (!bytes) return fail("cannot read '" + contestText(options.roster) + "'");
+
+  const RosterPlan plan = planRoster(*bytes, opened.contest);
+  for (const std::string& line : planLines(plan, opened.contest)) result.output += line + '\n';
+  result.output += planSummary(plan) + '\n';
   if (plan.holdsNobody) return fail("the sheet holds no team and no contestant");
   if (!plan.problems.empty()) {
     if (!options.skipProblems) {

@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <limits>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "storage/contest_format.h"
@@ -15,30 +16,41 @@ namespace scorvane {
 
 namespace {
 
+enum class SettingFound { nowhere, withoutValue, withValue };
+using SettingsFound = std::array<SettingFound, kSettingLines.size()>;
+
+/// The sentence with the settings that were found so; "" when none was.
+std::string withSettings(std::string_view sentence, const SettingsFound& found, SettingFound how) {
+  std::string keys;
+  for (std::size_t i = 0; i < found.size(); ++i) {
+    if (found[i] != how) continue;
+    keys += keys.empty() ? "" : ", ";
+    keys += kSettingLines[i].key.substr(0, kSettingLines[i].key.size() - 1);
+  }
+  return keys.empty() ? "" : std::string(sentence).append(keys).append(".\n");
+}
+
 /// Ends at the line behind that of the classes' marker.
 std::string oddSettings(LineScanner& lines) {
-  std::array<bool, kSettingLines.size()> found{};
+  SettingsFound found{};
   bool hasCategories = false;
   bool areLast = false;
   while (const auto line = lines.next()) {
-    const std::string_view key = FieldScanner(*line).nextOrEmpty();
+    FieldScanner fields(*line);
+    const std::string_view key = fields.nextOrEmpty();
     if (key == kClassesMarker) break;
     areLast = key == kCategoriesKey;
     hasCategories = hasCategories || areLast;
     for (std::size_t i = 0; i < found.size(); ++i) {
-      found[i] = found[i] || key == kSettingLines[i].key;
+      if (key != kSettingLines[i].key) continue;
+      found[i] =
+          fields.nextOrEmpty().empty() ? SettingFound::withoutValue : SettingFound::withValue;
     }
   }
-  std::string missing;
-  for (std::size_t i = 0; i < found.size(); ++i) {
-    if (found[i]) continue;
-    missing += missing.empty() ? "" : ", ";
-    missing += kSettingLines[i].key.substr(0, kSettingLines[i].key.size() - 1);
-  }
-  std::string odd;
-  if (!missing.empty()) {
-    odd += "These settings have no line and are those of a new contest: " + missing + ".\n";
-  }
+  std::string odd = withSettings(
+      "These settings have no line and are those of a new contest: ", found, SettingFound::nowhere);
+  odd += withSettings("These settings have no value, so they have the usual one: ", found,
+                      SettingFound::withoutValue);
   if (!hasCategories) odd += "The categories have no line, so there are none.\n";
   if (hasCategories && !areLast) {
     odd += "The categories were lost: theirs is not the last line of the settings.\n";
@@ -46,31 +58,51 @@ std::string oddSettings(LineScanner& lines) {
   return odd;
 }
 
-/// The category that a class line names; 0 when it names none.
-std::int32_t categoryOf(std::string_view line) {
+/// The category that a class line names; nothing when it names none.
+std::optional<std::int32_t> categoryOf(std::string_view line) {
   FieldScanner fields(line);
   for (int i = 0; i < 2; ++i) static_cast<void>(fields.next());
   const std::string_view third = fields.nextOrEmpty();
   const int fieldsBefore = third == "Yes" || third == "No" ? 2 : 1;
   for (int i = 0; i < fieldsBefore; ++i) static_cast<void>(fields.next());
-  return leadingNumber(fields.nextOrEmpty());
+  const auto category = fields.next();
+  return category ? std::optional(leadingNumber(*category)) : std::nullopt;
 }
 
-std::string oddCategories(LineScanner& lines, const Contest& contest) {
-  std::string classes;
+/// Numbers of classes, as many as a line of a message takes.
+class ClassNumbers {
+ public:
+  void add(std::int32_t k) {
+    constexpr std::size_t kLongest = 60;
+    if (text_.size() > kLongest) return;
+    text_ += (text_.empty() ? "" : ", ") + std::to_string(k + 1);
+    if (text_.size() > kLongest) text_ += ", ...";
+  }
+  /// The sentence with the numbers behind it; "" without any.
+  [[nodiscard]] std::string after(std::string_view sentence) const {
+    return text_.empty() ? "" : std::string(sentence).append(text_).append(".\n");
+  }
+
+ private:
+  std::string text_;
+};
+
+std::string oddClassLines(LineScanner& lines, const Contest& contest) {
+  ClassNumbers lost;
+  ClassNumbers copies;
+  std::string_view before;
   static_cast<void>(lines.next());
   for (std::int32_t k = 0; k < contest.classes.count(); ++k) {
-    const std::int32_t category = categoryOf(lines.next().value_or(""));
-    if (category >= 0 && static_cast<std::size_t>(category) < contest.categories.size()) continue;
-    classes += (classes.empty() ? "" : ", ") + std::to_string(k + 1);
-    if (classes.size() > 60) {
-      classes += ", ...";
-      break;
-    }
+    const std::string_view line = lines.next().value_or("");
+    const auto category = categoryOf(line);
+    const bool exists = category && *category >= 0 &&
+                        static_cast<std::size_t>(*category) < contest.categories.size();
+    if (!exists) lost.add(k);
+    if (k > 0 && line == before) copies.add(k);
+    before = line;
   }
-  if (classes.empty()) return "";
-  return "The category of these classes does not exist, so they have the first one: " + classes +
-         ".\n";
+  return lost.after("The category of these classes does not exist, so they have the first one: ") +
+         copies.after("These classes are the same as the one before, to the letter: ");
 }
 
 /// The placing score of each letter in a class.
@@ -116,17 +148,21 @@ std::vector<bool> fittingClasses(const Contest& contest) {
   return fitting;
 }
 
-// Stored placing scores are taken as they are, so they tell when two lines changed places.
-std::string exchangedClasses(const Contest& contest) {
+// Stored placing scores are taken as they are, so they tell when the line of a class is another's.
+std::string oddPlacingScores(const Contest& contest) {
   if (contest.scores.empty()) return "";
   const std::vector<bool> fitting = fittingClasses(contest);
-  for (std::size_t i = 1; i < fitting.size(); ++i) {
+  ClassNumbers odd;
+  std::string exchanged;
+  for (std::size_t i = 0; i < fitting.size(); ++i) {
     const auto k = static_cast<std::int32_t>(i);
-    if (fitting[i - 1] && fitting[i]) continue;
+    if (!fitting[i]) odd.add(k);
+    if (i == 0 || !exchanged.empty() || (fitting[i - 1] && fitting[i])) continue;
     if (!fitsAs(contest, k - 1, k) || !fitsAs(contest, k, k - 1)) continue;
-    return formatText("Placing scores fit when classes %d and %d are exchanged.\n", k, k + 1);
+    exchanged = formatText("Placing scores fit when classes %d and %d are exchanged.\n", k, k + 1);
   }
-  return "";
+  return odd.after("Placing scores do not fit the official placing and cuts of these classes: ") +
+         exchanged;
 }
 
 }  // namespace
@@ -134,8 +170,8 @@ std::string exchangedClasses(const Contest& contest) {
 std::string contestOddities(std::string_view bytes, const Contest& contest) {
   LineScanner lines(bytes);
   std::string odd = oddSettings(lines);
-  odd += oddCategories(lines, contest);
-  return odd + exchangedClasses(contest);
+  odd += oddClassLines(lines, contest);
+  return odd + oddPlacingScores(contest);
 }
 
 }  // namespace scorvane

@@ -14,6 +14,7 @@
 #include "session/recovery.h"
 #include "storage/contest_reader.h"
 #include "storage/contest_writer.h"
+#include "storage/safe_save.h"
 #include "tests/app/memory_main_window.h"
 #include "tests/storage/contest_text.h"
 #include "tests/storage/memory_files.h"
@@ -23,6 +24,7 @@ namespace scorvane {
 namespace {
 
 constexpr int kSave = 32773, kSetupContest = 32787, kRoundVerification = 32862, kLetters = 32846;
+constexpr int kCompare = 33021, kBringIn = 33022;
 const std::string kPath = "fair.scv";
 
 struct SharedWork : testing::Test {
@@ -92,6 +94,26 @@ TEST_F(SharedWork, CountsInReportsAndDialogs) {
   runCommand(32791, window);
   EXPECT_NE(window.log.find("fair.scv - Hill Fair"), std::string::npos) << window.log;
   EXPECT_TRUE(window.desktop.messages.empty());
+}
+
+TEST_F(SharedWork, OfAnotherFileIsComparedWithWhatMustBeKnownOfIt) {
+  const std::string odd = replaced(smallFile(), "C\t2,5,3", "D\t2,5,3");
+  disk.files["odd.scv"] = {odd, true, odd};
+  disk.files["torn.scv"] = {smallFile(), true, smallFile()};
+  disk.hasOtherNames = true;
+  disk.cutAtCall = disk.calls + 10;
+  EXPECT_THROW(static_cast<void>(saveSafely(disk, "torn.scv", odd)), MemoryFiles::PowerCut);
+  disk.cutAtCall = 0;
+  for (const int id : {kCompare, kBringIn}) {
+    for (const char* path : {"odd.scv", "torn.scv"}) {
+      window.log.clear();
+      window.desktop.files = {path};
+      window.desktop.answers = {Answer::ok, Answer::ok};
+      runCommand(id, window);
+      EXPECT_NE(window.log.find("cuts of these classes: 1."), std::string::npos) << window.log;
+      EXPECT_EQ(window.log.find("left unfinished") != std::string::npos, path[0] == 't');
+    }
+  }
 }
 
 TEST_F(SharedWork, IsToldOfWhenTheDialogHasClosed) {

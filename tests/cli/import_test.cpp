@@ -4,6 +4,8 @@
 #include "cli/contest_options.h"
 #include "cli/contest_runner.h"
 #include "storage/contest_writer.h"
+#include "storage/safe_save.h"
+#include "tests/storage/contest_text.h"
 #include "tests/storage/memory_files.h"
 #include "tests/support/approved.h"
 #include "tests/support/contest_builder.h"
@@ -95,6 +97,26 @@ TEST(Import, RespectsWhatOthersSaved) {
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(run("import|sheet.csv|fair.scv|--skip-problems", disk).status, kFailed);
   EXPECT_EQ(disk.files["fair.scv"].content, "saved meanwhile");
+}
+
+// What a save in place left unfinished is opened from its copy, told of, and put right.
+TEST(Import, FinishesWhatWasLeftUnfinished) {
+  ImportFiles disk;
+  const std::string old = disk.files["fair.scv"].content;
+  disk.hasOtherNames = true;
+  disk.cutAtCall = 10;
+  EXPECT_THROW(static_cast<void>(saveSafely(disk, "fair.scv", replaced(old, "Elm", "Oak"))),
+               MemoryFiles::PowerCut);
+  disk.cutAtCall = 0;
+  disk.hasOtherNames = false;
+  const std::size_t files = disk.files.size();
+  const std::string refused = run("merge|fair.scv|damaged.scv|--into|out.scv", disk).error;
+  EXPECT_NE(refused.find("never saved to its end"), std::string::npos) << refused;
+  const CliResult result = run("import|sheet.csv|fair.scv|--skip-problems", disk);
+  EXPECT_EQ(result.status, kDoneWithoutProblems) << result.error;
+  EXPECT_NE(result.error.find("never saved to its end"), std::string::npos);
+  EXPECT_NE(disk.files["fair.scv"].content.find("Oak\t"), std::string::npos);
+  EXPECT_EQ(disk.files.size(), files - 1) << "the copy is done with";
 }
 
 }  // namespace

@@ -122,7 +122,7 @@ class OddNames {
     if (disk_.contentOf(pathOf(name)) != expected_[name]) faults_.push_back("not saved: " + name);
   }
   void type(std::int32_t reasons) {
-    const ScoreRecord record{'A', 40, reasons, 0};
+    const ScoreRecord record{'A', 45, reasons, 0};
     currentContest().scores[101][0] = record;
     scoreStored({{101, 0, record}, {}});
   }

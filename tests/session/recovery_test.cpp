@@ -35,8 +35,11 @@ struct Recovery : testing::Test {
     startKeepingWork(disk);
     return path.empty() || openContest(window, path);
   }
-  void type(ContestantNumber number, std::int32_t classIndex, const ScoreRecord& record,
+  void type(ContestantNumber number, std::int32_t classIndex, ScoreRecord record,
             TypedFields fields = {}) {
+    const JudgingClasses& classes = currentContest().classes;
+    record.placingScore =
+        placingScore(record.letter, classes.official(classIndex), classes.cuts(classIndex));
     currentContest().scores[number][classIndex] = record;
     scoreStored({{number, classIndex, record}, fields});
     shown.push_back({{number, classIndex, record}});
@@ -71,7 +74,7 @@ struct Recovery : testing::Test {
     type(103, 1, {'B', 0, 0, 9});
     type(103, 1, {'D', 0, 0, 10});
     saveCurrent(window);
-    type(102, 0, {'X', -2, 3, 0});
+    type(102, 0, {'X', 20, 3, 0});
     addTeam("Avon");
     type(102, 1, {'Z', 0, 0, 50});
     saveCurrent(window);
@@ -213,7 +216,7 @@ TEST_F(Recovery, IsOfferedForTheVeryFileItGrewFromOnly) {
     const bool isBack = answer == Answer::yes;
     EXPECT_EQ(scoreRecord(currentContest(), 101, 0).letter, isBack ? 'A' : 'C');
     ASSERT_EQ(saves.size(), isBack ? 3U : 2U);
-    EXPECT_NE(readEarlierSave(disk, saves[isBack ? 1 : 0])->find("101\t0\tA\t40\t44"),
+    EXPECT_NE(readEarlierSave(disk, saves[isBack ? 1 : 0])->find("101\t0\tA\t45\t44"),
               std::string::npos);
   }
   disk.files = left;

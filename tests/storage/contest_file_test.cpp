@@ -71,7 +71,7 @@ TEST(ContestReader, FillsTheWholeContest) {
   expected.reasonsOrder.setCell(0, 1, 101);
   const ScoreRecord blank;
   expected.scores[101] = ClassScores::fromEntries({{0, {'C', 50, 44, 0}}, {1, {'Z', 0, 0, 38}}});
-  expected.scores[102] = ClassScores::fromEntries({{0, {'X', -2, 0, 0}}, {1, blank}});
+  expected.scores[102] = ClassScores::fromEntries({{0, {'X', 20, 0, 0}}, {1, blank}});
   expected.scores[103] = ClassScores::fromEntries({{0, blank}, {1, blank}});
   const Contest contest = read(smallFile());
   EXPECT_TRUE(contest == expected) << writeContest(contest);

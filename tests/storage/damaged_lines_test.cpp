@@ -1,6 +1,7 @@
 // A damaged line of a contest file never changes a result without a word.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <vector>
 
 #include "storage/contest_format.h"
@@ -34,21 +35,22 @@ Contest withTextsOf(const Contest& before, Contest contest) {
   const auto restore = [](std::string& text, const std::string& whole) {
     if (whole.starts_with(text)) text = whole;
   };
-  contest.settings.contestDate = before.settings.contestDate;
-  contest.settings.contestName = before.settings.contestName;
-  contest.settings.divisionName = before.settings.divisionName;
+  restore(contest.settings.contestDate, before.settings.contestDate);
+  restore(contest.settings.contestName, before.settings.contestName);
+  restore(contest.settings.divisionName, before.settings.divisionName);
   for (auto& [number, name] : contest.contestantNames)
     restore(name, contestantName(before, number));
   return contest;
 }
 
-enum Damage { missing, doubled, exchanged, cut, damages };
+enum Damage { missing, doubled, exchanged, overwritten, cut, damages };
 
 std::vector<std::string> damaged(std::vector<std::string> lines, std::size_t i, int damage) {
   const auto line = lines.begin() + static_cast<std::ptrdiff_t>(i);
   if (damage == missing) lines.erase(line);
   if (damage == doubled) lines.insert(line, *line);
   if (damage == exchanged && i + 1 < lines.size()) std::swap(line[0], line[1]);
+  if (damage == overwritten && i + 1 < lines.size()) line[0] = line[1];
   if (damage == cut) line->resize(line->size() / 2);
   return lines;
 }
@@ -89,6 +91,18 @@ TEST(DamagedLines, AreRefusedOrToldOrChangeNothing) {
     plan.categories = 2;
     expectNothingSilent(writeContest(makeContest(plan)));
   }
+}
+
+// Without a card only the line itself tells.
+TEST(DamagedLines, TellOfAClassThatIsACopyBeforeThereAreCards) {
+  Contest contest = makeContest({});
+  contest.scores.clear();
+  std::vector<std::string> lines = linesOf(writeContest(contest));
+  const auto count = std::find(lines.begin(), lines.end(), kClassesMarker) + 1;
+  count[2] = count[1];
+  const std::string bytes = joined(lines);
+  EXPECT_EQ(contestOddities(bytes, std::get<Contest>(readContest(bytes))),
+            "These classes are the same as the one before, to the letter: 2.\n");
 }
 
 }  // namespace

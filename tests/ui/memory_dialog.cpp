@@ -175,8 +175,13 @@ void MemoryDialog::removeLine(ControlId id, int index) {
 }
 
 void MemoryDialog::setLines(ControlId id, const std::vector<ListLine>& lines) {
-  clearLines(id);
-  for (const ListLine& line : lines) addLine(id, line);
+  auto& shown = control(id).lines;
+  shown.clear();
+  for (const ListLine& line : lines) shown.push_back(Control::Line{line, false});
+  if (!control(id).has("LBS_SORT")) return;
+  std::stable_sort(shown.begin(), shown.end(), [](const auto& one, const auto& other) {
+    return strcasecmp(one.text.c_str(), other.text.c_str()) < 0;
+  });
 }
 
 std::optional<int> MemoryDialog::selection(ControlId id) const {

@@ -1,6 +1,6 @@
-"""Measures every report of the worst contest files of 1 MB: seconds of the processor and megabytes.
+"""Measures every report or dialog of the worst contest files of 1 MB: seconds of the processor and megabytes.
 
-Usage: worst_files.py PROGRAM, the path of scorvane-report. Prints the worst of each report.
+Usage: worst_files.py PROGRAM, the path of scorvane-report, or of worst_dialog for the dialogs. Prints the worst of each.
 """
 
 import os
@@ -108,9 +108,28 @@ def measure(arguments):
     return usage.ru_utime + usage.ru_stime, usage.ru_maxrss / 1024, os.waitstatus_to_exitcode(status)
 
 
+def runs_of_reports(program, path, content):
+    """Caption and arguments of every report."""
+    count = int(content.split(b"~~~~~Classes~~~~~\r\n")[1].split(b"\r\n")[0])
+    for number, caption in report_ids(program):
+        for options in OPTIONS.get(number, [[]]):
+            if options[-1:] == ["--classes"]:
+                options = options + [",".join(map(str, range(1, min(count, 50) + 1)))]
+            yield caption, [program, path, number, *options]
+
+
+def runs_of_dialogs(program, path, _):
+    """Caption and arguments of every command."""
+    listed = subprocess.run([program], capture_output=True, text=True, check=True).stdout
+    for line in listed.splitlines():
+        number, caption = line.split("\t")
+        yield caption, [program, path, number]
+
+
 def main():
     program = sys.argv[1]
-    reports = report_ids(program)
+    is_report = "report" in os.path.basename(program)
+    runs = runs_of_reports if is_report else runs_of_dialogs
     slowest, largest, refused = {}, {}, []
     with tempfile.TemporaryDirectory() as folder:
         for name, content in worst():
@@ -119,18 +138,15 @@ def main():
                 file.write(content)
             if len(content) > SIZE * 1.05:
                 print(f"{name}: {len(content)} bytes")
-            if measure([program, path, "32796"])[2] != 0:
+            if is_report and measure([program, path, "32796"])[2] != 0:
                 refused.append(name)
                 continue
-            count = sum(line == b"~~~~~Contestants~~~~~" for line in content.split(b"\r\n")) and int(
-                content.split(b"~~~~~Classes~~~~~\r\n")[1].split(b"\r\n")[0])
-            for number, caption in reports:
-                for options in OPTIONS.get(number, [[]]):
-                    if options[-1:] == ["--classes"]:
-                        options = options + [",".join(map(str, range(1, min(count, 50) + 1)))]
-                    seconds, megabytes, _ = measure([program, path, number, *options])
-                    slowest[caption] = max(slowest.get(caption, (0, "")), (seconds, name))
-                    largest[caption] = max(largest.get(caption, (0, "")), (megabytes, name))
+            for caption, arguments in runs(program, path, content):
+                seconds, megabytes, status = measure(arguments)
+                if not is_report and status == 3:  # it shows no dialog
+                    continue
+                slowest[caption] = max(slowest.get(caption, (0, "")), (seconds, name))
+                largest[caption] = max(largest.get(caption, (0, "")), (megabytes, name))
     for name in refused:
         print(f"refused: {name}")
     for caption in sorted(slowest, key=lambda c: -slowest[c][0]):
