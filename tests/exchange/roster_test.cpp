@@ -304,9 +304,9 @@ TEST(Roster, TellsWhatIsWrong) {
       "Elm,X,Ann,X,Pat,X\n",
       "School,Team Member 1,Team Member 2,Parent's Name,Coach (School)\nElm,Ann,Bob,X,Pat\n",
       // Teams and people that are called like headings.
-      "Clay County,Judge Lee,Pat Coach\nElm,Judge,Sam\n",
+      "Clay County,Judge Lee,Pat Coach\nOak County,Judge,Sam\n", "Elm,Judge,Pat\n",
       "Clay County,Judge\nClay County,Ann Lee\n", "Elm,Ann,Pat\nSchool,Judge,\nAsh,Alt,\n",
-      "Sponsoring Chapter,Judge,Fee\nElm,Ann,5\n",
+      "Teams\nSponsoring Chapter,Judge,Fee\nElm,Ann,5\n",
       "Fair,Judges\nWhich club?,Contestant Attending,Teacher in charge\nElm,Ann,Pat\n",
       // Who is an alternate, and who may be one.
       "Team,Name,Alternate\nElm,Ann,No\nElm,Bob,perhaps\nAsh,,perhaps\nElm,Cy,-\n",
