@@ -31,12 +31,29 @@ void HandOut::turnPage() {
   linesOnPage_ = countLines(title_);
 }
 
-void HandOut::add(std::string_view block) {
+void HandOut::add(std::string_view block, std::string_view continued) {
   const std::size_t lines = countLines(block);
+  if (countLines(title_) + lines > kLinesOnPage) return addOverPages(block, continued);
   const bool isFirst = linesOnPage_ == countLines(title_);
   if (!isFirst && linesOnPage_ + lines > kLinesOnPage) turnPage();
   text_ += block;
   linesOnPage_ += lines;
+}
+
+void HandOut::addOverPages(std::string_view block, std::string_view continued) {
+  constexpr std::size_t kFewestLines = 8;
+  if (linesOnPage_ + kFewestLines > kLinesOnPage) turnPage();
+  while (!block.empty()) {
+    if (linesOnPage_ == kLinesOnPage) {
+      turnPage();
+      text_ += continued;
+      linesOnPage_ += countLines(continued);
+    }
+    const std::size_t end = std::min(block.find('\n'), block.size() - 1) + 1;
+    text_ += block.substr(0, end);
+    block.remove_prefix(end);
+    ++linesOnPage_;
+  }
 }
 
 bool HandOut::isTooLong() {
