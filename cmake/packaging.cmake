@@ -15,7 +15,7 @@ add_custom_command(
 add_custom_target(manual ALL DEPENDS ${CMAKE_BINARY_DIR}/${manual_name}.htm)
 
 set(samples ${CMAKE_SOURCE_DIR}/samples)
-set(sample_files ${samples}/county.scv ${samples}/state.scv ${samples}/roster.csv)
+set(sample_files ${samples}/county.scv ${samples}/district.scv ${samples}/state.scv ${samples}/roster.csv)
 set(setup ${CMAKE_BINARY_DIR}/ScorvaneSetup.exe)
 set(zip ${CMAKE_BINARY_DIR}/Scorvane-${PROJECT_VERSION}.zip)
 set(package ${CMAKE_BINARY_DIR}/package)

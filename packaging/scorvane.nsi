@@ -97,6 +97,7 @@ Section "Install"
   SetOverwrite off
   SetOutPath "$DOCUMENTS\Scorvane Samples"
   File "${SAMPLES}/county.scv"
+  File "${SAMPLES}/district.scv"
   File "${SAMPLES}/state.scv"
   File "${SAMPLES}/roster.csv"
   SetOverwrite on
@@ -179,9 +180,11 @@ Section "Uninstall"
   !insertmacro StopWhileRunning
   InitPluginsDir
   File "/oname=$PLUGINSDIR\county.scv" "${SAMPLES}/county.scv"
+  File "/oname=$PLUGINSDIR\district.scv" "${SAMPLES}/district.scv"
   File "/oname=$PLUGINSDIR\state.scv" "${SAMPLES}/state.scv"
   File "/oname=$PLUGINSDIR\roster.csv" "${SAMPLES}/roster.csv"
   !insertmacro RemoveUntouchedSample "county.scv"
+  !insertmacro RemoveUntouchedSample "district.scv"
   !insertmacro RemoveUntouchedSample "state.scv"
   !insertmacro RemoveUntouchedSample "roster.csv"
   RMDir "$DOCUMENTS\Scorvane Samples"

@@ -27,12 +27,29 @@ void HandOut::turnPage() {
   usedLines_ = countLines(title_);
 }
 
-void HandOut::add(std::string_view block) {
+void HandOut::add(std::string_view block, std::string_view continued) {
   const std::size_t lines = countLines(block);
+  if (countLines(title_) + lines > linesOnPage_) return addOverPages(block, continued);
   const bool isFirst = usedLines_ == countLines(title_);
   if (!isFirst && usedLines_ + lines > linesOnPage_) turnPage();
   text_ += block;
   usedLines_ += lines;
+}
+
+void HandOut::addOverPages(std::string_view block, std::string_view continued) {
+  constexpr std::size_t kFewestLines = 8;
+  if (usedLines_ + kFewestLines > linesOnPage_) turnPage();
+  while (!block.empty()) {
+    if (usedLines_ == linesOnPage_) {
+      turnPage();
+      text_ += continued;
+      usedLines_ += countLines(continued);
+    }
+    const std::size_t end = std::min(block.find('\n'), block.size() - 1) + 1;
+    text_ += block.substr(0, end);
+    block.remove_prefix(end);
+    ++usedLines_;
+  }
 }
 
 bool HandOut::isTooLong() {

@@ -10,7 +10,7 @@
 namespace scorvane {
 
 /// Puts blocks of lines on pages of paper: a block goes to the next page when it does not fit on
-/// this one. One that fits on no page runs on.
+/// this one. One that fits on no page is continued on the next ones.
 class HandOut {
  public:
   /// Every printed page repeats the opening's four lines at its head, and takes `linesOnPage` more;
@@ -22,13 +22,15 @@ class HandOut {
   /// Begins a page with its title lines, which are repeated on the further pages that its blocks
   /// need.
   void beginPage(std::string title);
-  void add(std::string_view block);
+  /// `continued` are the lines that a continued block begins with on a further page.
+  void add(std::string_view block, std::string_view continued = {});
   /// Whether the report has grown beyond all use. It then says so and must not be added to.
   [[nodiscard]] bool isTooLong();
   [[nodiscard]] std::string take() { return std::move(text_); }
 
  private:
   void turnPage();
+  void addOverPages(std::string_view block, std::string_view continued);
 
   std::string text_;
   std::string title_;

@@ -11,6 +11,8 @@ namespace scorvane {
 namespace {
 
 constexpr std::size_t kWidestCardLine = 80;
+constexpr const char* kColumns =
+    " # Class             Offic. Cuts   Placed PLC RSN QUE Where the points went\n";
 
 class ScoreCardsBuilder {
  public:
@@ -57,18 +59,20 @@ class ScoreCardsBuilder {
   bool addCards(const std::vector<CardRow>& cards, bool ofTeam) {
     for (const CardRow& card : cards) {
       std::string block = cardHeading(card, ofTeam);
+      const std::string continued =
+          formatText("%4d %.32s, continued\n%s", card.number, card.name->c_str(), kColumns);
       RecordCursor records(card.scores);
       for (std::int32_t k = 0; k < contest_.classes.count(); ++k) {
         appendClass(block, k, records.at(k));
         // So many classes that the card alone is too long.
         if (block.size() > kMostOfACard) {
-          report_.add(block);
+          report_.add(block, continued);
           block.clear();
           if (report_.isTooLong()) return false;
         }
       }
       for (const CardTotal& total : cards_.totalsOf(card)) appendTotal(block, total);
-      report_.add(block += "\n");
+      report_.add(block += "\n", continued);
       if (report_.isTooLong()) return false;
     }
     return true;
@@ -84,7 +88,7 @@ class ScoreCardsBuilder {
              : card.counts    ? ", counts for the team"
                               : ", does not count";
     }
-    return out += "\n # Class             Offic. Cuts   Placed PLC RSN QUE Where the points went\n";
+    return out.append("\n").append(kColumns);
   }
 
   void appendClass(std::string& out, std::int32_t k, const ScoreRecord& record) const {

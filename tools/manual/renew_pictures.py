@@ -92,6 +92,13 @@ def report_in_window(stage):
 
 
 @scene
+def announcers_list(stage):
+    main = stage.start()
+    main.command(33013)
+    stage.take(main)
+
+
+@scene
 def setup_contest_new(stage):
     stage.take(stage.dialog(32787, "Setup Contest", sample=None))
 
@@ -299,12 +306,12 @@ def about(stage):
     stage.take(stage.dialog(104, "About Scorvane"), colours=128)
 
 
-@scene
-def printed_page(stage):
+def print_page(stage, command):
+    """Prints a report and pictures its first page."""
     with private_cups.PrivateCups(BUILD / "picture-cups") as printer:
         stage.desktop.environment.update(printer.environment())
         main = stage.start()
-        main.command(32801)
+        main.command(command)
         main.command(32805)
         stage.app.window("Print").command(1)
         page = printer.wait_for_document(1)
@@ -313,6 +320,28 @@ def printed_page(stage):
                                stdout=subprocess.PIPE).stdout
         subprocess.run(["convert", "-", "-strip", "-colorspace", "gray", "-colors", "8",
                         f"PNG8:{PICTURES / stage.name}.png"], check=True, input=drawn)
+
+
+@scene
+def printed_page(stage):
+    print_page(stage, 32801)
+
+
+@scene
+def printed_cards(stage):
+    print_page(stage, 33011)
+
+
+@scene
+def published_page(stage):
+    """As a phone shows it; needs chromium besides."""
+    with tempfile.TemporaryDirectory() as folder:
+        page, picture = pathlib.Path(folder) / "page.html", pathlib.Path(folder) / "page.png"
+        subprocess.run([NATIVE / "scorvane-report", ROOT / "samples" / "county.scv", "--publish", page], check=True)
+        subprocess.run(["chromium", "--headless", "--no-sandbox", "--hide-scrollbars", f"--user-data-dir={folder}",
+                        "--force-device-scale-factor=1.5", "--window-size=500,700", f"--screenshot={picture}",
+                        page.as_uri()], check=True, stderr=subprocess.DEVNULL)
+        subprocess.run(["convert", picture, "-strip", "-colors", "32", f"PNG8:{PICTURES / stage.name}.png"], check=True)
 
 
 def many_teams():
