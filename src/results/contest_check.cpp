@@ -105,7 +105,7 @@ class ContestCheck {
     if (progress_.expected().empty()) return add("No cards are in yet.");
     constexpr std::array kWords = {"placings", "reasons", "questions"};
     for (std::int32_t k = 0; k < contest_.classes.count(); ++k) {
-      for (const EntryKind kind : kEntryKinds) {
+      for (const ScoreValue kind : kEnteredValues) {
         if (!isAsked(contest_.classes, k, kind)) continue;
         const std::string what =
             formatText("%2d %-18.18s %-9s ", k + 1, contest_.classes.name(k).c_str(),

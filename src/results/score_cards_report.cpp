@@ -10,13 +10,14 @@ namespace scorvane {
 
 namespace {
 
-constexpr std::size_t kWidestLine = 80;
+constexpr std::size_t kWidestCardLine = 80;
 
 class ScoreCardsBuilder {
  public:
   explicit ScoreCardsBuilder(const Contest& contest)
       : contest_(contest),
         cards_(contest),
+        standings_(teamStandings(contest)),
         named_(countNamed(contest)),
         report_(
             "Score Cards By Team\n\n"
@@ -26,7 +27,7 @@ class ScoreCardsBuilder {
     for (const auto& [name, team] : contest_.teams) {
       report_.beginPage(
           formatText("Team:  %-30.30s     Coach:  %.30s\n\n", name.c_str(), team.coach.c_str()));
-      addStandings(cards_.standingsOf(team));
+      addStandings(standings_.at(&team));
       if (!addCards(cards_.membersOf(team), true)) return report_.take();
     }
     const std::vector<CardRow> others = cards_.withoutTeam();
@@ -115,7 +116,7 @@ class ScoreCardsBuilder {
     out += " ";
     const auto add = [&](const std::string& text) {
       if (out.size() - start > indent) out += "  ";
-      if (out.size() - start + text.size() > kWidestLine) {
+      if (out.size() - start + text.size() > kWidestCardLine) {
         out.erase(out.find_last_not_of(' ') + 1);
         out += '\n';
         start = out.size();
@@ -152,6 +153,7 @@ class ScoreCardsBuilder {
 
   const Contest& contest_;
   ScoreCards cards_;
+  std::map<const Team*, TeamStandings> standings_;
   std::size_t named_;
   HandOut report_;
 };
