@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <sstream>
 
 #include "output/print_layout.h"
@@ -32,6 +33,7 @@ TEST(TotalSummaryReport, ShowsScoresTotalsAndStatistics) {
 
 // A page has room for 58 lines. One more band of columns than 19 classes need is too much for it.
 TEST(TotalSummaryReport, KeepsLinesNarrowAndTeamsWhole) {
+  constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
   std::size_t widest = 0;
   for (const ContestantNumber first : {101, 2147483000}) {
     for (int count = 1; count <= 30; ++count) {
@@ -42,12 +44,22 @@ TEST(TotalSummaryReport, KeepsLinesNarrowAndTeamsWhole) {
       for (int k = 0; k < count; ++k) {
         builder.addClass({.reasons = k % 2 == 0, .questions = k % 3 == 0});
       }
-      const std::string name = "A name that is longer than thirty characters";
-      builder.team("Adams", name, {name}).team(name, "Coach of twenty char", {"B"});
-      builder.scores(first, {{-2, 5}, {0}, {2147483647, 2147483647}});
+      const std::string coach = "Twenty letters so far";
+      builder.team("Adams", coach, {"A"}).team("Boone", coach.substr(0, 20), {"B"});
+      if (first > 101) builder.scores(first, {{kLeast, kLeast, kLeast}});
       const std::string report = totalSummaryReport(builder.contest);
       std::istringstream lines(report);
-      for (std::string line; std::getline(lines, line);) widest = std::max(widest, line.size());
+      for (std::string line; std::getline(lines, line);) {
+        if (line.find("Coach:  ") == std::string::npos) widest = std::max(widest, line.size());
+      }
+      EXPECT_NE(report.find("\n    Coach:  " + coach + "\n"), std::string::npos);
+      EXPECT_NE(
+          report.find("Boone                                   Coach:  Twenty letters so fa\n"),
+          std::string::npos);
+      // The totals of two classes fit into a band of their own, but not behind the classes.
+      if (first == 101 && count == 2) {
+        EXPECT_NE(report.find("  | none "), std::string::npos) << report;
+      }
       std::int64_t page = 0;
       std::int64_t pageOfTeam = 0;
       for (const PrintOperation& operation : layOutPrint(report, {}, count < 20 ? 58 : 200)) {
