@@ -52,6 +52,9 @@ class Maker {
       slots += contest_.settings.totalNumPerTeam;
     }
     for (const auto& [number, name] : contest_.contestantNames) handInCards(number, name);
+    if (plan_.mistypedClass > 0 && plan_.mistypedClass <= plan_.classes) {
+      mistypeOfficial(plan_.mistypedClass - 1);
+    }
     placeReasonsTakers();
     updateNextContestant(contest_);
     return std::move(contest_);
@@ -155,13 +158,21 @@ class Maker {
     const JudgingClasses& classes = contest_.classes;
     for (std::int32_t k = 0; k < plan_.classes; ++k) {
       ScoreRecord& record = records[k];
-      if (name.empty()) continue;
+      if (name.empty() || isMissing()) continue;
       record.letter = placingNear(classes.official(k), skill);
       if (dice_.below(250) == 0) record.letter = kZeroLetter;
       record.placingScore = placingScore(record.letter, classes.official(k), classes.cuts(k));
-      if (classes.hasReasons(k)) record.reasonsScore = spokenScore(skill);
-      if (classes.hasQuestions(k)) record.questionsScore = spokenScore(skill);
+      if (classes.hasReasons(k) && !isMissing()) record.reasonsScore = spokenScore(skill);
+      if (classes.hasQuestions(k) && !isMissing()) record.questionsScore = spokenScore(skill);
     }
+  }
+  bool isMissing() { return plan_.missingPercent > 0 && dice_.percent(plan_.missingPercent); }
+
+  // The other end of the alphabet has the animals the other way round.
+  void mistypeOfficial(std::int32_t k) {
+    PlacingLetter& official = contest_.classes.officialLetter.at(static_cast<std::size_t>(k));
+    official = static_cast<PlacingLetter>('A' + 'X' - official);
+    recomputeAllPlacingScores(contest_);
   }
 
   void placeReasonsTakers() {

@@ -22,6 +22,8 @@ struct ContestPlan {
   std::int32_t questionsClasses = 2;  ///< classes with questions, among those without reasons
   std::int32_t categories = 4;        ///< at most kMaxPlannedCategories
   std::int32_t groups = 8;
+  std::int32_t missingPercent = 0;  ///< scores that are not entered yet
+  std::int32_t mistypedClass = 0;   ///< number of a class with a wrong official placing; 0 for none
 };
 
 inline constexpr std::int32_t kMaxPlannedCategories = 6;

@@ -29,6 +29,8 @@ constexpr const char* kUsage =
     "  --questions N       classes with questions (2)\n"
     "  --categories N      scoring categories, 0 to 6 (4)\n"
     "  --groups N          rotation groups, 1 to 26 (8)\n"
+    "  --missing PERCENT   scores that are not entered yet (0)\n"
+    "  --mistyped N        the class whose official placing is wrong, 0 for none (0)\n"
     "  --name TEXT         contest name\n"
     "  --division TEXT     division name\n"
     "  --date TEXT         contest date\n";
@@ -40,7 +42,7 @@ struct NumberOption {
   std::int32_t most;
 };
 
-constexpr std::array<NumberOption, 9> kNumberOptions = {{
+constexpr std::array<NumberOption, 11> kNumberOptions = {{
     {"--contestants", &ContestPlan::contestants, 0, 10'000'000},
     {"--classes", &ContestPlan::classes, 0, 10'000},
     {"--per-team", &ContestPlan::perTeam, 1, 50},
@@ -50,6 +52,8 @@ constexpr std::array<NumberOption, 9> kNumberOptions = {{
     {"--questions", &ContestPlan::questionsClasses, 0, 10'000},
     {"--categories", &ContestPlan::categories, 0, kMaxPlannedCategories},
     {"--groups", &ContestPlan::groups, 1, 26},
+    {"--missing", &ContestPlan::missingPercent, 0, 100},
+    {"--mistyped", &ContestPlan::mistypedClass, 0, 10'000},
 }};
 
 struct Order {

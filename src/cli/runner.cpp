@@ -138,7 +138,9 @@ CliResult writeAllReports(const Contest& contest, const std::string& folder, Fil
     note(writeReport([&] { return report->build(contest, {}).value(); },
                      folder + "/" + fileNameOf(command), files));
   }
-  for (const CategoryFile& file : categoryFiles(contest)) {
+  const auto categories = categoryFiles(contest);
+  if (!categories) note("no category reports are written: the contest has too many categories");
+  for (const CategoryFile& file : categories.value_or(std::vector<CategoryFile>{})) {
     note(writeReport([&] { return customReport(contest, file.request); },
                      folder + "/" + file.name + ".txt", files));
   }

@@ -84,11 +84,14 @@ void addAwards(PageWriter& page, const Contest& contest) {
   if (auto requests = awardRequests(contest)) {
     // On the stage the overall award comes last; who reads wants it first.
     std::rotate(requests->begin(), requests->end() - 1, requests->end());
+    const std::size_t start = page.out().size();
     for (const ReportRequest& request : *requests) {
       if (page.isTooLong()) break;
-      addIndividuals(page, request, individualRows(contest, request));
-      addTeams(page, request, teamRows(contest, request));
+      const AwardRows rows = awardRows(contest, request);
+      addIndividuals(page, request, rows.individuals);
+      addTeams(page, request, rows.teams);
     }
+    if (page.out().size() == start) page.raw("<p>No scores are in yet.</p>\n");
   } else {
     page.raw("<p>There are too many categories to rank.</p>\n");
   }
@@ -99,7 +102,12 @@ void addClass(PageWriter& page, const JudgingClasses& classes, const ClassStatis
   const std::int32_t k = statistics.classIndex;
   const auto [cut1, cut2, cut3] = classes.cuts(k);
   page.raw("<article><h3>").number(k + 1).raw(" ").text(classes.name(k));
-  page.raw("</h3>\n<p>Official ").placing(classes.official(k));
+  page.raw("</h3>\n<p>");
+  if (classes.official(k) == kNoLetter) {
+    page.raw("No official placing");
+  } else {
+    page.raw("Official ").placing(classes.official(k));
+  }
   page.raw(", cuts ").number(cut1).raw(" ").number(cut2).raw(" ").number(cut3).raw("<br>");
   const ScoreSum& cards = statistics.placings;
   page.number(cards.count).raw(cards.count == 1 ? " card" : " cards");
@@ -121,7 +129,7 @@ void addClasses(PageWriter& page, const Contest& contest) {
   page.raw("</div>\n</section>\n");
 }
 
-void addAllTeams(PageWriter& page, const Contest& contest) {
+void addAllTeams(PageWriter& page, const Contest& contest, const ScoreCards& cards) {
   page.raw("<section id=\"teams\">\n<h2>Teams</h2>\n");
   const ReportRequest request = everybodyRequest(contest, ScoreKind::overall);
   addTableStart(page, "Overall", ": all teams", "<th scope=\"col\">Team<th scope=\"col\">Members");
@@ -129,8 +137,9 @@ void addAllTeams(PageWriter& page, const Contest& contest) {
     if (page.isTooLong()) break;
     addPlace(page, row.place, *row.name, tieInWords(request, row));
     page.raw("<td><ul>");
-    for (const MemberRow& member : row.members) {
-      if (!member.name->empty()) page.raw("<li>").text(*member.name).raw(" ").number(member.score);
+    for (const CardRow& member : cards.membersOf(contest.teams.at(*row.name))) {
+      page.raw("<li>").text(*member.name).raw(" ").number(member.overall);
+      if (member.isAlternate) page.raw(", alternate");
     }
     page.raw("</ul>");
     addScore(page, row.score);
@@ -146,8 +155,11 @@ std::string resultsPage(const Contest& contest, PageContent content) {
   addContents(page, content);
   addAwards(page, contest);
   addClasses(page, contest);
-  if (content != PageContent::awards) addAllTeams(page, contest);
-  if (content == PageContent::cards) addScoreCards(page, contest, ScoreCards(contest));
+  if (content != PageContent::awards) {
+    const ScoreCards cards(contest);
+    addAllTeams(page, contest, cards);
+    if (content == PageContent::cards) addScoreCards(page, contest, cards);
+  }
   if (page.isTooLong()) page.raw("<p>This page is too long; it ends here.</p>\n");
   page.raw("</main>\n");
   if (content == PageContent::cards) page.raw("<script>").raw(kPageScript).raw("</script>\n");

@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <array>
 #include <initializer_list>
+#include <map>
 #include <memory>
 #include <utility>
 
 #include "exchange/people.h"
+#include "model/class_lists.h"
 #include "model/class_statistics.h"
 #include "model/numbering.h"
 #include "model/record_cursor.h"
@@ -21,11 +23,13 @@ struct Book {
       : contest(judged),
         cards(judged),
         people(peopleByNumber(judged, cards)),
+        standings(teamStandings(judged)),
         teams(teamRows(judged, everybodyRequest(judged, ScoreKind::overall))) {}
 
   const Contest& contest;
   ScoreCards cards;
   std::vector<Person> people;
+  std::map<const Team*, TeamStandings> standings;
   std::vector<TeamRow> teams;
 };
 
@@ -136,7 +140,7 @@ Table teamsSheet(const SharedBook& book) {
   sheet.fill = [book](std::size_t row, std::vector<Cell>& cells) {
     const TeamRow& ranked = book->teams[row];
     const Team& team = book->contest.teams.at(*ranked.name);
-    const TeamStandings& standings = book->cards.standingsOf(team);
+    const TeamStandings& standings = book->standings.at(&team);
     const auto score = [&](ScoreKind kind) {
       return Cell::ofNumber(standings.at(static_cast<std::size_t>(kind)).score);
     };
@@ -165,7 +169,9 @@ Table classesSheet(const SharedBook& book) {
     const ScoreSum& cards = statistics.placings;
     official[0] = contest.classes.official(k);
     addCells(cells, {Cell::ofNumber(k + 1), Cell::ofText(contest.classes.name(k)),
-                     Cell::ofText(categoryName(contest, contest.classes.category(k))),
+                     hasCategories(contest)
+                         ? Cell::ofText(categoryName(contest, contest.classes.category(k)))
+                         : Cell{},
                      letterCell(official[0]), orderCell(official[0]), Cell::ofNumber(cut1),
                      Cell::ofNumber(cut2), Cell::ofNumber(cut3), Cell::ofNumber(cards.count),
                      cards.count == 0 ? Cell{} : Cell::ofTenths(cards.averageInTenths()),

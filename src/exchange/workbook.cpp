@@ -55,21 +55,25 @@ std::vector<Part> partsOf(const std::vector<Table>& sheets, std::size_t room) {
 // Every text is kept once for the whole workbook, and cells name it by its number.
 class SharedTexts {
  public:
-  explicit SharedTexts(std::size_t longest) : longest_(longest) { letters_.fill(kUnknown); }
+  explicit SharedTexts(std::size_t longest) : longest_(longest) { numbers_.reserve(kRecents); }
 
-  // Most texts are single letters, or those of the rows before: finding them without a look at
-  // their letters makes a large workbook a third faster.
-  std::size_t numberOf(std::string_view text) {
+  void appendHeading(std::string& out, std::string_view text) {
+    out << "<c s=\"1\" t=\"s\"><v>" << find(text) << "</v></c>";
+  }
+  // Most texts are single letters, or those of the rows before: finding them, as their cells are
+  // written, without a look at their letters makes a large workbook a third faster.
+  void appendCell(std::string& out, std::string_view text) {
     if (text.size() == 1) {
-      std::size_t& number = letters_.at(static_cast<unsigned char>(text.front()));
-      if (number == kUnknown) number = find(text);
-      return number;
+      std::string& cell = letters_.at(static_cast<unsigned char>(text.front()));
+      if (cell.empty()) writeCell(cell, find(text));
+      out += cell;
+      return;
     }
-    Recent& recent = recents_.at(std::hash<const char*>{}(text.data()) / 4 % recents_.size());
+    Recent& recent = recents_[std::hash<const char*>{}(text.data()) / 4 % recents_.size()];
     if (recent.text.data() != text.data() || recent.text.size() != text.size()) {
       recent = {text, find(text)};
     }
-    return recent.number;
+    writeCell(out, recent.number);
   }
   void writeTo(std::string& out) const {
     out << kDeclaration << "<sst xmlns=\"" << kMain << "\" uniqueCount=\"" << texts_.size()
@@ -83,6 +87,9 @@ class SharedTexts {
   }
 
  private:
+  static void writeCell(std::string& out, std::size_t number) {
+    out << "<c t=\"s\"><v>" << number << "</v></c>";
+  }
   std::size_t find(std::string_view text) {
     text = text.substr(0, longest_);
     const auto found = numbers_.find(text);
@@ -111,11 +118,11 @@ class SharedTexts {
     std::string_view text;
     std::size_t number = 0;
   };
-  static constexpr std::size_t kUnknown = std::string_view::npos;
+  static constexpr std::size_t kRecents = 1U << 15U;
 
   std::size_t longest_;
-  std::array<std::size_t, 256> letters_{};
-  std::array<Recent, 1024> recents_;
+  std::array<std::string, 256> letters_;
+  std::vector<Recent> recents_ = std::vector<Recent>(kRecents);
   std::deque<std::string> texts_;
   std::unordered_map<std::string_view, std::size_t> numbers_;
 };
@@ -134,13 +141,15 @@ class SheetWriter {
          << "state=\"frozen\"/></sheetView></sheetViews><cols>";
     writeWidths();
     out_ << "</cols><sheetData>";
-    for (const std::string& heading : part_.sheet->headings)
-      cells_.push_back(Cell::ofText(heading));
-    writeRow("<c s=\"1\"");
+    out_ << "<row>";
+    for (std::size_t k = 0; k < columns_; ++k) {
+      texts_.appendHeading(out_, part_.sheet->headings[k]);
+    }
+    out_ << "</row>";
     for (std::size_t row = 0; row < part_.rows; ++row) {
       cells_.clear();
       part_.sheet->fill(part_.firstRow + row, cells_);
-      writeRow("<c");
+      writeRow();
     }
     out_ << "</sheetData></worksheet>";
   }
@@ -168,7 +177,7 @@ class SheetWriter {
   }
 
   // Cells say what they hold and not where they are: they follow each other, blank ones too.
-  void writeRow(std::string_view start) {
+  void writeRow() {
     out_ << "<row>";
     std::size_t count = std::min(cells_.size(), columns_);
     while (count > 0 && cells_[count - 1].kind == Cell::Kind::blank) --count;
@@ -177,14 +186,27 @@ class SheetWriter {
       if (cell.kind == Cell::Kind::blank) {
         out_ << "<c/>";
       } else if (cell.kind == Cell::Kind::text) {
-        out_ << start << " t=\"s\"><v>" << texts_.numberOf(cell.text) << "</v></c>";
+        texts_.appendCell(out_, cell.text);
       } else {
-        out_ << start << "><v>";
-        appendNumeral(out_, cell);
-        out_ << "</v></c>";
+        writeNumber(cell);
       }
     }
     out_ << "</row>";
+  }
+  // Most numbers are scores: their cells are written once and copied.
+  void writeNumber(const Cell& cell) {
+    const auto write = [&](std::string& out) {
+      out << "<c><v>";
+      appendNumeral(out, cell);
+      out << "</v></c>";
+    };
+    const auto value = static_cast<std::size_t>(cell.value);
+    if (cell.hasDecimal || value >= scores_.size()) {
+      write(out_);
+    } else {
+      if (scores_[value].empty()) write(scores_[value]);
+      out_ += scores_[value];
+    }
   }
 
   std::string& out_;
@@ -192,6 +214,7 @@ class SheetWriter {
   const Part& part_;
   std::size_t columns_;
   std::vector<Cell> cells_;
+  std::array<std::string, 64> scores_;
 };
 
 // The workbook's list of its sheets, the relations that find their files, and the types of these.

@@ -31,6 +31,11 @@ std::vector<std::int32_t> questionsClasses(const JudgingClasses& classes) {
   return classesWith(classes, [&](std::int32_t k) { return classes.hasQuestions(k); });
 }
 
+bool hasCategories(const Contest& contest) {
+  const std::vector<std::string>& names = contest.categories;
+  return names.size() > 1 || (names.size() == 1 && names[0] != kNoCategory);
+}
+
 std::vector<std::vector<std::int32_t>> classesByCategory(const Contest& contest) {
   std::vector<std::vector<std::int32_t>> members(
       std::max<std::size_t>(contest.categories.size(), 1));

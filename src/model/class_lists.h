@@ -14,6 +14,9 @@ namespace scorvane {
 [[nodiscard]] std::vector<std::int32_t> reasonsClasses(const JudgingClasses& classes);
 [[nodiscard]] std::vector<std::int32_t> questionsClasses(const JudgingClasses& classes);
 
+/// Whether the contest has categories: the placeholder of a contest without any is none.
+[[nodiscard]] bool hasCategories(const Contest& contest);
+
 /// The classes of each category, one entry a category and one at least. A class without a category
 /// of its own is one of the first.
 [[nodiscard]] std::vector<std::vector<std::int32_t>> classesByCategory(const Contest& contest);

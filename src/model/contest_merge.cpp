@@ -4,6 +4,7 @@
 #include <tuple>
 #include <utility>
 
+#include "model/class_lists.h"
 #include "model/merge_order.h"
 #include "model/merge_values.h"
 #include "model/numbering.h"
@@ -18,8 +19,7 @@ using Index = std::optional<std::int32_t>;
 
 // Without the placeholder, which is no category.
 std::vector<std::string> knownCategories(const Contest& contest) {
-  const bool isPlaceholder = contest.categories.size() == 1 && contest.categories[0] == kNoCategory;
-  return isPlaceholder ? std::vector<std::string>{} : contest.categories;
+  return hasCategories(contest) ? contest.categories : std::vector<std::string>{};
 }
 
 template <typename Value>

@@ -66,10 +66,11 @@ std::string announcersList(const Contest& contest) {
     return report.take();
   }
   for (const ReportRequest& request : *requests) {
+    const AwardRows rows = awardRows(contest, request);
     report.beginPage(title(request, "individuals", "Contestant", "Team"));
-    if (!addRows(report, request, individualRows(contest, request))) break;
+    if (!addRows(report, request, rows.individuals)) break;
     report.beginPage(title(request, "teams", "Team", "Coach"));
-    if (!addRows(report, request, teamRows(contest, request))) break;
+    if (!addRows(report, request, rows.teams)) break;
   }
   return report.take();
 }

@@ -16,7 +16,8 @@
 namespace scorvane {
 
 /// The awards from the last one to the overall champions, each list on a page of its own: for each
-/// award the individuals, then the teams, as many as the contest reports. Lines stay within 80
+/// award the individuals, then the teams, as many as the contest reports of those who have
+/// something entered for it. Lines stay within 80
 /// characters. A damaged contest of far too many categories makes a report that only says so.
 [[nodiscard]] std::string announcersList(const Contest& contest);
 

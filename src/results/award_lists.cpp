@@ -1,5 +1,6 @@
 #include "results/award_lists.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -47,6 +48,22 @@ std::vector<ReportRequest> categoryRequests(const Contest& contest) {
 
 bool takesTooLong(const Contest& contest, std::size_t lists) {
   return lists > 4 && lists > kMostVisits / visitsPerList(contest);
+}
+
+// A blank letter and a score of 0 were not entered.
+bool hasEntered(const Contest& contest, const ReportRequest& request, ContestantNumber number) {
+  const ClassScores* scores = contest.scores.find(number);
+  if (scores == nullptr) return false;
+  const auto counts = [&](ScoreKind kind) {
+    return request.kind == ScoreKind::overall || request.kind == kind;
+  };
+  return std::any_of(scores->begin(), scores->end(), [&](const auto& entry) {
+    const auto& [judged, record] = entry;
+    return std::binary_search(request.classes.begin(), request.classes.end(), judged) &&
+           ((counts(ScoreKind::placings) && record.letter != kNoLetter) ||
+            (counts(ScoreKind::reasons) && record.reasonsScore != 0) ||
+            (counts(ScoreKind::questions) && record.questionsScore != 0));
+  });
 }
 
 // By an ordering and its values that break ties. The values of the questions ranking are those of
@@ -121,6 +138,20 @@ std::optional<std::vector<ReportRequest>> printedLists(const Contest& contest) {
 std::string listName(const ReportRequest& request) {
   return formatText("High %s %.40s", request.team ? "Team" : "Individual",
                     awardName(request).c_str());
+}
+
+AwardRows awardRows(const Contest& contest, const ReportRequest& request) {
+  const auto totals = contestantTotals(contest, request.kind, request.classes);
+  AwardRows rows = {individualRows(contest, request, totals), teamRows(contest, request, totals)};
+  std::erase_if(rows.individuals, [&](const IndividualRow& row) {
+    return !hasEntered(contest, request, row.number);
+  });
+  std::erase_if(rows.teams, [&](const TeamRow& row) {
+    return std::none_of(row.members.begin(), row.members.end(), [&](const MemberRow& member) {
+      return !member.name->empty() && hasEntered(contest, request, member.number);
+    });
+  });
+  return rows;
 }
 
 const std::string& awardName(const ReportRequest& request) {

@@ -25,6 +25,14 @@ namespace scorvane {
 /// "High Individual Overall", "High Team Beef", the category's name cut to 40 bytes.
 [[nodiscard]] std::string listName(const ReportRequest& request);
 
+struct AwardRows {
+  std::vector<IndividualRow> individuals;
+  std::vector<TeamRow> teams;
+};
+/// The rows of individualRows() and teamRows() but those of who has nothing entered that the award
+/// counts, and of teams where that goes for every member: nobody wins by staying away.
+[[nodiscard]] AwardRows awardRows(const Contest& contest, const ReportRequest& request);
+
 /// What an award is for: the category's name, "Reasons", "Questions" or "Overall".
 [[nodiscard]] const std::string& awardName(const ReportRequest& request);
 

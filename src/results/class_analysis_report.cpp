@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <string_view>
 
 #include "model/class_statistics.h"
 #include "results/hand_out.h"
@@ -12,6 +13,7 @@ namespace scorvane {
 namespace {
 
 constexpr std::size_t kColumns = 3;
+constexpr std::size_t kWidestLine = 80;
 
 std::string averageText(const ScoreSum& scores) {
   const auto tenths = static_cast<long long>(scores.averageInTenths());
@@ -44,11 +46,21 @@ void appendGiven(std::string& out, const std::vector<GivenPlacing>& given) {
 
 void appendPairs(std::string& out, const ClassStatistics& statistics) {
   if (statistics.pairs.empty() || statistics.placed == 0) return;
-  out += "\n    Right: ";
+  constexpr std::string_view kStart = "    Right: ";
+  out.append("\n").append(kStart);
+  std::size_t width = kStart.size();
   for (const auto& [first, second, right] : statistics.pairs) {
-    appendFormat(out, " %d over %d: %d of %d  ", first, second, right, statistics.placed);
+    const std::string pair =
+        formatText(" %d over %d: %d of %d", first, second, right, statistics.placed);
+    // So many cards that three do not fit.
+    if (width + 2 + pair.size() > kWidestLine) {
+      out.append("\n").append(kStart.size(), ' ');
+      width = kStart.size();
+    }
+    const std::string_view gap = width == kStart.size() ? "" : "  ";
+    out.append(gap).append(pair);
+    width += gap.size() + pair.size();
   }
-  out.erase(out.find_last_not_of(' ') + 1);
   out += '\n';
 }
 

@@ -4,14 +4,10 @@
 #include <utility>
 
 #include "text/format.h"
-#include "text/report_marks.h"
 
 namespace scorvane {
 
 namespace {
-
-// A letter page has 66 lines, of which the head takes seven and the foot four.
-constexpr std::size_t kLinesOnPage = 54;
 
 std::size_t countLines(std::string_view text) {
   return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
@@ -28,19 +24,19 @@ void HandOut::turnPage() {
   if (hasPages_) text_.append(kPageBreakLine).append("\n");
   hasPages_ = true;
   text_ += title_;
-  linesOnPage_ = countLines(title_);
+  usedLines_ = countLines(title_);
 }
 
 void HandOut::add(std::string_view block) {
   const std::size_t lines = countLines(block);
-  const bool isFirst = linesOnPage_ == countLines(title_);
-  if (!isFirst && linesOnPage_ + lines > kLinesOnPage) turnPage();
+  const bool isFirst = usedLines_ == countLines(title_);
+  if (!isFirst && usedLines_ + lines > linesOnPage_) turnPage();
   text_ += block;
-  linesOnPage_ += lines;
+  usedLines_ += lines;
 }
 
 bool HandOut::isTooLong() {
-  return closeIfTooLong(text_, kLongestHandOut);
+  return closeIfTooLong(text_, longest_);
 }
 
 std::string placingText(PlacingLetter letter) {

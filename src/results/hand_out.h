@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "model/placing.h"
+#include "text/report_marks.h"
 
 namespace scorvane {
 
@@ -12,8 +13,11 @@ namespace scorvane {
 /// this one. One that fits on no page runs on.
 class HandOut {
  public:
-  /// Every printed page repeats the opening's four lines at its head.
-  explicit HandOut(std::string opening) : text_(std::move(opening)) {}
+  /// Every printed page repeats the opening's four lines at its head, and takes `linesOnPage` more;
+  /// the default leaves room for head and foot on the 66 lines of a letter page.
+  explicit HandOut(std::string opening, std::size_t linesOnPage = 54,
+                   std::size_t longest = kLongestHandOut)
+      : text_(std::move(opening)), linesOnPage_(linesOnPage), longest_(longest) {}
 
   /// Begins a page with its title lines, which are repeated on the further pages that its blocks
   /// need.
@@ -28,7 +32,9 @@ class HandOut {
 
   std::string text_;
   std::string title_;
-  std::size_t linesOnPage_ = 0;
+  std::size_t linesOnPage_;
+  std::size_t longest_;
+  std::size_t usedLines_ = 0;
   bool hasPages_ = false;
 };
 

@@ -4,7 +4,6 @@
 
 #include "model/class_lists.h"
 #include "model/team_index.h"
-#include "results/individual_ranking.h"
 #include "results/team_ranking.h"
 
 namespace scorvane {
@@ -59,11 +58,15 @@ ReportRequest everybodyRequest(const Contest& contest, ScoreKind kind) {
 }
 
 std::vector<IndividualRow> individualRows(const Contest& contest, const ReportRequest& request) {
+  return individualRows(contest, request, contestantTotals(contest, request.kind, request.classes));
+}
+
+std::vector<IndividualRow> individualRows(const Contest& contest, const ReportRequest& request,
+                                          const std::vector<IndividualRankEntry>& totals) {
   const std::size_t named = countNamed(contest);
   const std::int64_t wanted = rowsToList(request, named);
   const TieOrder order = tieOrderFor(contest, request.kind, request.classes);
-  const auto ranking =
-      rankIndividuals(contestantTotals(contest, request.kind, request.classes), order);
+  const auto ranking = rankIndividuals(totals, order);
   const TeamIndex teams(contest);
   std::vector<IndividualRow> rows;
   RankValues previous;
@@ -102,9 +105,13 @@ std::vector<IndividualRow> individualRows(const Contest& contest, const ReportRe
 }
 
 std::vector<TeamRow> teamRows(const Contest& contest, const ReportRequest& request) {
+  return teamRows(contest, request, contestantTotals(contest, request.kind, request.classes));
+}
+
+std::vector<TeamRow> teamRows(const Contest& contest, const ReportRequest& request,
+                              const std::vector<IndividualRankEntry>& totals) {
   const std::int64_t wanted = rowsToList(request, contest.teams.size());
   const TieOrder order = tieOrderFor(contest, request.kind, request.classes);
-  const auto totals = contestantTotals(contest, request.kind, request.classes);
   const std::vector<TeamRankEntry> ranking = rankTeams(contest, totals, order);
   std::vector<TeamRow> rows;
   RankValues previous;

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "results/tie_breakers.h"
+#include "results/individual_ranking.h"
 
 namespace scorvane {
 
@@ -50,8 +50,15 @@ struct TeamRow {
 [[nodiscard]] std::vector<IndividualRow> individualRows(const Contest& contest,
                                                         const ReportRequest& request);
 
+/// The same from totals that were added up already, for this kind and these classes.
+[[nodiscard]] std::vector<IndividualRow> individualRows(
+    const Contest& contest, const ReportRequest& request,
+    const std::vector<IndividualRankEntry>& totals);
+
 /// The teams, best first, as many as the request asks for but one at least. A percentage is taken
 /// of all teams.
 [[nodiscard]] std::vector<TeamRow> teamRows(const Contest& contest, const ReportRequest& request);
+[[nodiscard]] std::vector<TeamRow> teamRows(const Contest& contest, const ReportRequest& request,
+                                            const std::vector<IndividualRankEntry>& totals);
 
 }  // namespace scorvane

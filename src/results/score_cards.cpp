@@ -6,21 +6,29 @@
 
 namespace scorvane {
 
-ScoreCards::ScoreCards(const Contest& contest)
-    : contest_(contest), columns_(contest), places_(contest.contestantNames.size()) {
-  for (const IndividualRow& row :
-       individualRows(contest, everybodyRequest(contest, ScoreKind::overall))) {
-    places_[contest.contestantNames.positionOf(row.number)] = row.place;
-  }
+std::map<const Team*, TeamStandings> teamStandings(const Contest& contest) {
+  std::map<const Team*, TeamStandings> standings;
   const ClassSet classes = allClasses(contest.classes);
   for (const ScoreKind kind : kScoreKinds) {
     const auto totals = contestantTotals(contest, kind, classes);
     int place = 0;
     for (const auto& [team, values] :
          rankTeams(contest, totals, tieOrderFor(contest, kind, classes))) {
-      standings_[&team->second].at(static_cast<std::size_t>(kind)) = {++place, values.score};
+      standings[&team->second].at(static_cast<std::size_t>(kind)) = {++place, values.score};
     }
-    if (kind == ScoreKind::overall) overall_ = totals;
+  }
+  return standings;
+}
+
+ScoreCards::ScoreCards(const Contest& contest)
+    : contest_(contest),
+      columns_(contest),
+      places_(contest.contestantNames.size()),
+      overall_(contestantTotals(contest, ScoreKind::overall, allClasses(contest.classes))) {
+  findTotals();
+  for (const IndividualRow& row :
+       individualRows(contest, everybodyRequest(contest, ScoreKind::overall), overall_)) {
+    places_[contest.contestantNames.positionOf(row.number)] = row.place;
   }
 }
 
@@ -29,12 +37,12 @@ int ScoreCards::placeOf(ContestantNumber number) const {
   return position == places_.size() ? 0 : places_[position];
 }
 
-const TeamStandings& ScoreCards::standingsOf(const Team& team) const {
-  return standings_.at(&team);
-}
-
 CardRow ScoreCards::cardOf(ContestantNumber number, const std::string& name) const {
-  return {number, &name, contest_.scores.find(number), placeOf(number)};
+  const std::size_t position = contest_.scores.positionOf(number);
+  if (position == overall_.size()) return {number, &name};
+  const ClassScores& scores =
+      (contest_.scores.begin() + static_cast<std::ptrdiff_t>(position))->second;
+  return {number, &name, &scores, overall_[position].values.score, placeOf(number)};
 }
 
 std::vector<CardRow> ScoreCards::membersOf(const Team& team) const {
@@ -61,29 +69,38 @@ std::vector<CardRow> ScoreCards::withoutTeam() const {
   return cards;
 }
 
+void ScoreCards::findTotals() {
+  for (const SummaryBlock& block : columns_.blocks()) {
+    const bool isCategory = block.kind == SummaryBlock::Kind::category;
+    if (block.kind == SummaryBlock::Kind::judgingClass) continue;
+    if (isCategory && !hasCategories(contest_)) continue;
+    auto& [total, sums] = totals_.emplace_back();
+    if (isCategory) total.category = &block.title;
+    std::size_t column = block.firstColumn;
+    for (const std::string_view heading : block.headings) {
+      auto sum = &CardTotal::total;
+      if (heading == "PLC") {
+        sum = &CardTotal::placings;
+      } else if (heading == "RSN") {
+        total.hasReasons = true;
+        sum = &CardTotal::reasons;
+      } else if (heading == "QUE") {
+        total.hasQuestions = true;
+        sum = &CardTotal::questions;
+      }
+      sums.emplace_back(sum, column++);
+    }
+  }
+}
+
 std::vector<CardTotal> ScoreCards::totalsOf(const CardRow& card) const {
   std::vector<std::int32_t> cells(columns_.count());
   if (card.scores != nullptr) columns_.addUp(*card.scores, cells);
   std::vector<CardTotal> totals;
-  for (const SummaryBlock& block : columns_.blocks()) {
-    if (block.kind == SummaryBlock::Kind::judgingClass) continue;
-    CardTotal& total = totals.emplace_back();
-    if (block.kind == SummaryBlock::Kind::category) total.category = &block.title;
-    std::size_t column = block.firstColumn;
-    for (const std::string_view heading : block.headings) {
-      const std::int32_t cell = cells[column++];
-      if (heading == "PLC") {
-        total.placings = cell;
-      } else if (heading == "RSN") {
-        total.hasReasons = true;
-        total.reasons = cell;
-      } else if (heading == "QUE") {
-        total.hasQuestions = true;
-        total.questions = cell;
-      } else {
-        total.total = cell;
-      }
-    }
+  totals.reserve(totals_.size());
+  for (const auto& [empty, sums] : totals_) {
+    CardTotal& total = totals.emplace_back(empty);
+    for (const auto& [sum, column] : sums) total.*sum = cells[column];
   }
   return totals;
 }

@@ -17,6 +17,7 @@ class ScoreCardsBuilder {
   explicit ScoreCardsBuilder(const Contest& contest)
       : contest_(contest),
         cards_(contest),
+        standings_(teamStandings(contest)),
         named_(countNamed(contest)),
         report_(
             "Score Cards By Team\n\n"
@@ -26,7 +27,7 @@ class ScoreCardsBuilder {
     for (const auto& [name, team] : contest_.teams) {
       report_.beginPage(
           formatText("Team:  %-30.30s     Coach:  %.30s\n\n", name.c_str(), team.coach.c_str()));
-      addStandings(cards_.standingsOf(team));
+      addStandings(standings_.at(&team));
       if (!addCards(cards_.membersOf(team), true)) return report_.take();
     }
     const std::vector<CardRow> others = cards_.withoutTeam();
@@ -152,6 +153,7 @@ class ScoreCardsBuilder {
 
   const Contest& contest_;
   ScoreCards cards_;
+  std::map<const Team*, TeamStandings> standings_;
   std::size_t named_;
   HandOut report_;
 };

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 #include <optional>
 
 #include "text/unicode.h"
@@ -16,13 +18,21 @@ unsigned byteAt(std::string_view bytes, std::size_t i) {
   return static_cast<unsigned char>(bytes[i]);
 }
 
+// How many characters from `i` on are ASCII.
+std::size_t asciiRun(std::string_view bytes, std::size_t i) {
+  constexpr std::uint64_t kOtherBits = 0x8080808080808080;
+  std::size_t end = i;
+  for (std::uint64_t eight = 0; end + sizeof eight <= bytes.size(); end += sizeof eight) {
+    std::memcpy(&eight, bytes.data() + end, sizeof eight);
+    if ((eight & kOtherBits) != 0) break;
+  }
+  while (end < bytes.size() && byteAt(bytes, end) < 0x80) ++end;
+  return end - i;
+}
+
 bool isUtf8(std::string_view bytes) {
-  for (std::size_t i = 0; i < bytes.size();) {
-    if (byteAt(bytes, i) < 0x80) {
-      ++i;
-    } else if (!takeCharacter(bytes, i)) {
-      return false;
-    }
+  for (std::size_t i = asciiRun(bytes, 0); i < bytes.size(); i += asciiRun(bytes, i)) {
+    if (!takeCharacter(bytes, i)) return false;
   }
   return true;
 }
@@ -30,13 +40,6 @@ bool isUtf8(std::string_view bytes) {
 // Half of a pair, as a field can hold it, is no reason to take the whole text for 8-bit text.
 char32_t orReplacement(char32_t c) {
   return c >= kSurrogates && c < kAfterSurrogates ? kNoCharacter : c;
-}
-
-// How many characters from `i` on are ASCII.
-std::size_t asciiRun(std::string_view bytes, std::size_t i) {
-  std::size_t end = i;
-  while (end < bytes.size() && byteAt(bytes, end) < 0x80) ++end;
-  return end - i;
 }
 
 // Hands every character of the file to `take`, runs of ASCII as such.

@@ -1,5 +1,8 @@
 #include "text/windows_1252.h"
 
+#include <algorithm>
+#include <array>
+
 #include "text/unicode.h"
 
 namespace scorvane {
@@ -33,20 +36,48 @@ const char* referenceOf(char character) {
   }
 }
 
+constexpr bool isPlain(char c) {
+  return c >= ' ' && c < 0x7F;
+}
+
+constexpr auto kPlainInMarkup = [] {
+  std::array<bool, 256> plain{};
+  for (std::size_t i = 0; i < plain.size(); ++i) {
+    const auto c = static_cast<char>(i);
+    plain.at(i) = isPlain(c) && std::string_view("&<>\"'").find(c) == std::string_view::npos;
+  }
+  return plain;
+}();
+
+// Most texts are taken over as they are, in one piece.
+template <typename Plain, typename Write>
+void appendAll(std::string& out, std::string_view text, Plain plain, Write write) {
+  const char* const end = text.data() + text.size();
+  for (const char* at = text.data(); at != end; ++at) {
+    const char* other = std::find_if_not(at, end, plain);
+    out.append(at, other);
+    at = other;
+    if (at == end) return;
+    write(*at);
+  }
+}
+
 }  // namespace
 
 void appendUtf8(std::string& out, std::string_view text) {
-  for (const char c : text) appendCharacter(out, characterOf(static_cast<unsigned char>(c)));
+  appendAll(out, text, isPlain,
+            [&](char c) { appendCharacter(out, characterOf(static_cast<unsigned char>(c))); });
 }
 
 void appendMarkup(std::string& out, std::string_view text) {
-  for (const char c : text) {
+  const auto plain = [](char c) { return kPlainInMarkup[static_cast<unsigned char>(c)]; };
+  appendAll(out, text, plain, [&](char c) {
     if (const char* reference = referenceOf(c)) {
       out += reference;
     } else {
       appendCharacter(out, characterOf(static_cast<unsigned char>(c)));
     }
-  }
+  });
 }
 
 }  // namespace scorvane

@@ -12,6 +12,7 @@
 #include "results/award_lists.h"
 #include "results/high_reports.h"
 #include "results/rankings.h"
+#include "results/score_cards.h"
 #include "tests/exchange/markup_check.h"
 #include "tests/support/contest_builder.h"
 #include "text/format.h"
@@ -139,13 +140,29 @@ TEST(ResultsPage, NamesNobodyWithoutAnAwardUnlessAsked) {
               std::string::npos);
   }
   EXPECT_GT(unnamed, 20U);
+  const ScoreCards judged(contest);
   for (const auto& [name, team] : contest.teams) {
-    const bool isNamed = !contestantName(contest, team.members[0]).empty();
-    const std::string member = "<li>" + contestantName(contest, team.members[0]) + " ";
-    EXPECT_EQ(teams.find(member) != std::string::npos, isNamed) << member;
-    EXPECT_EQ(awards.find(member), std::string::npos);
+    for (const CardRow& card : judged.membersOf(team)) {
+      const std::string member = formatText("<li>%s %d%s<", card.name->c_str(), card.overall,
+                                            card.number == team.members[4] ? ", alternate" : "");
+      EXPECT_NE(std::regex_replace(teams, std::regex("\n"), "").find(member), std::string::npos)
+          << member;
+      EXPECT_EQ(awards.find("<li>" + *card.name), std::string::npos);
+    }
   }
   EXPECT_EQ(awards.find("<script"), std::string::npos);
+}
+
+TEST(ResultsPage, NamesNobodyBeforeTheFirstCard) {
+  Contest contest = tiedContest(1);
+  contest.classes.officialLetter[1] = kNoLetter;
+  for (auto& [number, records] : contest.scores) {
+    for (auto& [k, record] : records) record = {};
+  }
+  const std::string page = resultsPage(contest, PageContent::awards);
+  EXPECT_EQ(page.find("<table"), std::string::npos);
+  EXPECT_NE(page.find("<p>No scores are in yet.</p>"), std::string::npos);
+  EXPECT_NE(page.find("<p>No official placing, cuts "), std::string::npos);
 }
 
 TEST(ResultsPage, CannotBeBrokenByNames) {
@@ -249,6 +266,10 @@ Number,Name,Class,Placing,Order,Score,Reasons,Questions
 102,Bob,1,B,1243,50,,
 102,Bob,2,,,,,7
 )");
+  builder.categories({kNoCategory});
+  const std::vector<Table> sheets = scoreSheets(builder.contest);
+  EXPECT_NE(csvText(sheets[0]).find(",3 Score,Placings,Reasons,"), std::string::npos);
+  EXPECT_NE(csvText(sheets[2]).find("\n1,Steers,,B,"), std::string::npos);
 }
 
 }  // namespace
