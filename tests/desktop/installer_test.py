@@ -120,24 +120,23 @@ class InstallerTest(DesktopTest):
         manual = folder / "ScorvaneUsersManual.htm"
         contest = manual.with_name("ScorvaneUsersManual_files") / "kept.scv"
         shutil.copy(ROOT / "samples/county.scv", contest)
-        manual.write_text("old")
 
         # A program runs, where no window of it can be found: the old version stays whole.
         running = subprocess.Popen(["wine", "explorer", "/desktop=other,640x480", r"C:\Fairs\scorvane.exe"],
                                    env=self.desktop.environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self.addCleanup(running.wait)
-        listed = lambda: b"scorvane.exe" in self.desktop.wine("tasklist", check=False).stdout  # noqa: E731
-        wait_for(listed, "the program on another desktop")
-        self.assertEqual(self.setup("/CurrentUser", r"/D=C:\Fairs"), RUNNING)
+        self.addCleanup(self.desktop.wine, "taskkill", "/f", "/im", "scorvane.exe", check=False)
+        upgrade = lambda: self.setup("/CurrentUser", r"/D=C:\Fairs")  # noqa: E731
+        wait_for(lambda: upgrade() == RUNNING, "the program on another desktop")
+        manual.write_text("old")
+        self.assertEqual(upgrade(), RUNNING)
         self.assertEqual(manual.read_text(), "old")
         self.desktop.wine("taskkill", "/f", "/im", "scorvane.exe")
-        wait_for(lambda: not listed(), "its end")
-
-        self.install("/CurrentUser", folder)
+        wait_for(lambda: upgrade() == 0, "its end")
         self.assertNotEqual(manual.stat().st_size, 3)
         self.assertEqual(licence.read_text(), "Of something else.")
         shutil.copy(folder / "Scorvane License.txt", licence)  # as version 1 had it
-        self.install("/CurrentUser", folder)
+        self.assertEqual(upgrade(), 0)
         self.uninstall(folder)
         self.assertEqual([file for file in folder.rglob("*") if file.is_file()], [contest])
 
