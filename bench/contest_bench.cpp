@@ -8,6 +8,7 @@
 #include "app/command_table.h"
 #include "exchange/exports.h"
 #include "model/contest_differences.h"
+#include "model/contest_merge.h"
 #include "storage/contest_reader.h"
 #include "storage/contest_writer.h"
 #include "tools/contest_maker.h"
@@ -46,16 +47,33 @@ void save(benchmark::State& state) {
   state.SetComplexityN(state.range(0));
 }
 
-// Every hundredth card differs.
-void compare(benchmark::State& state) {
-  const Contest& here = contestOf(state.range(0));
-  Contest there = here;
+// A contest in which every hundredth card differs, from the `first` one on.
+Contest otherCards(const Contest& contest, std::size_t first) {
+  Contest other = contest;
   std::size_t cards = 0;
-  for (auto& [number, records] : there.scores) {
+  for (auto& [number, records] : other.scores) {
     for (auto& [judged, record] : records) {
-      if (++cards % 100 == 0) record.letter = record.letter == 'A' ? 'B' : 'A';
+      if (++cards % 100 == first) record.letter = record.letter == 'A' ? 'B' : 'A';
     }
   }
+  return other;
+}
+
+// What both typed since they had the same file: nobody a card of the other one.
+void merge(benchmark::State& state) {
+  const Contest& base = contestOf(state.range(0));
+  const Contest ours = otherCards(base, 0), theirs = otherCards(base, 50);
+  for ([[maybe_unused]] auto step : state) {
+    const Merge merged = mergeContests(base, ours, theirs);
+    if (!merged.isSmooth()) state.SkipWithError("the cards should not meet");
+    benchmark::DoNotOptimize(&merged);
+  }
+  state.SetComplexityN(state.range(0));
+}
+
+void compare(benchmark::State& state) {
+  const Contest& here = contestOf(state.range(0));
+  const Contest there = otherCards(here, 0);
   for ([[maybe_unused]] auto step : state) {
     const auto differences = contestDifferences(here, there);
     benchmark::DoNotOptimize(differences.scores.data());
@@ -94,12 +112,14 @@ void overSizes(benchmark::internal::Benchmark* bench) {
 BENCHMARK(load)->Apply(overSizes);
 BENCHMARK(save)->Apply(overSizes);
 BENCHMARK(compare)->Apply(overSizes);
+BENCHMARK(merge)->Apply(overSizes);
 BENCHMARK_CAPTURE(publish, page, true)->Apply(overSizes);
 BENCHMARK_CAPTURE(publish, workbook, false)->Apply(overSizes);
 
-// Every results report.
+// Every results report, and Contest Check.
 const bool kRegistered = [] {
-  for (const int id : {32796, 32799, 32798, 32827, 32801, 32804, 32803, 32830, 32800, 32810}) {
+  for (const int id :
+       {32796, 32799, 32798, 32827, 32801, 32804, 32803, 32830, 32800, 32810, 33015}) {
     const std::string name = "results/" + std::string(findCommand(id)->caption);
     overSizes(benchmark::RegisterBenchmark(name.c_str(), report, id));
   }

@@ -25,7 +25,8 @@ set(stage ${package}/Scorvane)
 # a text without CRs as one line.
 file(READ LICENSE licence)
 file(READ /usr/share/doc/libcli11-dev/copyright option_library_licence)
-file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/LICENSE.txt NEWLINE_STYLE DOS
+set(licence_file "${CMAKE_BINARY_DIR}/Scorvane License.txt")
+file(CONFIGURE OUTPUT ${licence_file} NEWLINE_STYLE DOS
      CONTENT "${licence}\n\nscorvane-report and scorvane-contest contain the option library CLI11:\n\n${option_library_licence}" @ONLY)
 
 add_custom_command(
@@ -34,13 +35,24 @@ add_custom_command(
   COMMAND ${CMAKE_COMMAND} -E rm -rf ${stage} ${zip}
   COMMAND ${CMAKE_COMMAND} -E make_directory ${stage}/samples
   COMMAND ${CMAKE_COMMAND} -E copy $<TARGET_FILE:scorvane> $<TARGET_FILE:scorvane-report>
-          $<TARGET_FILE:scorvane-contest> ${CMAKE_BINARY_DIR}/LICENSE.txt ${CMAKE_BINARY_DIR}/${manual_name}.htm ${stage}
+          $<TARGET_FILE:scorvane-contest> ${licence_file} ${CMAKE_BINARY_DIR}/${manual_name}.htm ${stage}
   COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_BINARY_DIR}/${manual_name}_files
           ${stage}/${manual_name}_files
   COMMAND ${CMAKE_COMMAND} -E copy ${sample_files} ${stage}/samples
   COMMAND ${CMAKE_COMMAND} -E chdir ${package} ${CMAKE_COMMAND} -E tar cf ${zip} --format=zip
           Scorvane
   VERBATIM)
+
+# What an upgrade and the uninstaller delete of the manual, file by file. A picture that goes out of the
+# manual stays in this list, beside the others: earlier versions have put it there.
+set(deletions "!macro DeleteManualFiles folder\n")
+file(GLOB manual_pictures CONFIGURE_DEPENDS ${manual_source}/${manual_name}_files/*)
+foreach(file IN LISTS manual_pictures)
+  get_filename_component(name ${file} NAME)
+  string(APPEND deletions "  Delete \"\${folder}\\${name}\"\n")
+endforeach()
+string(APPEND deletions "!macroend\n")
+file(WRITE ${CMAKE_BINARY_DIR}/manual_files.nsh "${deletions}")
 
 # The side of Setup's last page: the left part of the start-up picture, for dense displays, too.
 set(setup_side ${pictures}/setup_side.bmp)
@@ -53,9 +65,11 @@ add_custom_command(
 add_custom_command(
   OUTPUT ${setup}
   DEPENDS ${zip} ${setup_side} ${CMAKE_SOURCE_DIR}/packaging/scorvane.nsi
+          ${CMAKE_SOURCE_DIR}/packaging/path.nsh
   COMMAND
     makensis -V2 -WX -DVERSION=${PROJECT_VERSION} -DSTAGE=${stage} -DSAMPLES=${samples}
-    -DICON=${pictures}/scorvane.ico -DSIDE=${setup_side} -DOUTPUT=${setup}
+    -DICON=${pictures}/scorvane.ico -DSIDE=${setup_side}
+    -DMANUAL_FILES=${CMAKE_BINARY_DIR}/manual_files.nsh -DOUTPUT=${setup}
     ${CMAKE_SOURCE_DIR}/packaging/scorvane.nsi
   VERBATIM)
 add_custom_target(package DEPENDS ${setup} ${zip})

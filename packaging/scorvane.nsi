@@ -1,10 +1,11 @@
 ; The installer ScorvaneSetup.exe, for one user or for all users of the computer.
 ;
-; Silent: ScorvaneSetup.exe /S /CurrentUser   or   /S /AllUsers [/D=C:\folder]
+; Silent: ScorvaneSetup.exe /S /CurrentUser   or   /S /AllUsers [/Path] [/D=C:\folder]
+; /Path takes the console programs into the path, as the box on the page of components does.
 ; Exit codes: 0 installed, 1 cancelled, 2 refused because Scorvane is running.
 ;
-; The build passes STAGE (folder with everything that ships), SAMPLES, ICON, SIDE (a picture), OUTPUT
-; and VERSION.
+; The build passes STAGE (folder with everything that ships), SAMPLES, ICON, SIDE (a picture), OUTPUT,
+; MANUAL_FILES (a macro that deletes the manual's files one by one) and VERSION.
 
 ; 64-bit like the program itself; it must come before anything else.
 Target amd64-unicode
@@ -30,6 +31,9 @@ ManifestDPIAware true
 !include MUI2.nsh
 !include LogicLib.nsh
 !include FileFunc.nsh
+!include WinMessages.nsh
+!include "path.nsh"
+!include "${MANUAL_FILES}"
 
 Name "${PROGRAM}"
 OutFile "${OUTPUT}"
@@ -46,8 +50,9 @@ VIAddVersionKey "LegalCopyright" "Copyright (c) 2026 The Scorvane developers"
 !define MUI_UNICON "${ICON}"
 !define MUI_WELCOMEFINISHPAGE_BITMAP "${SIDE}"
 !define MUI_ABORTWARNING
-!insertmacro MUI_PAGE_LICENSE "${STAGE}/LICENSE.txt"
+!insertmacro MUI_PAGE_LICENSE "${STAGE}/Scorvane License.txt"
 !insertmacro MULTIUSER_PAGE_INSTALLMODE
+!insertmacro MUI_PAGE_COMPONENTS
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
 !insertmacro MUI_PAGE_FINISH
@@ -55,10 +60,27 @@ VIAddVersionKey "LegalCopyright" "Copyright (c) 2026 The Scorvane developers"
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "English"
 
-; Refuses to go on while the program runs: its file is in use, and an operator is at work in it.
+; Leaves $0 other than 0 when a program of the folder runs: its file takes no writing then.
+!macro LookWhetherItRuns file
+  ${If} ${FileExists} "$INSTDIR\${file}"
+    ClearErrors
+    FileOpen $1 "$INSTDIR\${file}" a
+    ${If} ${Errors}
+      StrCpy $0 1
+    ${Else}
+      FileClose $1
+    ${EndIf}
+  ${EndIf}
+!macroend
+
+; Refuses to go on while the program runs: its file is in use, and an operator is at work in it. Windows of
+; other desktops are not found, and the console programs have none. Nothing has been touched so far.
 !macro StopWhileRunning
   ${Do}
     FindWindow $0 "SCORVANE"
+    !insertmacro LookWhetherItRuns "scorvane.exe"
+    !insertmacro LookWhetherItRuns "scorvane-report.exe"
+    !insertmacro LookWhetherItRuns "scorvane-contest.exe"
     ${If} $0 = 0
       ${ExitDo}
     ${EndIf}
@@ -73,24 +95,39 @@ VIAddVersionKey "LegalCopyright" "Copyright (c) 2026 The Scorvane developers"
   System::Call "shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)"
 !macroend
 
-; A folder named by /D stands in $INSTDIR before the choice of users puts its own there.
-Function .onInit
-  StrCpy $R0 $INSTDIR
-  !insertmacro MULTIUSER_INIT
-  ${If} $R0 != ""
-    StrCpy $INSTDIR $R0
-  ${EndIf}
-FunctionEnd
+; Deletes the manual but for what somebody else has put into the folder of its pictures.
+!macro DeleteManual
+  Delete "$INSTDIR\${MANUAL}.htm"
+  !insertmacro DeleteManualFiles "$INSTDIR\${MANUAL}_files"
+  RMDir "$INSTDIR\${MANUAL}_files"
+!macroend
 
-Section "Install"
+; Version 1 called its licence so, as others do; theirs stay.
+!macro DeleteLicenceOfVersion1
+  ClearErrors
+  FileOpen $1 "$INSTDIR\LICENSE.txt" r
+  ${IfNot} ${Errors}
+    FileRead $1 $2
+    FileRead $1 $2
+    FileRead $1 $2
+    FileClose $1
+    ${If} $2 S== "Copyright (c) 2026 The Scorvane developers$\r$\n"
+      Delete "$INSTDIR\LICENSE.txt"
+    ${EndIf}
+  ${EndIf}
+!macroend
+
+Section "${PROGRAM}"
+  SectionIn RO
   !insertmacro StopWhileRunning
   SetOutPath "$INSTDIR"
   File "${STAGE}/scorvane.exe"
   File "${STAGE}/scorvane-report.exe"
   File "${STAGE}/scorvane-contest.exe"
-  File "${STAGE}/LICENSE.txt"
+  !insertmacro DeleteLicenceOfVersion1
+  File "${STAGE}/Scorvane License.txt"
+  !insertmacro DeleteManual
   File "${STAGE}/${MANUAL}.htm"
-  RMDir /r "$INSTDIR\${MANUAL}_files"
   File /r "${STAGE}/${MANUAL}_files"
 
   ; A sample that somebody has worked in is a contest now: it stays as it is.
@@ -132,6 +169,30 @@ Section "Install"
   IntFmt $0 "0x%08X" $0
   WriteRegDWORD SHCTX "${UNINSTALL_KEY}" "EstimatedSize" "$0"
 SectionEnd
+
+Section /o "Commands in the path" PATH_SECTION
+  !insertmacro EditPath 1
+SectionEnd
+
+!insertmacro MUI_FUNCTION_DESCRIPTION_BEGIN
+  !insertmacro MUI_DESCRIPTION_TEXT ${PATH_SECTION} \
+    "Has every command prompt find scorvane-report and scorvane-contest."
+!insertmacro MUI_FUNCTION_DESCRIPTION_END
+
+; A folder named by /D stands in $INSTDIR before the choice of users puts its own there.
+Function .onInit
+  StrCpy $R0 $INSTDIR
+  !insertmacro MULTIUSER_INIT
+  ${If} $R0 != ""
+    StrCpy $INSTDIR $R0
+  ${EndIf}
+  ${GetParameters} $R0
+  ClearErrors
+  ${GetOptions} $R0 "/Path" $R1
+  ${IfNot} ${Errors}
+    !insertmacro SelectSection ${PATH_SECTION}
+  ${EndIf}
+FunctionEnd
 
 ; Removes the installation that this very uninstaller belongs to, even when there is one for the
 ; user and another one for everybody.
@@ -175,7 +236,8 @@ FunctionEnd
   ${EndIf}
 !macroend
 
-; Contests stay: nothing is deleted but what Setup put there, and a folder only once it is empty.
+; Contests stay: nothing is deleted but what Setup put there, and a folder only once it is empty. Unsaved
+; work and earlier saves stay, too.
 Section "Uninstall"
   !insertmacro StopWhileRunning
   InitPluginsDir
@@ -208,11 +270,17 @@ Section "Uninstall"
   Delete "$INSTDIR\scorvane.exe"
   Delete "$INSTDIR\scorvane-report.exe"
   Delete "$INSTDIR\scorvane-contest.exe"
-  Delete "$INSTDIR\LICENSE.txt"
-  Delete "$INSTDIR\${MANUAL}.htm"
-  RMDir /r "$INSTDIR\${MANUAL}_files"
+  Delete "$INSTDIR\Scorvane License.txt"
+  !insertmacro DeleteManual
   Delete "$INSTDIR\Uninstall.exe"
+  !insertmacro EditPath 0
   RMDir "$INSTDIR"
 
   DeleteRegKey SHCTX "${SETTINGS_KEY}"
+
+  ReadEnvStr $0 LOCALAPPDATA
+  ${If} ${FileExists} "$0\Scorvane\*.*"
+    MessageBox MB_OK|MB_ICONINFORMATION \
+      "Your contests were left where they are, and so were unsaved work and earlier saves: $0\Scorvane" /SD IDOK
+  ${EndIf}
 SectionEnd

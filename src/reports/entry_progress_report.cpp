@@ -13,7 +13,6 @@ namespace scorvane {
 
 namespace {
 
-constexpr std::size_t kWidestLine = 80;
 constexpr std::size_t kPrefix = 33;
 
 const char* kindWord(ScoreValue kind) {

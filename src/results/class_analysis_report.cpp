@@ -7,13 +7,13 @@
 #include "model/class_statistics.h"
 #include "results/hand_out.h"
 #include "text/format.h"
+#include "text/report_marks.h"
 
 namespace scorvane {
 
 namespace {
 
 constexpr std::size_t kColumns = 3;
-constexpr std::size_t kWidestLine = 80;
 
 std::string averageText(const ScoreSum& scores) {
   const auto tenths = static_cast<long long>(scores.averageInTenths());

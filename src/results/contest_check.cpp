@@ -23,7 +23,6 @@ namespace scorvane {
 namespace {
 
 constexpr std::string_view kNothing = "Nothing is missing.\n";
-constexpr std::size_t kWidestLine = 80;
 // As wide as a team's name is in the High Team reports.
 constexpr std::size_t kShownTeamName = 21;
 

@@ -5,12 +5,12 @@
 #include "results/hand_out.h"
 #include "results/score_cards.h"
 #include "text/format.h"
+#include "text/report_marks.h"
 
 namespace scorvane {
 
 namespace {
 
-constexpr std::size_t kWidestCardLine = 80;
 constexpr const char* kColumns =
     " # Class             Offic. Cuts   Placed PLC RSN QUE Where the points went\n";
 
@@ -120,7 +120,7 @@ class ScoreCardsBuilder {
     out += " ";
     const auto add = [&](const std::string& text) {
       if (out.size() - start > indent) out += "  ";
-      if (out.size() - start + text.size() > kWidestCardLine) {
+      if (out.size() - start + text.size() > kWidestLine) {
         out.erase(out.find_last_not_of(' ') + 1);
         out += '\n';
         start = out.size();

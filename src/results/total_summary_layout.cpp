@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "text/format.h"
+#include "text/report_marks.h"
 
 namespace scorvane {
 
@@ -96,10 +97,10 @@ void SummaryLayout::makeBands(std::vector<PlacedBlock> blocks) {
   // The first block of each band.
   const auto startsOf = [&](auto first, auto last) {
     std::vector<std::size_t> starts;
-    std::size_t lineWidth = kWidestSummaryLine;
+    std::size_t lineWidth = kWidestLine;
     for (; first != last; ++first) {
       lineWidth += kBar.size() + first->width;
-      if (lineWidth <= kWidestSummaryLine) continue;
+      if (lineWidth <= kWidestLine) continue;
       starts.push_back(static_cast<std::size_t>(first - blocks.begin()));
       lineWidth = prefixWidth_ + kBar.size() + first->width;
     }

@@ -11,10 +11,9 @@
 #include <vector>
 
 #include "results/total_summary_table.h"
+#include "text/report_marks.h"
 
 namespace scorvane {
-
-inline constexpr std::size_t kWidestSummaryLine = 80;
 
 /// Refers to the table it was made of.
 class SummaryLayout {

@@ -1,5 +1,5 @@
 // What the builders of reports and those who show and print them agree on: marks inside a report's
-// text, and how long one may grow.
+// text, and how wide and long one may grow.
 #pragma once
 
 #include <cstddef>
@@ -16,6 +16,9 @@ inline constexpr const char* kPageBreakLine = "               ------- Page Break
 /// Lines that switch the font while printing.
 inline constexpr const char* kSmallFontLine = "--- Small Font ---";
 inline constexpr const char* kLargeFontLine = "--- Large Font ---";
+
+/// As many characters as a line of a newer report has at most, for paper and any display.
+inline constexpr std::size_t kWidestLine = 80;
 
 /// Thirty classes and a hundred thousand contestants stay below this.
 inline constexpr std::size_t kLongestReport = 96U << 20U;

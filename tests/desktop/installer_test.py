@@ -68,9 +68,10 @@ class InstallerTest(DesktopTest):
         self.assertIn(rf'    (Default)    REG_SZ    "C:\{programs}\scorvane.exe" "%1"', self.registered())
         installed = {str(file.relative_to(self.programs)) for file in self.programs.iterdir()}
         self.assertEqual(installed, {
-            "scorvane.exe", "scorvane-report.exe", "scorvane-contest.exe", "LICENSE.txt", "ScorvaneUsersManual.htm",
+            "scorvane.exe", "scorvane-report.exe", "scorvane-contest.exe", "Scorvane License.txt", "ScorvaneUsersManual.htm",
             "ScorvaneUsersManual_files", "Uninstall.exe"})
-        self.assertLess((self.programs / "scorvane.exe").stat().st_size, 2_000_000)
+        for program in self.programs.glob("scorvane*.exe"):
+            self.assertLess(program.stat().st_size, 2_000_000, program.name)
         self.assertEqual({link.name for link in self.menu.iterdir()},
                          {"Scorvane.lnk", "Scorvane Help.lnk", "Scorvane Samples.lnk"})
         samples = self.documents / "Scorvane Samples"
@@ -108,6 +109,52 @@ class InstallerTest(DesktopTest):
         self.uninstall(named)
         self.assertEqual(self.files() - before, set())
         self.assertEqual(self.registered(), [])
+
+    def test_an_upgrade_deletes_only_what_setup_put_there(self):
+        folder = self.drive / "Fairs"
+        self.addCleanup(shutil.rmtree, folder)
+        folder.mkdir()
+        licence = folder / "LICENSE.txt"
+        licence.write_text("Of something else.")
+        self.install("/CurrentUser", folder)
+        manual = folder / "ScorvaneUsersManual.htm"
+        contest = manual.with_name("ScorvaneUsersManual_files") / "kept.scv"
+        shutil.copy(ROOT / "samples/county.scv", contest)
+
+        # A program runs, where no window of it can be found: the old version stays whole.
+        running = subprocess.Popen(["wine", "explorer", "/desktop=other,640x480", r"C:\Fairs\scorvane.exe"],
+                                   env=self.desktop.environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.addCleanup(running.wait)
+        self.addCleanup(self.desktop.wine, "taskkill", "/f", "/im", "scorvane.exe", check=False)
+        upgrade = lambda: self.setup("/CurrentUser", r"/D=C:\Fairs")  # noqa: E731
+        wait_for(lambda: upgrade() == RUNNING, "the program on another desktop")
+        manual.write_text("old")
+        self.assertEqual(upgrade(), RUNNING)
+        self.assertEqual(manual.read_text(), "old")
+        self.desktop.wine("taskkill", "/f", "/im", "scorvane.exe")
+        wait_for(lambda: upgrade() == 0, "its end")
+        self.assertNotEqual(manual.stat().st_size, 3)
+        self.assertEqual(licence.read_text(), "Of something else.")
+        shutil.copy(folder / "Scorvane License.txt", licence)  # as version 1 had it
+        self.assertEqual(upgrade(), 0)
+        self.uninstall(folder)
+        self.assertEqual([file for file in folder.rglob("*") if file.is_file()], [contest])
+
+    def test_the_path_gets_the_commands_on_request_and_is_as_before_again(self):
+        def path():
+            out = self.desktop.wine("reg", "query", r"HKCU\Environment", "/v", "Path", check=False).stdout
+            return [line.split(b"    ")[2:] for line in out.splitlines() if b"REG_" in line]
+
+        before = ";".join([r"%SystemRoot%\a folder", r"C:\Fairs2", *(rf"C:\{n}" for n in range(500))])
+        self.desktop.registry(r"HKCU\Environment", "Path", "REG_EXPAND_SZ", before)
+        folder = self.drive / "Fairs"
+        self.install("/CurrentUser", folder)
+        self.assertEqual(path(), [[b"REG_EXPAND_SZ", before.encode()]])
+        for _ in range(2):
+            self.assertEqual(self.setup("/CurrentUser", "/Path", r"/D=C:\Fairs"), 0)
+            self.assertEqual(path(), [[b"REG_EXPAND_SZ", before.encode() + rb";C:\Fairs"]])
+        self.uninstall(folder)
+        self.assertEqual(path(), [[b"REG_EXPAND_SZ", before.encode()]])
 
     def test_a_contest_opens_by_its_type(self):
         # The Wine of our tests knows the types of the computer, not those of one user.
