@@ -6,3 +6,5 @@ file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/cli11)
 file(CREATE_LINK ${CLI11_FOLDER}/CLI ${CMAKE_BINARY_DIR}/cli11/CLI SYMBOLIC)
 add_library(cli11 INTERFACE)
 target_include_directories(cli11 SYSTEM INTERFACE ${CMAKE_BINARY_DIR}/cli11)
+# Its checks of paths would bring in the standard library's files and folders, which we do not use.
+target_compile_definitions(cli11 INTERFACE CLI11_HAS_FILESYSTEM=0)

@@ -5,10 +5,17 @@
 #include <shellapi.h>
 
 #include <cstdio>
+#include <cstdlib>
+#include <exception>
 
 #include "cli/system.h"
 #include "text/unicode.h"
 #include "text/unicode_win32.h"
+
+// The library's own puts an exception's name into readable form, with a twentieth of a megabyte.
+void __gnu_cxx::__verbose_terminate_handler() {
+  std::abort();
+}
 
 namespace scorvane {
 
