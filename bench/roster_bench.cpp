@@ -1,6 +1,7 @@
 // Rosters of a sheet, four contestants to a team: planning and importing one into a contest of 12
 // classes, as is done for each key typed in the sheet, against loading the contest that comes out.
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 
 #include <string>
 
@@ -13,6 +14,13 @@
 namespace scorvane {
 
 namespace {
+
+// Else the C library hands memory back to the system after some rounds and not after others.
+void keepMemory() {
+  constexpr int kMany = 1 << 30;
+  mallopt(M_TRIM_THRESHOLD, kMany);
+  mallopt(M_MMAP_THRESHOLD, kMany);
+}
 
 std::string sheetOf(std::int64_t contestants) {
   std::string sheet = "Team,First Name,Last Name,E-mail,Alternate,Coach\r\n";
@@ -52,6 +60,7 @@ void tellPlan(benchmark::State& state) {
 }
 
 void importSheet(benchmark::State& state) {
+  keepMemory();
   const std::string sheet = sheetOf(state.range(0));
   const Contest empty = emptyContest();
   for ([[maybe_unused]] auto step : state) {
@@ -63,6 +72,7 @@ void importSheet(benchmark::State& state) {
 }
 
 void loadImported(benchmark::State& state) {
+  keepMemory();
   Contest contest = emptyContest();
   importRoster(contest, planRoster(sheetOf(state.range(0)), contest));
   const std::string bytes = writeContest(contest);

@@ -21,6 +21,9 @@ class ContestInFile {
   /// as a sentence.
   static std::variant<ContestInFile, std::string> open(FileSystem& files, const std::string& path);
 
+  /// Whether there was a file, or the contest is new.
+  [[nodiscard]] bool isThere() const { return bytes_.has_value(); }
+
   Contest contest;
   std::string remarks;  ///< what is to be said of its file, for standard error
 

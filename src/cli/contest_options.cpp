@@ -9,10 +9,9 @@ namespace scorvane {
 
 namespace {
 
-using Action = ContestOptions::Action;
 using Refusal = std::optional<std::string>;
 
-constexpr const char* kPurpose = "Changes contest files.";
+constexpr const char* kContestPurpose = "Changes contest files.";
 constexpr const char* kImportPurpose =
     "Brings the teams and contestants of a sheet into a contest, as Import Roster in the program\n"
     "does, and prints what came of it line by line.";
@@ -77,7 +76,7 @@ Refusal refuseRest(const CLI::App& app) {
 }  // namespace
 
 Refusal readContestOptions(std::span<const std::string_view> arguments, ContestOptions& options) {
-  CLI::App app(kPurpose, kContestProgram);
+  CLI::App app(kContestPurpose, kContestProgram);
   app.set_version_flag("--version", std::string(kContestProgram) + " " SCORVANE_VERSION,
                        "prints the version");
   app.set_help_flag("-h,--help", "prints this text");
@@ -89,7 +88,7 @@ Refusal readContestOptions(std::span<const std::string_view> arguments, ContestO
     options.help = app.help();
     return std::nullopt;
   } catch (const CLI::CallForVersion&) {
-    options.action = Action::version;
+    options.action = ContestOptions::Action::version;
     return std::nullopt;
   } catch (const CLI::ExtrasError&) {
     return refuseRest(app);
@@ -98,7 +97,7 @@ Refusal readContestOptions(std::span<const std::string_view> arguments, ContestO
   }
   const bool isImport = app.got_subcommand("import");
   if (!isImport && !app.got_subcommand("merge")) return "no command is named";
-  options.action = isImport ? Action::importRoster : Action::merge;
+  options.action = isImport ? ContestOptions::Action::importRoster : ContestOptions::Action::merge;
   return std::nullopt;
 }
 

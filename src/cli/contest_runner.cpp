@@ -2,17 +2,15 @@
 
 namespace scorvane {
 
-using Action = ContestOptions::Action;
-
 CliResult runContestTool(const ContestOptions& options, FileSystem& files) {
   switch (options.action) {
-    case Action::version:
+    case ContestOptions::Action::version:
       return {0, std::string(kContestProgram) + " " SCORVANE_VERSION "\n", ""};
-    case Action::importRoster:
+    case ContestOptions::Action::importRoster:
       return runImport(options.importRoster, files);
-    case Action::merge:
+    case ContestOptions::Action::merge:
       return runMerge(options.merge, files);
-    case Action::help:
+    case ContestOptions::Action::help:
       break;
   }
   return {0, options.help, ""};

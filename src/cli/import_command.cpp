@@ -33,7 +33,7 @@ CliResult runImport(const ImportOptions& options, FileSystem& files) {
   if (options.dryRun) return result;
   importRoster(opened.contest, plan);
   // A sheet that is all there already leaves the very bytes of the file.
-  if (plan.changesNothing && !options.into) return result;
+  if (plan.changesNothing && !options.into && opened.isThere()) return result;
   if (const auto refusal = opened.save(files, options.into)) return fail(*refusal);
   return result;
 }

@@ -13,7 +13,6 @@ namespace scorvane {
 
 namespace {
 
-using Action = CliOptions::Action;
 using Refusal = std::optional<std::string>;
 
 // The options of each question, under a heading of their own in the help text.
@@ -188,13 +187,13 @@ Refusal checkExports(const CLI::App& app, const CliOptions& options) {
 
 Refusal checkWords(const CLI::App& app, const Words& words, CliOptions& options) {
   if (words.list) {
-    options.action = Action::list;
+    options.action = CliOptions::Action::list;
     return std::nullopt;
   }
   if (options.contest.empty()) return "no contest file is named";
   if (auto refusal = checkExports(app, options)) return refusal;
   if (app.count("--all") > 0) {
-    options.action = Action::allReports;
+    options.action = CliOptions::Action::allReports;
     if (options.folder.empty()) return "--all needs the name of a folder";
     if (!words.reports.empty()) {
       return inQuotes(words.reports[0]) + " is too much: --all writes every report";
@@ -219,10 +218,10 @@ Refusal readOptions(std::span<const std::string_view> arguments, CliOptions& opt
   try {
     app.parse(libraryArguments(arguments));
   } catch (const CLI::CallForHelp&) {
-    options.action = Action::help;
+    options.action = CliOptions::Action::help;
     return std::nullopt;
   } catch (const CLI::CallForVersion&) {
-    options.action = Action::version;
+    options.action = CliOptions::Action::version;
     return std::nullopt;
   } catch (const CLI::ExtrasError&) {
     return refuseUnknown(app, app.remaining().at(0));

@@ -18,8 +18,6 @@ namespace scorvane {
 
 namespace {
 
-using Action = CliOptions::Action;
-
 CliResult failed(const std::string& reason) {
   return {kFailed, "", remark(kReportProgram, reason)};
 }
@@ -140,7 +138,9 @@ CliResult writeAllReports(const Contest& contest, const std::string& folder, Fil
     note(writeReport([&] { return report->build(contest, {}).value(); },
                      folder + "/" + fileNameOf(command), files));
   }
-  for (const CategoryFile& file : categoryFiles(contest)) {
+  const auto categories = categoryFiles(contest);
+  if (!categories) note("no category reports are written: the contest has too many categories");
+  for (const CategoryFile& file : categories.value_or(std::vector<CategoryFile>{})) {
     note(writeReport([&] { return customReport(contest, file.request); },
                      folder + "/" + file.name + ".txt", files));
   }
@@ -174,21 +174,21 @@ std::string reportList() {
 
 CliResult runCli(const CliOptions& options, FileSystem& files) {
   switch (options.action) {
-    case Action::help:
+    case CliOptions::Action::help:
       return {0, usageText(), ""};
-    case Action::version:
+    case CliOptions::Action::version:
       return {0, "scorvane-report " SCORVANE_VERSION "\n", ""};
-    case Action::list:
+    case CliOptions::Action::list:
       return {0, reportList(), ""};
-    case Action::printReports:
-    case Action::allReports:
+    case CliOptions::Action::printReports:
+    case CliOptions::Action::allReports:
       break;
   }
   std::string remarks;
   const auto opened = openContest(options.contest, files, kReportProgram, remarks);
   if (const auto* refusal = std::get_if<std::string>(&opened)) return failed(*refusal);
   const Contest& contest = std::get<LoadedContest>(opened).contest;
-  CliResult result = options.action == Action::allReports
+  CliResult result = options.action == CliOptions::Action::allReports
                          ? writeAllReports(contest, options.folder, files)
                          : printReports(contest, options, files);
   writeExports(contest, options, files, result);

@@ -31,6 +31,7 @@ struct RosterColumns {
   std::optional<std::size_t> width;      ///< how many columns have headings; nothing without any
   std::size_t firstRow = 0;              ///< of the sheet's rows, the first below the headings
   std::size_t kinds = 0;                 ///< how many kinds of columns the headings name
+  bool areDoubtful = false;              ///< the headings may be a team and its people
 };
 
 /// Finds the columns by their headings, which may have other lines above them. Without headings

@@ -81,6 +81,12 @@ void appendCount(std::string& text, std::size_t count, const char* what) {
 
 void importRoster(Contest& contest, const RosterPlan& plan) {
   if (plan.changesNothing) return;
+  std::size_t all = contest.contestantNames.size();
+  for (const PlannedTeam& team : plan.teams) all += team.isNew ? team.numbers.size() : 0;
+  contest.contestantNames.reserve(all);
+  contest.contestantGroup.reserve(all);
+  contest.reasonsPlace.reserve(all);
+  contest.scores.reserve(all);
   for (const PlannedTeam& team : plan.teams) {
     if (team.isNew) {
       importNewTeam(contest, team);

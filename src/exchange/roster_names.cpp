@@ -1,17 +1,27 @@
 #include "exchange/roster_names.h"
 
+#include <array>
+#include <cstddef>
+
 #include "exchange/sheet.h"
 
 namespace scorvane {
 
 namespace {
 
+// Capitals of code page 1252 as small letters.
+constexpr std::array<char, 256> kFolded = [] {
+  std::array<char, 256> table{};
+  for (std::size_t c = 0; c < table.size(); ++c) {
+    const bool isLetter = (c >= 'A' && c <= 'Z') || (c >= 0xC0 && c <= 0xDE && c != 0xD7);
+    const bool isOther = c == 0x8A || c == 0x8C || c == 0x8E;
+    table[c] = static_cast<char>(c == 0x9F ? 0xFF : c + (isLetter ? 0x20 : isOther ? 0x10 : 0));
+  }
+  return table;
+}();
+
 char folded(char c) {
-  const auto byte = static_cast<unsigned char>(c);
-  const bool isLatin = byte >= 0xC0 && byte <= 0xDE && byte != 0xD7;
-  if ((c >= 'A' && c <= 'Z') || isLatin) return static_cast<char>(byte + ('a' - 'A'));
-  if (byte == 0x8A || byte == 0x8C || byte == 0x8E) return static_cast<char>(byte + 0x10);
-  return byte == 0x9F ? '\xFF' : c;
+  return kFolded[static_cast<unsigned char>(c)];
 }
 
 }  // namespace

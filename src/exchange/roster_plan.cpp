@@ -23,6 +23,7 @@ bool isOneOf(std::string_view cell, std::span<const std::string_view> words) {
 }
 
 bool isTotal(std::string_view cell) {
+  if (!cell.starts_with('T') && !cell.starts_with('t')) return false;  // nearly every row
   static constexpr std::array<std::string_view, 4> kWords = {"total", "totals",
                                                              "total:", "totals:"};
   return isOneOf(cell, kWords);
@@ -34,6 +35,12 @@ bool saysYes(std::string_view cell) {
   return isOneOf(cell, kWords);
 }
 
+bool saysNo(std::string_view cell) {
+  static constexpr std::array<std::string_view, 9> kWords = {"",      "no",      "n",    "0",  "-",
+                                                             "false", "regular", "none", "n/a"};
+  return isOneOf(cell, kWords);
+}
+
 // Reads the rows of a sheet one by one.
 class RosterReader {
  public:
@@ -42,7 +49,7 @@ class RosterReader {
 
   /// Whether there was a team or a contestant.
   bool read() {
-    remarkOnRowsAbove();
+    remarkOnHeadings();
     for (std::size_t i = columns_.firstRow; i < sheet_.rows().size(); ++i) {
       readRow(sheet_.rows()[i]);
     }
@@ -50,7 +57,8 @@ class RosterReader {
   }
 
  private:
-  void remarkOnRowsAbove() {
+  void remarkOnHeadings() {
+    if (columns_.firstRow == 0) return;
     constexpr std::ptrdiff_t kMoreThanATitle = 2;
     for (std::size_t i = 0; i + 1 < columns_.firstRow; ++i) {
       const Sheet::Row& row = sheet_.rows()[i];
@@ -58,6 +66,10 @@ class RosterReader {
       for (std::size_t k = 0; k < row.cells; ++k) filled += sheet_.cell(row, k).empty() ? 0 : 1;
       if (filled < kMoreThanATitle) continue;
       planner_.remark(row.line, "This line is above the headings and is not read.");
+    }
+    if (columns_.areDoubtful) {
+      planner_.remark(sheet_.rows()[columns_.firstRow - 1].line,
+                      "This line was read as the headings.");
     }
   }
 
@@ -88,16 +100,26 @@ class RosterReader {
     if (!team.empty()) team_ = team;
     read.team = team_;
     read.coach = nameOf(row, columns_.coach);
-    const bool isFlagged = saysYes(cellOf(row, columns_.alternate));
+    const std::string_view flag = cellOf(row, columns_.alternate);
+    if (flag != lastFlag_) {
+      lastFlag_ = flag;
+      isFlagged_ = saysYes(flag);
+      isFlagClear_ = isFlagged_ || saysNo(flag);
+    }
     for (const auto& [name, isAlternate] : columns_.members) {
       const std::string_view person = nameOf(row, name);
-      if (!person.empty()) read.people.push_back({person, isAlternate || isFlagged});
+      if (!person.empty()) read.people.push_back({person, isAlternate || isFlagged_});
     }
     foundSomebody_ = foundSomebody_ || !team.empty() || !read.people.empty();
     if (const auto problem = problemOf(row, read)) return planner_.refuse(row.line, *problem);
     if (team.empty() && read.people.empty() && read.coach.empty()) return;
     planner_.add(read);
-    remarkOnChanges(row);
+    if (!isFlagClear_ && !read.people.empty()) {
+      planner_.remark(row.line, quotedName(flag) +
+                                    " is neither yes nor no: " + quotedName(read.people[0].name) +
+                                    " is taken for a regular member.");
+    }
+    if (sheet_.hasChanges()) remarkOnChanges(row);
   }
 
   std::optional<std::string> problemOf(const Sheet::Row& row, const RosterRow& read) const {
@@ -136,7 +158,10 @@ class RosterReader {
   RosterPlanner& planner_;
   RosterColumns columns_;
   RosterRow read_;
-  std::string_view team_;  ///< of the row above
+  std::string_view team_;      ///< of the row above
+  std::string_view lastFlag_;  ///< of the row above, and what it says
+  bool isFlagged_ = false;
+  bool isFlagClear_ = true;
   std::vector<std::string> joined_;
   bool foundSomebody_ = false;
 };
@@ -147,6 +172,7 @@ char separatorOf(const DecodedText& decoded) {
   char best = '\t';
   std::pair<std::size_t, std::ptrdiff_t> most;
   for (const char separator : {'\t', ';', ','}) {
+    if (decoded.text.find(separator) == std::string::npos) continue;
     const Sheet sheet(decoded, separator, kProbedRows);
     const std::pair told = {findColumns(sheet).kinds,
                             std::count_if(sheet.rows().begin(), sheet.rows().end(),

@@ -38,6 +38,9 @@ RosterPlanner::RosterPlanner(const Contest& contest, RosterPlan& plan)
 
 void RosterPlanner::openSlots(OpenTeam& team, const Team* present) const {
   team.slots.resize(teamSlots(contest_.settings));
+  constexpr std::size_t kUsualSlots = 8;
+  team.known.reserve(std::min(team.slots.size(), kUsualSlots));
+  team.planned.members.reserve(team.known.capacity());
   const std::size_t filled = present == nullptr ? 0 : present->members.size();
   for (std::size_t i = 0; i < std::min(filled, team.slots.size()); ++i) {
     Slot& slot = team.slots[i];
@@ -50,21 +53,28 @@ void RosterPlanner::openSlots(OpenTeam& team, const Team* present) const {
     slot.isFree =
         (name == nullptr || name->empty()) && std::none_of(team.slots.data(), &slot, isSame);
     if (name != nullptr && !name->empty()) {
-      const std::string tidy = tidied(*name);
-      team.known.push_back({hashOfName(tidy), tidy, i});
+      team.present.push_back(tidied(*name));
+      team.known.push_back({hashOfName(team.present.back()), 0, static_cast<std::uint32_t>(i),
+                            static_cast<std::uint32_t>(team.present.size() - 1), false});
     }
   }
 }
 
+// The contest's team by its very name, or else one that reads the same; for a new team what its
+// spellings have in common, which is the name of none in the contest.
+std::string RosterPlanner::nameOrKey(std::string_view team) const {
+  std::string name(team);
+  if (contest_.teams.contains(name)) return name;
+  std::string key = keyOfName(team);
+  const auto alike = present_.find(key);
+  return alike == present_.end() ? key : *alike->second;
+}
+
 RosterPlanner::OpenTeam RosterPlanner::openTeam(const RosterRow& row,
-                                                const std::string& key) const {
+                                                const std::string& nameOrKey) const {
   OpenTeam team;
   team.line = row.line;
-  auto present = contest_.teams.find(std::string(row.team));
-  if (present == contest_.teams.end()) {
-    const auto alike = present_.find(key);
-    if (alike != present_.end()) present = contest_.teams.find(*alike->second);
-  }
+  const auto present = contest_.teams.find(nameOrKey);
   team.planned.isNew = present == contest_.teams.end();
   team.planned.name = team.planned.isNew ? std::string(row.team) : present->first;
   if (!team.planned.isNew) team.planned.coach = present->second.coach;
@@ -80,7 +90,7 @@ void RosterPlanner::add(const RosterRow& row) {
   std::optional<OpenTeam> fresh;
   std::string key;
   if (!last_ || row.team != lastName_) {
-    key = keyOfName(row.team);
+    key = nameOrKey(row.team);
     const auto known = opened_.find(key);
     lastName_ = row.team;
     last_.reset();
@@ -89,9 +99,8 @@ void RosterPlanner::add(const RosterRow& row) {
   if (!last_) fresh = openTeam(row, key);
   OpenTeam& team = fresh ? *fresh : teams_[*last_];
   if (auto problem = problemOfNames(row, team)) return refuse(row.line, std::move(*problem));
-  Places places = placesFor(row, team);
-  if (places.problem) return refuse(row.line, std::move(*places.problem));
-  join(row, team, places);
+  if (auto problem = findPlaces(row, team)) return refuse(row.line, std::move(*problem));
+  join(row, team);
   if (!fresh) return;
   last_ = teams_.size();
   opened_.emplace(std::move(key), teams_.size());
@@ -122,51 +131,57 @@ std::optional<std::string> RosterPlanner::problemOfNames(const RosterRow& row,
          " and of its coach are too long together.  Shorten them.";
 }
 
-RosterPlanner::Places RosterPlanner::placesFor(const RosterRow& row, const OpenTeam& team) const {
-  Places places;
-  std::vector<std::size_t> used;
-  const auto freeSlot = [&](std::size_t from, std::size_t to) {
-    while (from < to &&
-           (!isFree(team.slots[from]) || std::count(used.begin(), used.end(), from) > 0)) {
-      ++from;
+RosterPlanner::KnownMember* RosterPlanner::OpenTeam::find(std::uint32_t hash,
+                                                          std::string_view name) {
+  for (KnownMember& member : known) {
+    if (member.hash != hash) continue;
+    if (isSameName(member.isPlanned ? planned.members[member.name].name : present[member.name],
+                   name)) {
+      return &member;
     }
-    return from;
+  }
+  return nullptr;
+}
+
+std::optional<std::string> RosterPlanner::findPlaces(const RosterRow& row, OpenTeam& team) {
+  places_.clear();
+  // Whoever comes later in the row finds no slot before these.
+  std::size_t regular = 0;
+  std::size_t alternate = regularSlots_;
+  const auto passTaken = [&](std::size_t& slot, std::size_t end) {
+    while (slot < end && !isFree(team.slots[slot])) ++slot;
+    return slot < end;
   };
-  for (std::size_t i = 0; i < row.people.size(); ++i) {
-    const auto& [name, isAlternate] = row.people[i];
-    const std::uint32_t hash = hashOfName(name);
-    const auto known =
-        std::find_if(team.known.begin(), team.known.end(), [&, wanted = name](const auto& member) {
-          return member.hash == hash && isSameName(member.name, wanted);
-        });
-    const bool isInRow =
-        std::any_of(row.people.begin(), row.people.begin() + static_cast<std::ptrdiff_t>(i),
-                    [wanted = name](const auto& other) { return isSameName(other.name, wanted); });
-    if (isInRow || (known != team.known.end() && known->line > 0)) {
-      places.problem = formatText(
+  for (const RosterRow::Person& person : row.people) {
+    const std::uint32_t hash = hashOfName(person.name);
+    KnownMember* known = team.find(hash, person.name);
+    std::size_t before = 0;
+    while (before < places_.size() &&
+           (places_[before].hash != hash || !isSameName(row.people[before].name, person.name))) {
+      ++before;
+    }
+    const bool isInRow = before < places_.size();
+    if (isInRow || (known != nullptr && known->line > 0)) {
+      return formatText(
           "%s is in the team %s twice, also in line %d.  Take one out, or tell the two apart.",
-          quotedName(name).c_str(), quotedName(team.planned.name).c_str(),
+          quotedName(person.name).c_str(), quotedName(team.planned.name).c_str(),
           isInRow ? row.line : known->line);
-      return places;
     }
-    if (known != team.known.end()) {
-      places.slots.emplace_back(known->slot, false);
-      continue;
-    }
-    std::size_t slot = isAlternate ? regularSlots_ : freeSlot(0, regularSlots_);
-    if (slot == regularSlots_) slot = freeSlot(regularSlots_, team.slots.size());
-    if (slot == team.slots.size()) {
-      places.problem = formatText(
+    if (known != nullptr) {
+      places_.push_back({known->slot, hash, known});
+    } else if (!person.isAlternate && passTaken(regular, regularSlots_)) {
+      places_.push_back({regular++, hash, nullptr});
+    } else if (passTaken(alternate, team.slots.size())) {
+      places_.push_back({alternate++, hash, nullptr});
+    } else {
+      return formatText(
           "The team %s has no %s left for %s.  Take somebody out, or raise the members of a team "
           "in Setup Contest.",
-          quotedName(team.planned.name).c_str(), isAlternate ? "alternate's place" : "place",
-          quotedName(name).c_str());
-      return places;
+          quotedName(team.planned.name).c_str(), person.isAlternate ? "alternate's place" : "place",
+          quotedName(person.name).c_str());
     }
-    used.push_back(slot);
-    places.slots.emplace_back(slot, true);
   }
-  return places;
+  return std::nullopt;
 }
 
 // All numberless slots get theirs together, as when a team is added.
@@ -178,31 +193,31 @@ void RosterPlanner::giveNumbers(OpenTeam& team) {
   }
 }
 
-void RosterPlanner::join(const RosterRow& row, OpenTeam& team, const Places& places) {
+void RosterPlanner::join(const RosterRow& row, OpenTeam& team) {
   const bool needsNumbers =
-      team.planned.isNew || std::any_of(places.slots.begin(), places.slots.end(), [&](auto& place) {
-        return !team.slots[place.first].hasNumber;
+      team.planned.isNew || std::any_of(places_.begin(), places_.end(), [&](const Place& place) {
+        return !team.slots[place.slot].hasNumber;
       });
   if (needsNumbers) giveNumbers(team);
   takeCoach(row, team);
+  for (const Place& place : places_) {
+    if (place.present != nullptr) place.present->line = row.line;
+  }
   for (std::size_t i = 0; i < row.people.size(); ++i) {
-    const auto [index, isNew] = places.slots[i];
+    const auto& [index, hash, present] = places_[i];
     Slot& slot = team.slots[index];
-    const std::string name =
-        isNew ? std::string(row.people[i].name) : contestantName(contest_, slot.number);
-    team.planned.members.push_back({name, slot.number, index, isNew});
+    const bool isNew = present == nullptr;
     ++(index < regularSlots_ ? plan_.contestants : plan_.alternates);
-    if (!isNew) {
-      for (KnownMember& member : team.known) {
-        if (member.slot == index) member.line = row.line;
-      }
-      continue;
+    if (isNew) {
+      slot.isFree = false;
+      if (slot.number < firstNew_) taken_.insert(slot.number);
+      team.known.push_back({hash, row.line, static_cast<std::uint32_t>(index),
+                            static_cast<std::uint32_t>(team.planned.members.size()), true});
+      plan_.changesNothing = false;
     }
-    slot.isFree = false;
-    if (slot.number < firstNew_) taken_.insert(slot.number);
-    team.known.push_back(
-        {hashOfName(row.people[i].name), std::string(row.people[i].name), index, row.line});
-    plan_.changesNothing = false;
+    team.planned.members.push_back(
+        {isNew ? std::string(row.people[i].name) : contestantName(contest_, slot.number),
+         slot.number, index, isNew});
   }
 }
 
@@ -214,7 +229,8 @@ void RosterPlanner::takeCoach(const RosterRow& row, OpenTeam& team) {
     planned.coach = row.coach;
     planned.isCoachNew = !planned.isNew;
     plan_.changesNothing = false;
-  } else if (keyOfName(row.coach) != keyOfName(planned.coach) && row.coach != team.otherCoach) {
+  } else if (!isSameName(row.coach, planned.coach) && row.coach != team.otherCoach &&
+             keyOfName(row.coach) != keyOfName(planned.coach)) {
     team.otherCoach = row.coach;
     remark(row.line, "The team " + quotedName(planned.name) + " has the coach " +
                          quotedName(planned.coach) + " already; " + quotedName(row.coach) +
@@ -242,7 +258,9 @@ void RosterPlanner::checkShownNames() {
 
 void RosterPlanner::finish() {
   checkShownNames();
+  plan_.teams.reserve(teams_.size());
   for (OpenTeam& team : teams_) {
+    team.planned.numbers.reserve(team.slots.size());
     for (const Slot& slot : team.slots) team.planned.numbers.push_back(slot.number);
     if (team.known.empty()) {
       remark(team.line, "The team " + quotedName(team.planned.name) + " has no members.");

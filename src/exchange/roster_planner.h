@@ -3,11 +3,12 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <map>
+#include <deque>
 #include <optional>
 #include <set>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -53,9 +54,10 @@ class RosterPlanner {
   // A member who is in the contest's team, or was in a row of the sheet.
   struct KnownMember {
     std::uint32_t hash = 0;
-    std::string name;
-    std::size_t slot = 0;
     std::int32_t line = 0;  ///< in the sheet; 0 when it has not named the member so far
+    std::uint32_t slot = 0;
+    std::uint32_t name = 0;  ///< which of OpenTeam::present, or else of the planned members
+    bool isPlanned = false;
   };
 
   // A team of the sheet while it is read.
@@ -63,26 +65,32 @@ class RosterPlanner {
     PlannedTeam planned;
     std::vector<Slot> slots;
     std::vector<KnownMember> known;
-    std::size_t numberFields = 0;  ///< bytes of its line in the file that the numbers take
-    std::int32_t line = 0;         ///< its first in the sheet
-    std::string otherCoach;        ///< a second coach that was told of
+    std::vector<std::string> present;  ///< who is in the contest's team
+    std::size_t numberFields = 0;      ///< bytes of its line in the file that the numbers take
+    std::int32_t line = 0;             ///< its first in the sheet
+    std::string otherCoach;            ///< a second coach that was told of
+
+    KnownMember* find(std::uint32_t hash, std::string_view name);
   };
 
-  // Where the people of a row go: into slots, or to where they are already.
-  struct Places {
-    std::vector<std::pair<std::size_t, bool>> slots;  ///< and whether the person is new there
-    std::optional<std::string> problem;
+  // Where a person of a row goes: into a slot, or to where he or she is already.
+  struct Place {
+    std::size_t slot = 0;
+    std::uint32_t hash = 0;          ///< of the name
+    KnownMember* present = nullptr;  ///< who is there already
   };
 
-  [[nodiscard]] OpenTeam openTeam(const RosterRow& row, const std::string& key) const;
+  [[nodiscard]] std::string nameOrKey(std::string_view team) const;
+  [[nodiscard]] OpenTeam openTeam(const RosterRow& row, const std::string& nameOrKey) const;
   void openSlots(OpenTeam& team, const Team* present) const;
   [[nodiscard]] std::optional<std::string> problemOfNames(const RosterRow& row,
                                                           const OpenTeam& team) const;
-  [[nodiscard]] Places placesFor(const RosterRow& row, const OpenTeam& team) const;
+  /// Finds places_ for the row's people; returns why there are none.
+  [[nodiscard]] std::optional<std::string> findPlaces(const RosterRow& row, OpenTeam& team);
   [[nodiscard]] bool isFree(const Slot& slot) const {
     return slot.isFree && !(slot.hasNumber && taken_.contains(slot.number));
   }
-  void join(const RosterRow& row, OpenTeam& team, const Places& places);
+  void join(const RosterRow& row, OpenTeam& team);
   void takeCoach(const RosterRow& row, OpenTeam& team);
   void giveNumbers(OpenTeam& team);
   void checkShownNames();
@@ -92,11 +100,12 @@ class RosterPlanner {
   std::int64_t firstNew_ = 0;  ///< the number that the next contestant gets
   std::int64_t next_ = 0;      ///< the same after what is planned so far
   std::size_t regularSlots_ = 0;
-  std::map<std::string, const std::string*> present_;  ///< the contest's teams by key
-  std::map<std::string, std::size_t> opened_;          ///< the sheet's teams by key
-  std::vector<OpenTeam> teams_;                        ///< in the order of the sheet
-  std::set<ContestantNumber> taken_;                   ///< numbers of the contest that were free
-  std::string lastName_;                               ///< the row before had this team
+  std::unordered_map<std::string, const std::string*> present_;  ///< the contest's teams by key
+  std::unordered_map<std::string, std::size_t> opened_;          ///< the sheet's, by nameOrKey()
+  std::vector<OpenTeam> teams_;                                  ///< in the order of the sheet
+  std::vector<Place> places_;                                    ///< of the people of a row
+  std::set<ContestantNumber> taken_;  ///< numbers of the contest that were free
+  std::string lastName_;              ///< the row before had this team
   std::optional<std::size_t> last_;
 };
 

@@ -25,11 +25,14 @@ char tidyCharacter(char c) {
   return kTidy[static_cast<unsigned char>(c)];
 }
 
+// What a character does to a cell. Blanks are untidy beside others and at both ends.
+constexpr unsigned kBlank = 1;
+constexpr unsigned kUntidy = 2;
+constexpr unsigned kEnd = 4;
+
 bool isLineEnd(char c) {
   return c == '\r' || c == '\n';
 }
-
-}  // namespace
 
 void appendTidied(std::string& out, std::string_view text) {
   const std::size_t start = out.size();
@@ -46,6 +49,8 @@ void appendTidied(std::string& out, std::string_view text) {
   out.resize(static_cast<std::size_t>(to - out.data()));
 }
 
+}  // namespace
+
 std::string tidied(std::string_view text) {
   std::string name;
   appendTidied(name, text);
@@ -56,7 +61,10 @@ class SheetReader {
  public:
   SheetReader(Sheet& sheet, const DecodedText& decoded, char separator)
       : sheet_(sheet), text_(decoded.text), changed_(decoded.changed), separator_(separator) {
-    for (const char c : {separator, '\r', '\n'}) endsCell_[static_cast<unsigned char>(c)] = true;
+    for (std::size_t c = 0; c < kCharacters; ++c) {
+      does_[c] = c == ' ' ? kBlank : kTidy[c] == static_cast<char>(c) ? 0 : kUntidy;
+    }
+    for (const char c : {separator, '\r', '\n'}) does_[static_cast<unsigned char>(c)] = kEnd;
   }
 
   void read(std::size_t mostRows) {
@@ -67,7 +75,7 @@ class SheetReader {
   void readRow() {
     Sheet::Row row;
     row.line = line_;
-    row.firstCell = sheet_.cells_.size();
+    row.firstCell = static_cast<std::uint32_t>(sheet_.cells_.size());
     bool isFilled = false;
     for (bool hasMore = true; hasMore; ++row.cells) {
       readCell(row.isQuoteOpen);
@@ -91,8 +99,20 @@ class SheetReader {
       if (end) return takeQuoted(quote + 1, *end);
     }
     std::size_t end = at_;
-    while (end < text_.size() && !endsCell_[static_cast<unsigned char>(text_[end])]) ++end;
-    keep(text_.substr(at_, end - at_), at_, end);
+    unsigned before = kBlank;
+    unsigned untidy = 0;
+    for (; end < text_.size(); ++end) {
+      const unsigned does = does_[static_cast<unsigned char>(text_[end])];
+      if (does == kEnd) break;
+      untidy |= does & (before | kUntidy);
+      before = does;
+    }
+    const std::string_view content = text_.substr(at_, end - at_);
+    if (untidy != 0 || before == kBlank) {
+      keep(content, at_, end);
+    } else {
+      keepPart(at_, end);  // as most cells
+    }
     at_ = end;
   }
 
@@ -142,13 +162,18 @@ class SheetReader {
   }
 
   void keep(std::string_view content, std::size_t from, std::size_t to) {
-    const std::size_t start = sheet_.text_.size();
-    appendTidied(sheet_.text_, content);
+    const std::size_t start = sheet_.tidied_.size();
+    appendTidied(sheet_.tidied_, content);
+    addCell(text_.size() + start, sheet_.tidied_.size() - start, from, to);
+  }
+  void keepPart(std::size_t from, std::size_t to) { addCell(from, to - from, from, to); }
+
+  void addCell(std::size_t start, std::size_t size, std::size_t from, std::size_t to) {
     while (nextChange_ < changed_.size() && changed_[nextChange_] < to) {
       if (changed_[nextChange_] >= from) noteChange(text_[changed_[nextChange_]]);
       ++nextChange_;
     }
-    sheet_.cells_.push_back({start, sheet_.text_.size() - start});
+    sheet_.cells_.push_back({static_cast<std::uint32_t>(start), static_cast<std::uint32_t>(size)});
   }
 
   void noteChange(char character) {
@@ -168,26 +193,33 @@ class SheetReader {
   std::string_view text_;
   const std::vector<std::size_t>& changed_;
   char separator_;
-  std::array<bool, kCharacters> endsCell_{};
+  std::array<unsigned, kCharacters> does_{};
   std::size_t at_ = 0;
   std::size_t nextChange_ = 0;
   std::int32_t line_ = 1;
 };
 
-Sheet::Sheet(const DecodedText& decoded, char separator, std::size_t mostRows) {
-  text_.reserve(decoded.text.size());
+Sheet::Sheet(const DecodedText& decoded, char separator, std::size_t mostRows)
+    : text_(decoded.text) {
+  if (mostRows > decoded.text.size()) {
+    cells_.reserve(
+        static_cast<std::size_t>(std::count_if(
+            text_.begin(), text_.end(), [&](char c) { return c == separator || c == '\n'; })) +
+        1);
+  }
   SheetReader(*this, decoded, separator).read(mostRows);
 }
 
 std::string_view Sheet::cell(const Row& row, std::size_t column) const {
   if (column >= row.cells) return {};
-  const Cell& cell = cells_[row.firstCell + column];
-  return std::string_view(text_).substr(cell.start, cell.size);
+  const Cell& cell = cells_[std::size_t{row.firstCell} + column];
+  if (cell.start < text_.size()) return text_.substr(cell.start, cell.size);
+  return std::string_view(tidied_).substr(cell.start - text_.size(), cell.size);
 }
 
 std::string_view Sheet::changes(const Row& row, std::size_t column) const {
   if (changed_.empty() || column >= row.cells) return {};
-  const std::size_t wanted = row.firstCell + column;
+  const std::size_t wanted = std::size_t{row.firstCell} + column;
   const auto found =
       std::lower_bound(changed_.begin(), changed_.end(), wanted,
                        [](const ChangedCell& changed, std::size_t i) { return changed.cell < i; });

@@ -14,8 +14,6 @@ namespace scorvane {
 /// A name without blanks around it, with one blank where there are several inside, and with
 /// straight quotes. Control characters are blanks.
 [[nodiscard]] std::string tidied(std::string_view text);
-/// The same, appended.
-void appendTidied(std::string& out, std::string_view text);
 
 class Sheet {
  public:
@@ -27,21 +25,22 @@ class Sheet {
     std::size_t firstCell = 0;
   };
 
-  /// Reads at most so many rows. Cells may be quoted, with quotes doubled, separators and line
-  /// ends inside.
+  /// Reads at most so many rows of a text, which must outlive the sheet. Cells may be quoted, with
+  /// quotes doubled, separators and line ends inside.
   Sheet(const DecodedText& decoded, char separator, std::size_t mostRows);
 
   [[nodiscard]] const std::vector<Row>& rows() const { return rows_; }
   /// "" when the row has no such cell.
   [[nodiscard]] std::string_view cell(const Row& row, std::size_t column) const;
+  [[nodiscard]] bool hasChanges() const { return !changed_.empty(); }
   /// What became of the characters of a cell that had to be changed; mostly "".
   [[nodiscard]] std::string_view changes(const Row& row, std::size_t column) const;
 
  private:
   friend class SheetReader;
   struct Cell {
-    std::size_t start = 0;
-    std::size_t size = 0;
+    std::uint32_t start = 0;  ///< in the text; behind its end in what was tidied
+    std::uint32_t size = 0;
   };
   struct ChangedCell {
     std::size_t cell = 0;
@@ -51,7 +50,8 @@ class Sheet {
   std::vector<Row> rows_;
   std::vector<Cell> cells_;
   std::vector<ChangedCell> changed_;  ///< ascending
-  std::string text_;                  ///< of all cells
+  std::string_view text_;
+  std::string tidied_;  ///< cells that are not in the text as they are
 };
 
 }  // namespace scorvane

@@ -16,7 +16,7 @@ namespace {
 constexpr std::size_t kMostNamed = 2;
 
 // All that happened to the subjects of one kind.
-struct Changes {
+struct SubjectChanges {
   std::vector<const Difference*> added, removed;
   /// The values that changed, by subject; "member 1" and "member 2" are "members". A setting is its
   /// own subject.
@@ -67,7 +67,7 @@ class Summary {
   }
 
   std::vector<std::string> items() {
-    Changes& classes = changes_[DifferenceKind::judgedClass];
+    SubjectChanges& classes = changes_[DifferenceKind::judgedClass];
     if (classes.added.empty() && classes.removed.empty() && classOrder_) {
       items_.emplace_back("order of the classes");
     }
@@ -95,7 +95,8 @@ class Summary {
     }
   }
 
-  void listChanges(const Changes& changes, const std::string& several, const char* one = "") {
+  void listChanges(const SubjectChanges& changes, const std::string& several,
+                   const char* one = "") {
     listAll(changes.removed, several, "-", one, " removed");
     listAll(changes.added, several, "+", one, " added");
     if (changes.values.size() > kMostNamed) {
@@ -109,7 +110,7 @@ class Summary {
 
   // A team that goes while one with its members comes has a new name.
   void listTeams() {
-    Changes& teams = changes_[DifferenceKind::team];
+    SubjectChanges& teams = changes_[DifferenceKind::team];
     if (teams.removed.size() == 1 && teams.added.size() == 1 &&
         teams.removed[0]->sides.there == teams.added[0]->sides.here) {
       items_.push_back(teams.removed[0]->subject + " is now " + teams.added[0]->subject);
@@ -163,7 +164,7 @@ class Summary {
   }
 
   const ContestDifferences& differences_;
-  std::map<DifferenceKind, Changes> changes_;
+  std::map<DifferenceKind, SubjectChanges> changes_;
   bool classOrder_ = false;
   bool reasonsOrder_ = false;
   std::vector<std::string> items_;

@@ -136,10 +136,19 @@ std::int64_t countScores(const Contest& contest) {
 
 void recomputeAllPlacingScores(Contest& contest) {
   const JudgingClasses& classes = contest.classes;
+  std::vector<std::pair<PlacingLetter, Cuts>> officials;
+  for (std::int32_t k = 0; k < classes.count(); ++k) {
+    officials.emplace_back(classes.official(k), classes.cuts(k));
+  }
   for (auto& [number, records] : contest.scores) {
     for (std::int32_t k = 0; k < classes.count(); ++k) {
-      ScoreRecord& record = records[k];
-      record.placingScore = placingScore(record.letter, classes.official(k), classes.cuts(k));
+      const auto usual =
+          records.begin() + std::min<std::ptrdiff_t>(k, records.end() - records.begin());
+      ScoreRecord& record =
+          usual != records.end() && usual->first == k ? usual->second : records[k];
+      const auto& [letter, cuts] = officials[static_cast<std::size_t>(k)];
+      record.placingScore =
+          record.letter == kNoLetter ? 0 : placingScore(record.letter, letter, cuts);
     }
   }
 }

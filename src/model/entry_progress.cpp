@@ -13,29 +13,17 @@ bool hasAnything(const Contest& contest, ContestantNumber number) {
   if (records == nullptr) return false;
   return std::any_of(records->begin(), records->end(), [&](const auto& entry) {
     const bool exists = entry.first >= 0 && entry.first < contest.classes.count();
-    return exists && std::any_of(kEntryKinds.begin(), kEntryKinds.end(),
-                                 [&](EntryKind kind) { return isEntered(entry.second, kind); });
+    return exists && std::any_of(kEnteredValues.begin(), kEnteredValues.end(),
+                                 [&](ScoreValue kind) { return isEntered(kind, entry.second); });
   });
 }
 
 }  // namespace
 
-bool isEntered(const ScoreRecord& record, EntryKind kind) {
-  switch (kind) {
-    case EntryKind::placings:
-      return record.letter != kNoLetter;
-    case EntryKind::reasons:
-      return record.reasonsScore != 0;
-    case EntryKind::questions:
-      break;
-  }
-  return record.questionsScore != 0;
-}
-
-bool isAsked(const JudgingClasses& classes, std::int32_t classIndex, EntryKind kind) {
-  if (kind == EntryKind::placings) return true;
-  return kind == EntryKind::reasons ? classes.hasReasons(classIndex)
-                                    : classes.hasQuestions(classIndex);
+bool isAsked(const JudgingClasses& classes, std::int32_t classIndex, ScoreValue kind) {
+  if (kind == ScoreValue::letter) return true;
+  return kind == ScoreValue::reasons ? classes.hasReasons(classIndex)
+                                     : classes.hasQuestions(classIndex);
 }
 
 EntryProgress::EntryProgress(const Contest& contest) : cards_(contest) {
@@ -57,11 +45,11 @@ EntryProgress::EntryProgress(const Contest& contest) : cards_(contest) {
 }
 
 std::vector<std::int32_t> EntryProgress::enteredByGroup(std::int32_t classIndex,
-                                                        EntryKind kind) const {
+                                                        ScoreValue kind) const {
   std::vector<std::int32_t> entered(groups_.size());
   auto person = expected_.begin();
   for (const auto& [number, record] : cards_.of(classIndex)) {
-    if (!isEntered(*record, kind)) continue;
+    if (!isEntered(kind, *record)) continue;
     person = std::lower_bound(
         person, expected_.end(), number,
         [](const Person& other, ContestantNumber wanted) { return other.number < wanted; });
@@ -71,14 +59,14 @@ std::vector<std::int32_t> EntryProgress::enteredByGroup(std::int32_t classIndex,
 }
 
 std::vector<EntryProgress::Person> EntryProgress::missing(std::int32_t classIndex,
-                                                          EntryKind kind) const {
+                                                          ScoreValue kind) const {
   std::vector<Person> missing;
   const auto cards = cards_.of(classIndex);
   auto card = cards.begin();
   for (const Person& person : expected_) {
     while (card != cards.end() && card->number < person.number) ++card;
     const bool hasCard = card != cards.end() && card->number == person.number;
-    if (!hasCard || !isEntered(*card->record, kind)) missing.push_back(person);
+    if (!hasCard || !isEntered(kind, *card->record)) missing.push_back(person);
   }
   return missing;
 }

@@ -12,18 +12,15 @@
 
 #include "model/class_statistics.h"
 #include "model/contest.h"
+#include "model/contest_differences.h"
 
 namespace scorvane {
 
-enum class EntryKind { placings, reasons, questions };
+inline constexpr std::array kEnteredValues = {ScoreValue::letter, ScoreValue::reasons,
+                                              ScoreValue::questions};
 
-inline constexpr std::array kEntryKinds = {EntryKind::placings, EntryKind::reasons,
-                                           EntryKind::questions};
-
-/// Whether a record has something of a kind.
-[[nodiscard]] bool isEntered(const ScoreRecord& record, EntryKind kind);
 /// Whether the cards of a class have something of a kind to enter.
-[[nodiscard]] bool isAsked(const JudgingClasses& classes, std::int32_t classIndex, EntryKind kind);
+[[nodiscard]] bool isAsked(const JudgingClasses& classes, std::int32_t classIndex, ScoreValue kind);
 
 /// Looks through the contest once and refers to it.
 class EntryProgress {
@@ -47,9 +44,9 @@ class EntryProgress {
   }
   /// How many of them have a kind entered in a class.
   [[nodiscard]] std::vector<std::int32_t> enteredByGroup(std::int32_t classIndex,
-                                                         EntryKind kind) const;
+                                                         ScoreValue kind) const;
   /// Who has not, in ascending number order.
-  [[nodiscard]] std::vector<Person> missing(std::int32_t classIndex, EntryKind kind) const;
+  [[nodiscard]] std::vector<Person> missing(std::int32_t classIndex, ScoreValue kind) const;
 
  private:
   CardsByClass cards_;

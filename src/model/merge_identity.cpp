@@ -22,6 +22,10 @@ struct Member {
   std::size_t position = 0;  // in contestantNames
 };
 
+bool isSecondTeam(const std::string& name, const std::string& of) {
+  return name.starts_with(of + kSecondTeam);
+}
+
 class RosterMatcher {
  public:
   explicit RosterMatcher(const ThreeContests& contests) : contests_(contests) {
@@ -129,7 +133,8 @@ class RosterMatcher {
     }
   }
 
-  // Somebody whom a full team had no room for has no team since; such people are known by name.
+  // Somebody whom a full team had no room for is in a second one since, or had no team; such people
+  // are known by name.
   void matchStrays(Side from, Side to) {
     std::map<std::string_view, std::vector<std::size_t>> added;
     for (std::size_t there = personAt_[from].size(); there-- > 0;) {
@@ -140,7 +145,10 @@ class RosterMatcher {
       if (!isFree(to, here) || name.empty()) continue;
       auto& same = added[name];
       const auto found = std::find_if(same.rbegin(), same.rend(), [&](std::size_t there) {
-        return teams_[from][there].empty() || teams_[to][here].empty();
+        const auto& teams = teams_[from][there];
+        const auto& others = teams_[to][here];
+        return teams.empty() || others.empty() || isSecondTeam(*teams[0], *others[0]) ||
+               isSecondTeam(*others[0], *teams[0]);
       });
       if (found == same.rend()) continue;
       link(from, *found, to, here, number);

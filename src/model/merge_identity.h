@@ -40,6 +40,9 @@ struct MergedList {
   void arrange(std::vector<std::size_t> elementsInOrder);
 };
 
+/// Between the name of a team and the number of another one that is called after it.
+inline constexpr const char* kSecondTeam = " (";
+
 /// People by number, teams by name. What the ancestor has comes first.
 struct SameRoster {
   std::vector<Three<ContestantNumber>> people;

@@ -14,6 +14,15 @@ struct Slot {
   friend bool operator==(const Slot&, const Slot&) = default;
 };
 
+template <typename Teams>
+std::string numberedTeamName(const std::string& name, const Teams& taken) {
+  std::string numbered;
+  for (int count = 2; numbered.empty() || taken.contains(numbered); ++count) {
+    numbered = name + kSecondTeam + std::to_string(count) + ')';
+  }
+  return numbered;
+}
+
 class RosterMerge {
  public:
   explicit RosterMerge(MergeState& state)
@@ -179,6 +188,7 @@ class RosterMerge {
     for (const auto& [name, team] : named) {
       if (keeperOf(roster_.teams[team])) addTeamSlots(name, team);
     }
+    placeLeftOver();
     fillSlots();
   }
 
@@ -196,10 +206,7 @@ class RosterMerge {
                            const std::string& wanted) {
     if (!named.contains(wanted)) return wanted;
     const auto& [base, ours, theirs] = roster_.teams[team];
-    std::string name = *base;
-    for (int count = 2; named.contains(name); ++count) {
-      name = *base + " (" + std::to_string(count) + ')';
-    }
+    std::string name = named.contains(*base) ? numberedTeamName(*base, named) : *base;
     listTeam(name, "name", ours.value_or(""), theirs.value_or(""));
     return name;
   }
@@ -255,6 +262,53 @@ class RosterMerge {
                  slotText(theirs));
       });
     }
+  }
+
+  // Whom a team that both sides added has no room for forms a second one. Numbers that were only
+  // reserved for a team go when it has others.
+  void placeLeftOver() {
+    std::set<ContestantNumber> taken;
+    for (const auto& team : slotsOf_) {
+      for (const Slot& slot : team.second) taken.insert(numberIn(slot));
+    }
+    for (const Side side : {kOurs, kTheirs}) {
+      for (const auto& [name, team] : roster_.teamOf[side]) {
+        std::vector<Slot> rest;
+        for (const Person person : state_.membersOn(side, team)) {
+          const bool isAdded = state_.staysPerson[person] && !roster_.people[person][kBase];
+          if (!isAdded || taken.contains(state_.numberOf[person])) continue;
+          if (!isAnybody(person)) {
+            drop(side, person);
+          } else if (!roster_.teams[team][kBase] && roster_.teams[team][otherSide(side)]) {
+            rest.push_back({true, static_cast<std::int64_t>(person)});
+            taken.insert(state_.numberOf[person]);
+          }
+        }
+        if (!rest.empty()) addSecondTeam(side, name, std::move(rest));
+      }
+    }
+  }
+
+  [[nodiscard]] bool isAnybody(Person person) const {
+    return !contestantName(contest_, state_.numberOf[person]).empty() ||
+           state_.isChanged(kOurs, person) || state_.isChanged(kTheirs, person);
+  }
+
+  void drop(Side side, Person person) {
+    const ContestantNumber now = state_.numberOf[person];
+    const ContestantNumber before = *roster_.people[person][side];
+    state_.staysPerson[person] = false;
+    contest_.contestantNames.erase(now);
+    std::erase_if(state_.merge.numbers, [&](const NumberChange& change) {
+      return change.from == before && change.to == now;
+    });
+  }
+
+  void addSecondTeam(Side side, const std::string& name, std::vector<Slot> members) {
+    const std::string second = numberedTeamName(name, contest_.teams);
+    contest_.teams[second].coach = in(side).teams.at(name).coach;
+    slotsOf_[second] = std::move(members);
+    listTeam(second, "name", side == kOurs ? name : "", side == kTheirs ? name : "");
   }
 
   [[nodiscard]] ContestantNumber numberIn(const Slot& slot) const {

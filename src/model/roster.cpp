@@ -18,9 +18,9 @@ ContestantNumber after(ContestantNumber number, std::uint32_t step) {
 
 // Scores of a contestant who had the number before stay when a team is removed.
 void startWithBlankRecords(Contest& contest, ContestantNumber number) {
-  ClassScores records;
-  for (std::int32_t k = 0; k < contest.classes.count(); ++k) records[k] = ScoreRecord{};
-  contest.scores[number] = std::move(records);
+  std::vector<ClassScores::Entry> records(static_cast<std::size_t>(contest.classes.count()));
+  for (std::size_t k = 0; k < records.size(); ++k) records[k].first = static_cast<std::int32_t>(k);
+  contest.scores[number] = ClassScores::fromEntries(std::move(records));
 }
 
 }  // namespace
@@ -65,6 +65,7 @@ std::vector<ContestantNumber> fillTeamSlots(Contest& contest,
                                             const std::vector<ContestantNumber>& named) {
   updateNextContestant(contest);
   std::vector<ContestantNumber> members;
+  members.reserve(teamSlots(contest.settings));
   ContestantNumber next = contest.settings.nextContestantNum;
   for (std::size_t slot = 0; slot < teamSlots(contest.settings); ++slot) {
     const bool isNamed = slot < named.size();

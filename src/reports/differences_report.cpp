@@ -8,6 +8,7 @@
 
 #include "model/contest_differences.h"
 #include "model/numbering.h"
+#include "reports/report_parts.h"
 #include "text/format.h"
 #include "text/report_marks.h"
 
@@ -18,11 +19,6 @@ namespace {
 constexpr std::size_t kValueWidth = 21;
 constexpr const char* kValueRow = "%-36.36s %-21.21s %.21s\n";
 constexpr const char* kScoreRow = "%-31.31s %-5.5s %-14.14s %-13.13s %.13s\n";
-constexpr const char* kWords[] = {"Placing", "Reasons", "Questions", "Placing score"};
-
-std::string orHyphen(const std::string& text) {
-  return text.empty() ? "-" : text;
-}
 
 // Two long values are shown from shortly before the point where they part, so that the difference
 // is seen.
@@ -109,8 +105,7 @@ class DifferencesReport {
         formatText("%5d %s", score.number,
                    (name.empty() ? contestantName(there_, score.number) : name).c_str());
     const std::string group(1, groupOfContestant(contest, score.number));
-    appendFormat(out_, kScoreRow, who.c_str(), ("  " + group).c_str(),
-                 kWords[static_cast<std::size_t>(score.value)],
+    appendFormat(out_, kScoreRow, who.c_str(), ("  " + group).c_str(), scoreWord(score.value),
                  orHyphen(scoreText(score.value, score.records.here)).c_str(),
                  orHyphen(scoreText(score.value, score.records.there)).c_str());
   }

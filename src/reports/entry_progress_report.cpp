@@ -16,7 +16,7 @@ namespace {
 constexpr std::size_t kWidestLine = 80;
 constexpr std::size_t kPrefix = 33;
 
-const char* kindWord(EntryKind kind) {
+const char* kindWord(ScoreValue kind) {
   constexpr std::array kWords = {"placings", "reasons", "questions"};
   return kWords.at(static_cast<std::size_t>(kind));
 }
@@ -29,7 +29,7 @@ std::int32_t sumOf(const std::vector<std::int32_t>& counts) {
 template <typename Visit>
 bool visitAsked(const JudgingClasses& classes, Visit visit) {
   for (std::int32_t k = 0; k < classes.count(); ++k) {
-    for (const EntryKind kind : kEntryKinds) {
+    for (const ScoreValue kind : kEnteredValues) {
       if (isAsked(classes, k, kind) && !visit(k, kind)) return false;
     }
   }
@@ -75,7 +75,7 @@ class ProgressBuilder {
       const std::size_t end = std::min(first + perBand, columns);
       const Band band{first, std::min(end, columns - 1), end == columns};
       appendHeading(band);
-      if (!visitAsked(contest_.classes, [&](std::int32_t k, EntryKind kind) {
+      if (!visitAsked(contest_.classes, [&](std::int32_t k, ScoreValue kind) {
             appendCounts(band, k, kind);
             return !closeIfTooLong(out_, kLongestHandOut);
           })) {
@@ -94,8 +94,8 @@ class ProgressBuilder {
     out_ += '\n';
   }
 
-  void appendCounts(const Band& band, std::int32_t k, EntryKind kind) {
-    if (kind == EntryKind::placings) {
+  void appendCounts(const Band& band, std::int32_t k, ScoreValue kind) {
+    if (kind == ScoreValue::letter) {
       appendFormat(out_, "%2d %-18.18s ", k + 1, contest_.classes.name(k).c_str());
     } else {
       out_.append(22, ' ');
@@ -116,7 +116,7 @@ class ProgressBuilder {
 
   bool appendMissing() {
     bool isAnyMissing = false;
-    const bool complete = visitAsked(contest_.classes, [&](std::int32_t k, EntryKind kind) {
+    const bool complete = visitAsked(contest_.classes, [&](std::int32_t k, ScoreValue kind) {
       const auto expected = static_cast<std::int32_t>(progress_.expected().size());
       if (sumOf(progress_.enteredByGroup(k, kind)) == expected) return true;
       if (!isAnyMissing) out_ += "\nMissing:\n";

@@ -2,18 +2,13 @@
 
 #include <cstddef>
 
+#include "reports/report_parts.h"
 #include "text/format.h"
 #include "text/report_marks.h"
 
 namespace scorvane {
 
 namespace {
-
-constexpr const char* kWords[] = {"Placing", "Reasons", "Questions"};
-
-std::string orHyphen(const std::string& text) {
-  return text.empty() ? "-" : text;
-}
 
 void appendCount(std::string& out, std::size_t count, const char* what) {
   appendFormat(out, "%8zu  %s\n", count, what);
@@ -47,8 +42,7 @@ void appendScores(std::string& out, const char* heading, const Contest& contest,
       out += std::string(80, '-') + '\n';
     }
     appendFormat(out, kRow, std::to_string(score.number).c_str(),
-                 contestantName(contest, score.number).c_str(),
-                 kWords[static_cast<std::size_t>(score.value)],
+                 contestantName(contest, score.number).c_str(), scoreWord(score.value),
                  orHyphen(scoreText(score.value, score.records.here)).c_str(),
                  orHyphen(scoreText(score.value, score.records.there)).c_str());
   }

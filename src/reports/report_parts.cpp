@@ -1,11 +1,23 @@
 #include "reports/report_parts.h"
 
+#include <array>
+#include <cstddef>
+
 namespace scorvane {
 
 const char* kindTag(const JudgingClasses& classes, std::int32_t classIndex) {
   const bool questions = classes.hasQuestions(classIndex);
   if (classes.hasReasons(classIndex)) return questions ? " (Rsn/Qst) " : " (Reasons) ";
   return questions ? "(Questions)" : "           ";
+}
+
+const char* scoreWord(ScoreValue value) {
+  constexpr std::array kWords = {"Placing", "Reasons", "Questions", "Placing score"};
+  return kWords.at(static_cast<std::size_t>(value));
+}
+
+std::string orHyphen(const std::string& text) {
+  return text.empty() ? "-" : text;
 }
 
 std::vector<ListedContestant> listedContestants(const Contest& contest) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "model/contest.h"
+#include "model/contest_differences.h"
 
 namespace scorvane {
 
@@ -14,6 +15,12 @@ inline constexpr const char* kFiftyHyphens = "----------------------------------
 
 /// The kind of a class in eleven characters: " (Reasons) ", " (Rsn/Qst) ", "(Questions)" or blank.
 [[nodiscard]] const char* kindTag(const JudgingClasses& classes, std::int32_t classIndex);
+
+/// What a line says of which score it tells: "Placing", "Reasons", "Questions", "Placing score".
+[[nodiscard]] const char* scoreWord(ScoreValue value);
+
+/// "-" for a value that is blank.
+[[nodiscard]] std::string orHyphen(const std::string& text);
 
 /// A contestant with a name, as the grids list them. `scores` is null without any record.
 struct ListedContestant {

@@ -92,11 +92,12 @@ std::string awardsPacket(const Contest& contest) {
   return packet;
 }
 
-std::vector<CategoryFile> categoryFiles(const Contest& contest) {
-  std::vector<CategoryFile> files;
+std::optional<std::vector<CategoryFile>> categoryFiles(const Contest& contest) {
   const auto lists = printedLists(contest);
+  if (!lists) return std::nullopt;
+  std::vector<CategoryFile> files;
   int count = 0;
-  for (const ReportRequest& request : lists.value_or(std::vector<ReportRequest>{})) {
+  for (const ReportRequest& request : *lists) {
     if (!isCategory(request, contest)) continue;
     if (!request.team) ++count;
     files.push_back({formatText("Category %d - %s - %s", count, inFileName(request.title).c_str(),

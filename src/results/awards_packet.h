@@ -1,6 +1,7 @@
 // All that is printed for the awards in one go, and what of it a correction makes out of date.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,8 +17,8 @@ struct CategoryFile {
   std::string name;       ///< without an ending: "Category 2 - Beef - Teams"
   ReportRequest request;  ///< of the custom report
 };
-/// A file for each category report of the packet.
-[[nodiscard]] std::vector<CategoryFile> categoryFiles(const Contest& contest);
+/// A file for each category report of the packet. Nothing when printedLists() returns nothing.
+[[nodiscard]] std::optional<std::vector<CategoryFile>> categoryFiles(const Contest& contest);
 
 /// For each printed list, a line each, which of its places read otherwise now than they did before:
 /// what must be printed again.

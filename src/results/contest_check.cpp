@@ -105,7 +105,7 @@ class ContestCheck {
     if (progress_.expected().empty()) return add("No cards are in yet.");
     constexpr std::array kWords = {"placings", "reasons", "questions"};
     for (std::int32_t k = 0; k < contest_.classes.count(); ++k) {
-      for (const EntryKind kind : kEntryKinds) {
+      for (const ScoreValue kind : kEnteredValues) {
         if (!isAsked(contest_.classes, k, kind)) continue;
         const std::string what =
             formatText("%2d %-18.18s %-9s ", k + 1, contest_.classes.name(k).c_str(),
@@ -133,18 +133,18 @@ class ContestCheck {
     const JudgingClasses& classes = contest_.classes;
     const auto isNeverSet = [&](std::int32_t k) {
       const auto [cut1, cut2, cut3] = classes.cuts(k);
-      const bool isBlank = classes.official(k) == 'A' && cut1 == 0 && cut2 == 0 && cut3 == 0;
-      return isBlank || !isOrderLetter(classes.official(k));
+      return !isOrderLetter(classes.official(k)) || (cut1 == 0 && cut2 == 0 && cut3 == 0);
     };
     const auto className = [&](std::int32_t k) {
       return formatText("%2d %.24s: ", k + 1, classes.name(k).c_str());
     };
-    begin("Official placings that were never set");
+    begin("Official placings or cuts that were never set");
     for (std::int32_t k = 0; k < classes.count(); ++k) {
       if (!isNeverSet(k)) continue;
       add(className(k) + (isOrderLetter(classes.official(k))
-                              ? "A with cuts 0-0-0, so that every placing scores 50"
-                              : "no letter from A to X"));
+                              ? formatText("%c with cuts 0-0-0, so that every placing scores 50",
+                                           classes.official(k))
+                              : std::string("no letter from A to X")));
     }
     begin("Official placings that the cards contradict");
     const CardsByClass cards(contest_);

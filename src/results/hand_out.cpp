@@ -4,14 +4,10 @@
 #include <utility>
 
 #include "text/format.h"
-#include "text/report_marks.h"
 
 namespace scorvane {
 
 namespace {
-
-// A letter page has 66 lines, of which the head takes seven and the foot four.
-constexpr std::size_t kLinesOnPage = 54;
 
 std::size_t countLines(std::string_view text) {
   return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
@@ -28,36 +24,38 @@ void HandOut::turnPage() {
   if (hasPages_) text_.append(kPageBreakLine).append("\n");
   hasPages_ = true;
   text_ += title_;
-  linesOnPage_ = countLines(title_);
+  usedLines_ = countLines(title_);
 }
 
 void HandOut::add(std::string_view block, std::string_view continued) {
   const std::size_t lines = countLines(block);
-  if (countLines(title_) + lines > kLinesOnPage) return addOverPages(block, continued);
-  const bool isFirst = linesOnPage_ == countLines(title_);
-  if (!isFirst && linesOnPage_ + lines > kLinesOnPage) turnPage();
+  if (!continued.empty() && countLines(title_) + lines > linesOnPage_) {
+    return addOverPages(block, continued);
+  }
+  const bool isFirst = usedLines_ == countLines(title_);
+  if (!isFirst && usedLines_ + lines > linesOnPage_) turnPage();
   text_ += block;
-  linesOnPage_ += lines;
+  usedLines_ += lines;
 }
 
 void HandOut::addOverPages(std::string_view block, std::string_view continued) {
   constexpr std::size_t kFewestLines = 8;
-  if (linesOnPage_ + kFewestLines > kLinesOnPage) turnPage();
+  if (usedLines_ + kFewestLines > linesOnPage_) turnPage();
   while (!block.empty()) {
-    if (linesOnPage_ == kLinesOnPage) {
+    if (usedLines_ == linesOnPage_) {
       turnPage();
       text_ += continued;
-      linesOnPage_ += countLines(continued);
+      usedLines_ += countLines(continued);
     }
     const std::size_t end = std::min(block.find('\n'), block.size() - 1) + 1;
     text_ += block.substr(0, end);
     block.remove_prefix(end);
-    ++linesOnPage_;
+    ++usedLines_;
   }
 }
 
 bool HandOut::isTooLong() {
-  return closeIfTooLong(text_, kLongestHandOut);
+  return closeIfTooLong(text_, longest_);
 }
 
 std::string placingText(PlacingLetter letter) {

@@ -5,20 +5,25 @@
 #include <string_view>
 
 #include "model/placing.h"
+#include "text/report_marks.h"
 
 namespace scorvane {
 
 /// Puts blocks of lines on pages of paper: a block goes to the next page when it does not fit on
-/// this one. One that fits on no page is continued on the next ones.
+/// this one.
 class HandOut {
  public:
-  /// Every printed page repeats the opening's four lines at its head.
-  explicit HandOut(std::string opening) : text_(std::move(opening)) {}
+  /// Every printed page repeats the opening's four lines at its head, and takes `linesOnPage` more;
+  /// the default leaves room for head and foot on the 66 lines of a letter page.
+  explicit HandOut(std::string opening, std::size_t linesOnPage = 54,
+                   std::size_t longest = kLongestHandOut)
+      : text_(std::move(opening)), linesOnPage_(linesOnPage), longest_(longest) {}
 
   /// Begins a page with its title lines, which are repeated on the further pages that its blocks
   /// need.
   void beginPage(std::string title);
-  /// `continued` are the lines that a continued block begins with on a further page.
+  /// A block that fits on no page is continued on the next ones under the lines `continued`, and
+  /// without these runs on.
   void add(std::string_view block, std::string_view continued = {});
   /// Whether the report has grown beyond all use. It then says so and must not be added to.
   [[nodiscard]] bool isTooLong();
@@ -30,7 +35,9 @@ class HandOut {
 
   std::string text_;
   std::string title_;
-  std::size_t linesOnPage_ = 0;
+  std::size_t linesOnPage_;
+  std::size_t longest_;
+  std::size_t usedLines_ = 0;
   bool hasPages_ = false;
 };
 

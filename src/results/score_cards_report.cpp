@@ -10,7 +10,7 @@ namespace scorvane {
 
 namespace {
 
-constexpr std::size_t kWidestLine = 80;
+constexpr std::size_t kWidestCardLine = 80;
 constexpr const char* kColumns =
     " # Class             Offic. Cuts   Placed PLC RSN QUE Where the points went\n";
 
@@ -120,7 +120,7 @@ class ScoreCardsBuilder {
     out += " ";
     const auto add = [&](const std::string& text) {
       if (out.size() - start > indent) out += "  ";
-      if (out.size() - start + text.size() > kWidestLine) {
+      if (out.size() - start + text.size() > kWidestCardLine) {
         out.erase(out.find_last_not_of(' ') + 1);
         out += '\n';
         start = out.size();

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <numeric>
 #include <utility>
 
 #include "text/format.h"
@@ -14,7 +13,9 @@ namespace {
 constexpr std::string_view kBar = " | ";
 constexpr std::size_t kLongestTitle = 16;
 constexpr std::size_t kLeastNumberWidth = 5;
-constexpr std::size_t kNameWidth = 21;  // with the blank before it
+constexpr std::size_t kNameWidth = 20;
+// Behind it there is room for four columns of the widest numbers.
+constexpr std::size_t kWidestPrefix = 30;
 
 void appendRight(std::string& out, std::string_view text, std::size_t width) {
   if (text.size() < width) out.append(width - text.size(), ' ');
@@ -69,7 +70,7 @@ bool isClass(const SummaryBlock& block) {
 SummaryLayout::SummaryLayout(const SummaryTable& table) {
   const std::size_t numberWidth = numberWidthOf(table);
   numberWidth_ = static_cast<int>(numberWidth);
-  prefixWidth_ = numberWidth + kNameWidth;
+  prefixWidth_ = std::min(numberWidth + 1 + kNameWidth, kWidestPrefix);
   const std::vector<std::size_t> widths = columnWidthsOf(table);
   std::vector<PlacedBlock> blocks;
   for (const SummaryBlock& content : table.columns().blocks()) {
@@ -90,24 +91,29 @@ SummaryLayout::SummaryLayout(const SummaryTable& table) {
 }
 
 void SummaryLayout::makeBands(std::vector<PlacedBlock> blocks) {
-  const auto widthUpTo = [&](auto first, auto last) {
-    return std::accumulate(first, last, std::size_t{0}, [](std::size_t sum, const PlacedBlock& b) {
-      return sum + kBar.size() + b.width;
-    });
-  };
   const auto totals = std::find_if(blocks.begin(), blocks.end(),
                                    [](const PlacedBlock& b) { return !isClass(*b.content); });
-  const std::size_t totalsWidth = widthUpTo(totals, blocks.end());
-  std::size_t lineWidth = kWidestSummaryLine;
-  for (auto block = blocks.begin(); block != blocks.end(); ++block) {
-    // The totals begin in a band of their own when they do not all fit behind the classes.
-    const std::size_t needed = block == totals ? totalsWidth : kBar.size() + block->width;
-    if (bands_.empty() || lineWidth + needed > kWidestSummaryLine) {
-      bands_.emplace_back();
-      lineWidth = prefixWidth_;
+  // The first block of each band.
+  const auto startsOf = [&](auto first, auto last) {
+    std::vector<std::size_t> starts;
+    std::size_t lineWidth = kWidestSummaryLine;
+    for (; first != last; ++first) {
+      lineWidth += kBar.size() + first->width;
+      if (lineWidth <= kWidestSummaryLine) continue;
+      starts.push_back(static_cast<std::size_t>(first - blocks.begin()));
+      lineWidth = prefixWidth_ + kBar.size() + first->width;
     }
-    lineWidth += kBar.size() + block->width;
-    bands_.back().blocks.push_back(std::move(*block));
+    return starts;
+  };
+  std::vector<std::size_t> starts = startsOf(blocks.begin(), totals);
+  const std::vector<std::size_t> ofTotals = startsOf(totals, blocks.end());
+  starts.insert(starts.end(), ofTotals.begin(), ofTotals.end());
+  const std::vector<std::size_t> closest = startsOf(blocks.begin(), blocks.end());
+  // The totals begin a band of their own unless that takes one band more.
+  if (closest.size() < starts.size()) starts = closest;
+  for (std::size_t i = 0; i < blocks.size(); ++i) {
+    if (std::binary_search(starts.begin(), starts.end(), i)) bands_.emplace_back();
+    bands_.back().blocks.push_back(std::move(blocks[i]));
   }
 }
 
@@ -139,15 +145,19 @@ std::string SummaryLayout::makeHeading(const Band& band) const {
 }
 
 void SummaryLayout::appendMember(std::string& out, const SummaryRow& row) const {
+  const int nameWidth = static_cast<int>(prefixWidth_) - numberWidth_ - 1;
   if (row.isAlternate) {
-    appendFormat(out, "%*d %-16.16s alt", numberWidth_, row.number, row.name->c_str());
+    appendFormat(out, "%*d %-*.*s alt", numberWidth_, row.number, nameWidth - 4, nameWidth - 4,
+                 row.name->c_str());
   } else {
-    appendFormat(out, "%*d %-20.20s", numberWidth_, row.number, row.name->c_str());
+    appendFormat(out, "%*d %-*.*s", numberWidth_, row.number, nameWidth, nameWidth,
+                 row.name->c_str());
   }
 }
 
 void SummaryLayout::appendLabel(std::string& out, const char* label) const {
-  appendFormat(out, "%*s %-20.20s", numberWidth_, "", label);
+  out.append(prefixWidth_ - kNameWidth, ' ');
+  appendFormat(out, "%-*s", static_cast<int>(kNameWidth), label);
 }
 
 void SummaryLayout::appendCells(std::string& out, std::size_t band,

@@ -14,7 +14,7 @@
 
 namespace scorvane {
 
-inline constexpr std::size_t kWidestSummaryLine = 132;
+inline constexpr std::size_t kWidestSummaryLine = 80;
 
 /// Refers to the table it was made of.
 class SummaryLayout {

@@ -1,7 +1,9 @@
 #include "results/total_summary_report.h"
 
 #include <array>
+#include <utility>
 
+#include "results/hand_out.h"
 #include "results/total_summary_layout.h"
 #include "text/format.h"
 #include "text/report_marks.h"
@@ -10,18 +12,21 @@ namespace scorvane {
 
 namespace {
 
-void appendOpening(std::string& out, const Contest& contest) {
-  out += "Total Summary Report\n\n";
-  out +=
-      "PLC = placings, RSN = reasons, QUE = questions.  alt = alternate, never in a team total.\n";
-  appendFormat(out,
-               "Team Total = the %d best regular members, chosen anew for each column: it need not "
-               "add up across.\n\n",
-               contest.settings.numToScore);
+// How many lines of the report a page takes that has room for 58 in all: the head takes seven and
+// the foot four, and after a full page a page break would leave an empty one.
+constexpr std::size_t kLinesOnPage = 46;
+constexpr std::size_t kCoachBesideTeam = 20;
+
+std::string openingText(const Contest& contest) {
+  return formatText(
+      "Total Summary Report\n\n"
+      "PLC = placings, RSN = reasons, QUE = questions.  alt = never in a team total.\n"
+      "Team Total = each column's %d best regular members; it need not add up.\n",
+      contest.settings.numToScore);
 }
 
 void appendLegend(std::string& out, const Contest& contest) {
-  appendFormat(out, "%5s  %-38.38s  %.30s\n", "Class", "Description", "Category");
+  appendFormat(out, "\n%5s  %-38.38s  %.30s\n", "Class", "Description", "Category");
   const std::string rule(38, '-');
   appendFormat(out, "%5.5s  %-38.38s  %.30s\n", rule.c_str(), rule.c_str(), rule.c_str());
   const JudgingClasses& classes = contest.classes;
@@ -33,11 +38,14 @@ void appendLegend(std::string& out, const Contest& contest) {
 
 void appendTeam(std::string& out, const SummaryTable& table, const SummaryLayout& layout,
                 const SummaryTeam& team) {
-  if (team.coach != nullptr) {
-    appendFormat(out, "\n     Team:  %-30.30s          Coach:  %.30s\n", team.name->c_str(),
+  if (team.coach == nullptr) {
+    out += "\n     Contestants Without a Team\n";
+  } else if (team.coach->size() <= kCoachBesideTeam) {
+    appendFormat(out, "\n     Team:  %-30.30s          Coach:  %s\n", team.name->c_str(),
                  team.coach->c_str());
   } else {
-    out += "\n     Contestants Without a Team\n";
+    appendFormat(out, "\n     Team:  %.30s\n    Coach:  %.30s\n", team.name->c_str(),
+                 team.coach->c_str());
   }
   for (std::size_t band = 0; band < layout.bandCount(); ++band) {
     if (band > 0) out += '\n';
@@ -100,18 +108,22 @@ void appendStatistics(std::string& out, const SummaryTable& table, const Summary
 }  // namespace
 
 std::string totalSummaryReport(const Contest& contest) {
-  std::string out;
-  appendOpening(out, contest);
+  HandOut report(openingText(contest), kLinesOnPage, kLongestReport);
   const std::optional<SummaryTable> table = SummaryTable::of(contest);
-  if (!table) return out += "This contest is too large for this report.\n";
+  if (!table) return report.take() += "\nThis contest is too large for this report.\n";
   const SummaryLayout layout(*table);
-  appendLegend(out, contest);
+  std::string block;
+  appendLegend(block, contest);
+  report.beginPage("");
+  report.add(std::exchange(block, {}));
   for (const SummaryTeam& team : table->teams()) {
-    appendTeam(out, *table, layout, team);
-    if (closeIfTooLong(out)) return out;
+    appendTeam(block, *table, layout, team);
+    report.add(std::exchange(block, {}));
+    if (report.isTooLong()) return report.take();
   }
-  appendStatistics(out, *table, layout);
-  return out;
+  appendStatistics(block, *table, layout);
+  report.add(block);
+  return report.take();
 }
 
 }  // namespace scorvane

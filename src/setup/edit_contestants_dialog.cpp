@@ -72,7 +72,7 @@ void deleteContestant(Dialog& dialog) {
   emptyFields(dialog);
 }
 
-void finish(Dialog& dialog) {
+void finishContestants(Dialog& dialog) {
   saveCurrent(dialog);
   dialog.end(kOkId);
 }
@@ -94,11 +94,11 @@ void EditContestantsDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent e
   if (event != ControlEvent::clicked) return;
   if (id == IDC_UPDATE_CONTESTANT) updateContestant(dialog);
   if (id == IDC_DELETE_CONTESTANT) deleteContestant(dialog);
-  if (id == IDC_CONTESTANTS_DONE) finish(dialog);
+  if (id == IDC_CONTESTANTS_DONE) finishContestants(dialog);
 }
 
 void EditContestantsDialog::onClose(Dialog& dialog) {
-  finish(dialog);
+  finishContestants(dialog);
 }
 
 }  // namespace scorvane

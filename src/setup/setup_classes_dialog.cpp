@@ -92,7 +92,7 @@ void clearAll(Dialog& dialog) {
   dialog.setDefaultButton(IDC_ADD_CLASS);
 }
 
-void finish(Dialog& dialog) {
+void finishClasses(Dialog& dialog) {
   reportText() = kWelcomeText;
   recomputeAllPlacingScores(currentContest());
   saveCurrent(dialog);
@@ -119,7 +119,7 @@ void SetupClassesDialog::onEvent(Dialog& dialog, ControlId id, ControlEvent even
 }
 
 void SetupClassesDialog::onClose(Dialog& dialog) {
-  finish(dialog);
+  finishClasses(dialog);
 }
 
 // A letter and three digits are typed without a Tab in between.
@@ -138,7 +138,7 @@ void SetupClassesDialog::onClicked(Dialog& dialog, ControlId id) {
   if (id == IDC_REMOVE_CLASS) removeSelected(dialog);
   if (id == IDC_NEW_CLASS) resetForm(dialog);
   if (id == IDC_CLEAR_ALL_CLASSES) clearAll(dialog);
-  if (id == IDC_CLASSES_DONE) finish(dialog);
+  if (id == IDC_CLASSES_DONE) finishClasses(dialog);
 }
 
 // An empty form is the mode of adding.

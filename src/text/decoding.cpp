@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 #include <optional>
 
 #include "text/unicode.h"
@@ -11,59 +13,33 @@ namespace scorvane {
 namespace {
 
 constexpr char32_t kNoCharacter = 0xFFFD;
-constexpr char32_t kFirstPair = 0x10000;
-constexpr char32_t kLastCharacter = 0x10FFFF;
 
 unsigned byteAt(std::string_view bytes, std::size_t i) {
   return static_cast<unsigned char>(bytes[i]);
 }
 
-char byteOf(char32_t value) {
-  return static_cast<char>(static_cast<unsigned char>(value));
-}
-
-// Bytes 0x80 to 0x9F; a byte without a character is a control character as in Unicode.
-constexpr std::array<char16_t, 32> kOwnCharacters = {
-    0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
-
-// Takes UTF-8 apart; nothing for bytes that are none.
-std::optional<char32_t> nextOfUtf8(std::string_view bytes, std::size_t& i) {
-  const unsigned lead = byteAt(bytes, i);
-  const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-  constexpr std::array<char32_t, 5> kSmallest = {0, 0, 0x80, 0x800, kFirstPair};
-  if ((lead >= 0x80 && lead < 0xC2) || lead > 0xF4 || i + length > bytes.size()) {
-    return std::nullopt;
+// How many characters from `i` on are ASCII.
+std::size_t asciiRun(std::string_view bytes, std::size_t i) {
+  constexpr std::uint64_t kOtherBits = 0x8080808080808080;
+  std::size_t end = i;
+  for (std::uint64_t eight = 0; end + sizeof eight <= bytes.size(); end += sizeof eight) {
+    std::memcpy(&eight, bytes.data() + end, sizeof eight);
+    if ((eight & kOtherBits) != 0) break;
   }
-  char32_t c = length == 1 ? lead : lead & (0x7FU >> length);
-  for (std::size_t k = i + 1; k < i + length; ++k) {
-    if ((byteAt(bytes, k) & 0xC0U) != 0x80) return std::nullopt;
-    c = (c << 6) | (byteAt(bytes, k) & 0x3FU);
-  }
-  const bool isSurrogate = c >= 0xD800 && c < 0xE000;
-  if (c < kSmallest.at(length) || c > kLastCharacter) return std::nullopt;
-  i += length;
-  // Half of a pair, as a field can hold it, is no reason to take the whole text for 8-bit text.
-  return isSurrogate ? kNoCharacter : c;
+  while (end < bytes.size() && byteAt(bytes, end) < 0x80) ++end;
+  return end - i;
 }
 
 bool isUtf8(std::string_view bytes) {
-  for (std::size_t i = 0; i < bytes.size();) {
-    if (byteAt(bytes, i) < 0x80) {
-      ++i;
-    } else if (!nextOfUtf8(bytes, i)) {
-      return false;
-    }
+  for (std::size_t i = asciiRun(bytes, 0); i < bytes.size(); i += asciiRun(bytes, i)) {
+    if (!takeCharacter(bytes, i)) return false;
   }
   return true;
 }
 
-// How many characters from `i` on are ASCII.
-std::size_t asciiRun(std::string_view bytes, std::size_t i) {
-  std::size_t end = i;
-  while (end < bytes.size() && byteAt(bytes, end) < 0x80) ++end;
-  return end - i;
+// Half of a pair, as a field can hold it, is no reason to take the whole text for 8-bit text.
+char32_t orReplacement(char32_t c) {
+  return c >= kSurrogates && c < kAfterSurrogates ? kNoCharacter : c;
 }
 
 // Hands every character of the file to `take`, runs of ASCII as such.
@@ -74,13 +50,11 @@ void eachOfUtf16(std::string_view bytes, std::size_t high, Take take) {
   };
   for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
     char32_t c = unitAt(i);
-    if (c >= 0xD800 && c < 0xE000) {
-      const char32_t next = i + 3 < bytes.size() ? unitAt(i + 2) : 0;
-      const bool isPair = c < 0xDC00 && next >= 0xDC00 && next < 0xE000;
-      c = isPair ? kFirstPair + ((c - 0xD800) << 10) + (next - 0xDC00) : kNoCharacter;
-      if (isPair) i += 2;
+    if (const char32_t next = i + 3 < bytes.size() ? unitAt(i + 2) : 0; isPair(c, next)) {
+      c = characterOfPair(c, next);
+      i += 2;
     }
-    take(c);
+    take(orReplacement(c));
   }
 }
 
@@ -95,10 +69,11 @@ void eachCharacter(std::string_view bytes, Take take) {
       take.ascii(unmarked.substr(i, run));
       i += run;
     } else if (isEncoded) {
-      take(nextOfUtf8(unmarked, i).value_or(kNoCharacter));
+      take(orReplacement(takeCharacter(unmarked, i).value_or(kNoCharacter)));
     } else {
       const unsigned c = byteAt(unmarked, i++);
-      take(c < 0xA0 ? char32_t{kOwnCharacters.at(c - 0x80U)} : char32_t{c});
+      const char32_t own = c < 0xA0 ? kWindows1252Own.at(c - 0x80U) : c;
+      take(own != 0 ? own : c);  // a byte without a character: the control character of Unicode
     }
   }
 }
@@ -204,9 +179,9 @@ class Writer {
       out_.text += quote;
     } else if (isAccent(c)) {
       appendAccent(c);
-    } else if (const auto* own = std::find(kOwnCharacters.begin(), kOwnCharacters.end(), c);
-               own != kOwnCharacters.end()) {
-      out_.text += byteOf(0x80 + static_cast<char32_t>(own - kOwnCharacters.begin()));
+    } else if (const auto* own = std::find(kWindows1252Own.begin(), kWindows1252Own.end(), c);
+               own != kWindows1252Own.end()) {
+      out_.text += byteOf(0x80 + static_cast<char32_t>(own - kWindows1252Own.begin()));
     } else if (!isNeverSeen(c)) {
       out_.changed.push_back(out_.text.size());
       out_.text += baseLetter(c).value_or('?');

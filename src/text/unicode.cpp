@@ -8,23 +8,7 @@ namespace scorvane {
 
 namespace {
 
-constexpr char32_t kSurrogates = 0xD800;
-constexpr char32_t kLowSurrogates = 0xDC00;
-constexpr char32_t kAfterSurrogates = 0xE000;
-constexpr char32_t kFirstPair = 0x10000;
-constexpr char32_t kLastPair = 0x10FFFF;
-
-constexpr bool isHigh(char32_t unit) {
-  return unit >= kSurrogates && unit < kLowSurrogates;
-}
-constexpr bool isLow(char32_t unit) {
-  return unit >= kLowSurrogates && unit < kAfterSurrogates;
-}
-
-constexpr char byteOf(char32_t value) {
-  return static_cast<char>(static_cast<unsigned char>(value));
-}
-
+constexpr char32_t kLastCharacter = 0x10FFFF;
 constexpr char32_t kFirstOwn = 0x80;
 constexpr char32_t kFirstLatin = 0xA0;
 
@@ -57,25 +41,36 @@ void appendCharacter(std::string& out, char32_t c) {
   out += byteOf(0x80 | (c & kSixBits));
 }
 
+std::optional<char32_t> takeCharacter(std::string_view utf8, std::size_t& i) {
+  const auto byteAt = [utf8](std::size_t at) { return static_cast<unsigned char>(utf8[at]); };
+  const unsigned lead = byteAt(i);
+  const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+  constexpr std::array<char32_t, 5> kSmallest = {0, 0, 0x80, 0x800, kFirstPair};
+  if ((lead >= 0x80 && lead < 0xC2) || lead > 0xF4 || i + length > utf8.size()) {
+    return std::nullopt;
+  }
+  char32_t c = length == 1 ? lead : lead & (0x7FU >> length);
+  for (std::size_t k = i + 1; k < i + length; ++k) {
+    if ((byteAt(k) & 0xC0U) != 0x80) return std::nullopt;
+    c = (c << 6) | (byteAt(k) & 0x3FU);
+  }
+  if (c < kSmallest.at(length) || c > kLastCharacter) return std::nullopt;
+  i += length;
+  return c;
+}
+
 std::optional<std::u16string> utf16Of(std::string_view utf8) {
   std::u16string utf16;
   for (std::size_t i = 0; i < utf8.size();) {
-    const auto lead = static_cast<unsigned char>(utf8[i]);
-    const std::size_t length = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-    if (i + length > utf8.size()) return std::nullopt;
-    char32_t c = length == 1 ? lead : lead & (0x7FU >> length);
-    for (std::size_t k = i + 1; k < i + length; ++k) {
-      c = (c << 6) | (static_cast<unsigned char>(utf8[k]) & 0x3FU);
+    auto c = takeCharacter(utf8, i);
+    if (!c) return std::nullopt;
+    if (*c >= kFirstPair) {
+      utf16 += static_cast<char16_t>(kSurrogates + ((*c - kFirstPair) >> 10));
+      c = kLowSurrogates + ((*c - kFirstPair) & 0x3FF);
     }
-    i += length;
-    if (c > kLastPair) return std::nullopt;
-    if (c >= kFirstPair) {
-      utf16 += static_cast<char16_t>(kSurrogates + ((c - kFirstPair) >> 10));
-      c = kLowSurrogates + ((c - kFirstPair) & 0x3FF);
-    }
-    utf16 += static_cast<char16_t>(c);
+    utf16 += static_cast<char16_t>(*c);
   }
-  // What was malformed or an overlong form of something else is not what it would be written as.
+  // Two halves in three bytes each would come back as the four of their pair.
   if (utf8Of(utf16) != utf8) return std::nullopt;
   return utf16;
 }
@@ -84,9 +79,7 @@ std::string utf8Of(std::u16string_view utf16) {
   std::string utf8;
   for (std::size_t i = 0; i < utf16.size(); ++i) {
     char32_t c = utf16[i];
-    if (isHigh(c) && i + 1 < utf16.size() && isLow(utf16[i + 1])) {
-      c = kFirstPair + ((c - kSurrogates) << 10) + (utf16[++i] - kLowSurrogates);
-    }
+    if (i + 1 < utf16.size() && isPair(c, utf16[i + 1])) c = characterOfPair(c, utf16[++i]);
     appendCharacter(utf8, c);
   }
   return utf8;
@@ -97,7 +90,7 @@ std::size_t countCharacters(std::string_view utf8) {
   if (!utf16) return utf8.size();
   std::size_t count = utf16->size();
   for (std::size_t i = 1; i < utf16->size(); ++i) {
-    if (isHigh((*utf16)[i - 1]) && isLow((*utf16)[i])) --count;
+    if (isPair((*utf16)[i - 1], (*utf16)[i])) --count;
   }
   return count;
 }
@@ -121,7 +114,7 @@ std::string windows1252Of(std::string_view utf8) {
   }
   for (std::size_t i = 0; i < utf16->size(); ++i) {
     const char16_t unit = (*utf16)[i];
-    if (i > 0 && isHigh((*utf16)[i - 1]) && isLow(unit)) continue;  // one "?" for a pair
+    if (i > 0 && isPair((*utf16)[i - 1], unit)) continue;  // one "?" for a pair
     text += in1252(unit);
   }
   return text;

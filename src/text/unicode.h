@@ -17,6 +17,27 @@ namespace scorvane {
 /// Appends a character as UTF-8.
 void appendCharacter(std::string& out, char32_t c);
 
+/// Takes the character at `i` out of UTF-8, also half of a pair; nothing, and `i` stays, for bytes
+/// that are none.
+[[nodiscard]] std::optional<char32_t> takeCharacter(std::string_view utf8, std::size_t& i);
+
+inline constexpr char32_t kSurrogates = 0xD800;
+inline constexpr char32_t kLowSurrogates = 0xDC00;
+inline constexpr char32_t kAfterSurrogates = 0xE000;
+inline constexpr char32_t kFirstPair = 0x10000;
+
+[[nodiscard]] constexpr bool isPair(char32_t high, char32_t low) {
+  return high >= kSurrogates && high < kLowSurrogates && low >= kLowSurrogates &&
+         low < kAfterSurrogates;
+}
+[[nodiscard]] constexpr char32_t characterOfPair(char32_t high, char32_t low) {
+  return kFirstPair + ((high - kSurrogates) << 10) + (low - kLowSurrogates);
+}
+
+[[nodiscard]] constexpr char byteOf(char32_t value) {
+  return static_cast<char>(static_cast<unsigned char>(value));
+}
+
 /// The characters of bytes 0x80 to 0x9F in code page 1252; 0 where it has none. All above are as in
 /// Unicode.
 inline constexpr std::array<char16_t, 32> kWindows1252Own = {

@@ -19,6 +19,7 @@ struct ImportFiles : MemoryFiles {
     files["fair.scv"].content = writeContest(fair.contest);
     files["damaged.scv"].content = "not a contest\r\n";
     files["sheet.csv"].content = "Team,Name,Coach\nElm,Cy,Pat\nYew,Dee,\nYew,dee,\n";
+    files["bad.csv"].content = "Team,Name\n,Cy\n";
     files["there.csv"].content = "Team,Name\nElm,ann\n";
     files["empty.csv"].content = "Team,Name\n\n";
   }
@@ -44,8 +45,9 @@ TEST(Import, AnswersAsApproved) {
        {"import|sheet.csv|fair.scv", "import|sheet.csv|fair.scv|--skip-problems",
         "import|sheet.csv|fair.scv|--skip-problems|--dry-run", "import|there.csv|fair.scv",
         "import|there.csv|fair.scv|--into|out.scv", "import|sheet.csv|new.scv|--skip-problems",
-        "import|empty.csv|fair.scv", "import|none.csv|fair.scv", "import|sheet.csv|damaged.scv", "",
-        "imort", "import", "import|a", "import|a|b|c", "import|a|b|--drry-run", "import|a|b|--into",
+        "import|bad.csv|new.scv|--skip-problems", "import|empty.csv|fair.scv",
+        "import|none.csv|fair.scv", "import|sheet.csv|damaged.scv", "", "imort", "import",
+        "import|a", "import|a|b|c", "import|a|b|--drry-run", "import|a|b|--into",
         "import|a|b|--dry-run=no", "--dry-run|import|a|b"}) {
     ImportFiles disk;
     const auto before = disk.files;

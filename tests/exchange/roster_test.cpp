@@ -300,6 +300,16 @@ TEST(Roster, TellsWhatIsWrong) {
       "Team,Contestant,Contestant,Contestant Alternate\nElm,Ann,Bob,Cy\n",
       "First Member;Second Member;Club\nAnn;Bob;Elm\n", "Team Members\nElm\tAnn\tPat\n",
       "Elm\nAsh\n",
+      "Club,Coach School,Student Name (Grade),Name of Group,Group Leader,Team Member\n"
+      "Elm,X,Ann,X,Pat,X\n",
+      "School,Team Member 1,Team Member 2,Parent's Name,Coach (School)\nElm,Ann,Bob,X,Pat\n",
+      // Teams and people that are called like headings.
+      "Clay County,Judge Lee,Pat Coach\nElm,Judge,Sam\n",
+      "Clay County,Judge\nClay County,Ann Lee\n", "Elm,Ann,Pat\nSchool,Judge,\nAsh,Alt,\n",
+      "Sponsoring Chapter,Judge,Fee\nElm,Ann,5\n",
+      "Fair,Judges\nWhich club?,Contestant Attending,Teacher in charge\nElm,Ann,Pat\n",
+      // Who is an alternate, and who may be one.
+      "Team,Name,Alternate\nElm,Ann,No\nElm,Bob,perhaps\nAsh,,perhaps\nElm,Cy,-\n",
       // Every kind of blank, quotes, letters that have to be changed, and letters coded apart.
       "Team,Name\nElm,\xE2\x80\x9C"
       "Al\xE2\x80\x9D\xE2\x80\xAFO\xE2\x80\x99"
@@ -314,6 +324,16 @@ TEST(Roster, TellsWhatIsWrong) {
     log += "> " + shown + "\n" + explained(planRoster(sheet, smallContest()), smallContest());
   }
   expectApproved(log, "exchange/problems.txt");
+}
+
+TEST(Roster, MeetsTheTeamOfTheVeryNameFirst) {
+  ContestBuilder builder;
+  builder.members(2, 2, 2).addClass({}).team("ELM", "", {"Ann", ""}).team("Elm", "", {"Bob", ""});
+  EXPECT_EQ(explained(planRoster("elm,Ann\nElm,Cy\nELM,Dee\nElm,bob\n", builder.contest),
+                      builder.contest),
+            "ELM (already there):  102B Dee  already there: 101A Ann\n"
+            "Elm (already there):  104D Cy  already there: 103C Bob\n2 teams, 4 contestants, 0 "
+            "alternates\n");
 }
 
 TEST(Roster, ImportingIsTyping) {

@@ -57,19 +57,29 @@ TEST(ContestMerge, KeepsItsLaws) {
 
 TEST(ContestMerge, GivesClashingTeamsOtherNumbers) {
   const auto with = [](ContestBuilder builder, const std::string& team, const char* first) {
-    builder.team(team, "", {first, "Bo", "Cy", "Di"});
-    builder.placings(105, team == "Elm" ? "A" : "B");
+    const bool isAl = std::string(first) == "Al";
+    builder.team(team, "", {first, isAl ? "Bo" : "Ben", "Cy", isAl ? "Di" : ""});
+    builder.placings(105, isAl ? "A" : "B");
     return savedAndLoaded(builder.contest);
   };
   ContestBuilder base;
   base.addClass({.name = "Steers"}).team("Ash", "", {"An", "Ben", "Cal", "Dan"});
-  const Merge merge =
-      mergeContests(savedAndLoaded(base.contest), with(base, "Elm", "Al"), with(base, "Fir", "Ed"));
+  const Contest ours = with(base, "Elm", "Al");
+  const Merge merge = mergeContests(savedAndLoaded(base.contest), ours, with(base, "Fir", "Ed"));
   EXPECT_EQ(numberChangeLines(merge.numbers),
             std::vector<std::string>{"105 to 108 are now 109 to 112"});
   EXPECT_EQ(scoreRecord(merge.contest, 105, 0).letter, 'A');
   EXPECT_EQ(scoreRecord(merge.contest, 109, 0).letter, 'B');
   EXPECT_EQ(contestantName(merge.contest, 109), "Ed");
+
+  // One name for two teams: who finds no room among others forms a second team.
+  const Merge two = mergeContests(savedAndLoaded(base.contest), ours, with(base, "Elm", "Ed"));
+  EXPECT_EQ(numberChangeLines(two.numbers),
+            std::vector<std::string>{"105 to 106 are now 109 to 110"});
+  EXPECT_EQ(two.contest.teams.at("Elm"), ours.teams.at("Elm"));
+  EXPECT_EQ(two.contest.teams.at("Elm (2)").members, (std::vector{109, 110, 111, 112}));
+  ASSERT_EQ(two.values.size(), 1U);
+  EXPECT_EQ(two.values[0].subject, "team Elm (2)");
 }
 
 TEST(BringInScores, TakesOverWhatIsMissing) {

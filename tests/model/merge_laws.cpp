@@ -237,12 +237,43 @@ bool hasEveryScoreOf(const Contest& base, const Contest& side, const Merge& merg
   return true;
 }
 
-// Renamed classes and categories are known by their position only while there are as many; a team
-// that was renamed, by people who may have been renamed too.
+bool isInTeam(const Contest& contest, const std::string& name) {
+  return std::any_of(contest.teams.begin(), contest.teams.end(), [&](const auto& team) {
+    const auto& members = team.second.members;
+    return std::any_of(members.begin(), members.end(), [&](ContestantNumber number) {
+      return contestantName(contest, number) == name;
+    });
+  });
+}
+
+// New people of a team have one afterwards, unless both sides put somebody into the same slot.
+bool keepsTeamsOf(const Contest& base, const Contest& side, const Merge& merge) {
+  const bool isListed =
+      std::any_of(merge.values.begin(), merge.values.end(), [](const Difference& difference) {
+        return difference.kind == DifferenceKind::team && difference.value.starts_with("member");
+      });
+  return isListed || std::all_of(side.teams.begin(), side.teams.end(), [&](const auto& team) {
+           const auto& members = team.second.members;
+           return std::all_of(members.begin(), members.end(), [&](ContestantNumber number) {
+             const std::string& name = contestantName(side, number);
+             return name.empty() || base.contestantNames.contains(number) ||
+                    isInTeam(merge.contest, name);
+           });
+         });
+}
+
+// Renamed classes and categories are known by their position only while there are as many, and
+// those of one name by their order; a team that was renamed, by people who may have been renamed
+// too.
 bool isKnownByName(const Contest& base, const Contest& side, const Contest& merged) {
   const auto isKnown = [](const std::vector<std::string>& before,
                           const std::vector<std::string>& now,
                           const std::vector<std::string>& after) {
+    const auto isUnclear = [&](const std::string& name) {
+      return std::count(after.begin(), after.end(), name) > 1;
+    };
+    if (before == after) return true;
+    if (std::any_of(before.begin(), before.end(), isUnclear)) return false;
     if (after.size() == before.size()) return true;
     const std::vector<ClassMatch> matches = matchNames(before, now, true);
     return std::all_of(matches.begin(), matches.end(), [&](const ClassMatch& match) {
@@ -299,6 +330,9 @@ std::string brokenMergeLaw(const Contest& base, const Contest& ours, const Conte
   if (!hasEveryScoreOf(base, ours, merge, &Sides<ScoreRecord>::here) ||
       !hasEveryScoreOf(base, theirs, merge, &Sides<ScoreRecord>::there)) {
     return "every score typed is in the result or listed";
+  }
+  if (!keepsTeamsOf(base, ours, merge) || !keepsTeamsOf(base, theirs, merge)) {
+    return "who is added with a team has one";
   }
   if (savedAndLoaded(merge.contest) != merge.contest) return "the result is as after loading";
   return {};

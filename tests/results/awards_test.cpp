@@ -7,6 +7,7 @@
 #include "reports/entry_progress_report.h"
 #include "results/announcers_list.h"
 #include "results/award_lists.h"
+#include "results/awards_packet.h"
 #include "results/class_analysis_report.h"
 #include "results/score_cards.h"
 #include "results/score_cards_report.h"
@@ -218,6 +219,7 @@ TEST(HandOuts, EndBeforeTheyTakeTooLong) {
   }
   builder.contest.categories.assign(20000, "Beef");
   EXPECT_NE(announcersList(builder.contest).find("too many categories"), std::string::npos);
+  EXPECT_FALSE(categoryFiles(builder.contest));
   for (const auto& report : {scoreCardsReport, entryProgressReport}) {
     const std::string text = report(builder.contest);
     EXPECT_LT(text.size(), kLongestHandOut + (4U << 20U));

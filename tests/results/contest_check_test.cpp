@@ -90,12 +90,12 @@ constexpr Fault kFaults[] = {
          if (number % 5 == 2) records[2].letter = ' ', records[2].placingScore = 0;
        }
      }},
-    {"Official placings that were never set", " 2 Angus Heifers: A with cuts 0-0-0",
+    {"Official placings or cuts that were never set", " 2 Angus Heifers: R with cuts 0-0-0",
      [](Contest& c) {
-       c.classes.officialLetter[1] = 'A';
+       c.classes.officialLetter[1] = 'R';
        c.classes.cut1[1] = c.classes.cut2[1] = c.classes.cut3[1] = 0;
      }},
-    {"Official placings that were never set", " 1 Angus Heifers: no letter from A to X",
+    {"Official placings or cuts that were never set", " 1 Angus Heifers: no letter from A to X",
      [](Contest& c) { c.classes.officialLetter[0] = ' '; }},
     {"Official placings that the cards contradict", " 3 Angus Heifers: ",
      [](Contest& c) {
@@ -171,6 +171,12 @@ TEST(ContestCheck, FindsOnePlantedFaultAndNothingElse) {
   }
 }
 
+TEST(ContestCheck, FindsNothingInTheSamples) {
+  for (const char* sample : {"samples/county.scv", "samples/state.scv"}) {
+    EXPECT_EQ(contestCheckReport(contestOfFile(sample)), "Nothing is missing.\n");
+  }
+}
+
 TEST(ContestCheck, IsAsApproved) {
   Random random(1);
   const Contest clean = nothingMissing(random);
@@ -214,7 +220,7 @@ TEST(AwardsPacket, IsTheReportsOnPagesOfTheirOwn) {
     expected.erase(expected.size() - page.size());
     EXPECT_EQ(awardsPacket(contest), expected);
     contest.categories[0] = "Beef: <All>/\\";
-    EXPECT_EQ(categoryFiles(contest)[1].name, "Category 1 - Beef- -All--- - Teams");
+    EXPECT_EQ(categoryFiles(contest).value()[1].name, "Category 1 - Beef- -All--- - Teams");
   }
 }
 

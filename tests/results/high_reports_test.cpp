@@ -118,7 +118,7 @@ TEST(HighReports, CutNamesToTheirColumns) {
        {"  " + letters('A', 30) + "  " + letters('T', 30) + "  ",
         "  " + letters('T', 21) + "  " + letters('A', 25) + " (", "  " + letters('B', 25) + " (",
         "Coach: " + letters('C', 30) + " ", letters('D', 38) + "  " + letters('K', 30) + "\n",
-        "Team:  " + letters('T', 30) + "          Coach:  " + letters('C', 30) + "\n",
+        "Team:  " + letters('T', 30) + "\n    Coach:  " + letters('C', 30) + "\n",
         " | " + letters('K', 16) + " | ", "101 " + letters('A', 20) + " | ",
         "103 " + letters('X', 16) + " alt | "}) {
     EXPECT_NE(reports.find(cut), std::string::npos) << cut << '\n' << reports;
