@@ -29,7 +29,9 @@ void HandOut::turnPage() {
 
 void HandOut::add(std::string_view block, std::string_view continued) {
   const std::size_t lines = countLines(block);
-  if (countLines(title_) + lines > linesOnPage_) return addOverPages(block, continued);
+  if (!continued.empty() && countLines(title_) + lines > linesOnPage_) {
+    return addOverPages(block, continued);
+  }
   const bool isFirst = usedLines_ == countLines(title_);
   if (!isFirst && usedLines_ + lines > linesOnPage_) turnPage();
   text_ += block;
