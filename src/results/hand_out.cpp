@@ -13,6 +13,18 @@ std::size_t countLines(std::string_view text) {
   return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
 }
 
+// The first line with what belongs to it: the lines under it that are indented or empty.
+std::string_view firstRow(std::string_view block) {
+  constexpr std::size_t kMostTogether = 30;
+  std::size_t end = 0;
+  for (std::size_t lines = 0; lines < kMostTogether && end < block.size(); ++lines) {
+    const std::string_view rest = block.substr(end);
+    if (lines > 0 && !rest.starts_with("   ") && !rest.starts_with("\n")) break;
+    end += std::min(rest.find('\n'), rest.size() - 1) + 1;
+  }
+  return block.substr(0, end);
+}
+
 }  // namespace
 
 void HandOut::beginPage(std::string title) {
@@ -42,15 +54,16 @@ void HandOut::addOverPages(std::string_view block, std::string_view continued) {
   constexpr std::size_t kFewestLines = 8;
   if (usedLines_ + kFewestLines > kLinesOnPage) turnPage();
   while (!block.empty()) {
-    if (usedLines_ == kLinesOnPage) {
+    const std::string_view row = firstRow(block);
+    const std::size_t lines = countLines(row);
+    if (usedLines_ + lines > kLinesOnPage) {
       turnPage();
       text_ += continued;
       usedLines_ += countLines(continued);
     }
-    const std::size_t end = std::min(block.find('\n'), block.size() - 1) + 1;
-    text_ += block.substr(0, end);
-    block.remove_prefix(end);
-    ++usedLines_;
+    text_ += row;
+    usedLines_ += lines;
+    block.remove_prefix(row.size());
   }
 }
 

@@ -25,8 +25,8 @@ class HandOut {
   /// Begins a page with its title lines, which are repeated on the further pages that its blocks
   /// need.
   void beginPage(std::string title);
-  /// A block that fits on no page is continued on the next ones under the lines `continued`, and
-  /// without these runs on.
+  /// A block that fits on no page is continued on the next ones under the lines `continued`, never
+  /// with a line of those indented under another, and without these runs on.
   void add(std::string_view block, std::string_view continued = {});
   /// Whether the report has grown beyond all use. It then says so and must not be added to.
   [[nodiscard]] bool isTooLong();

@@ -203,8 +203,11 @@ TEST(HandOuts, FillPagesOfPaper) {
   for (const std::string& text : texts) {
     std::istringstream lines(text.substr(text.find("\n\n", 20) + 2));
     int onPage = 0;
+    bool isHeading = false;
     for (std::string line; std::getline(lines, line); ++onPage) {
       if (line == kPageBreakLine) onPage = -1;
+      EXPECT_FALSE(isHeading && (line.empty() || line.starts_with("   "))) << line;
+      isHeading = line.starts_with(" # Class ");
       EXPECT_LE(onPage, 46) << line;
     }
   }
