@@ -5,7 +5,7 @@ Contests have 12 classes. The rankings against other programs are CPU times, see
 see startup.py; a card in the real window, see typed_card.py; all else is the program's own code in a benchmark, with
 how many times longer it takes than with a tenth of the contestants: 10 where cost grows in step.
 
-usage: table.py [CONTESTANTS...]     (100 1000 10000 100000 unless told; wants all builds and an idle machine)
+usage: table.py [CONTESTANTS...]     (100 1000 10000 100000 unless told; wants the native and the windows build and an idle machine)
 """
 
 import json
@@ -14,12 +14,12 @@ import subprocess
 import sys
 
 HERE = pathlib.Path(__file__).resolve().parent
-NATIVE = HERE.parent / "build" / "native"
-sys.path[:0] = [str(HERE), str(HERE / "compare")]
+sys.path[:0] = [str(HERE), str(HERE / "compare"), str(HERE.parent / "tools" / "desktop")]
 
 import compare  # noqa: E402
 import startup  # noqa: E402
 import typed_card  # noqa: E402
+from desktop import NATIVE  # noqa: E402
 
 OPERATIONS = {"opening": "load", "saving": "save", "checking": "results/Contest Check", "comparing": "compare",
               "merging": "merge", "publishing": "publish/page", "exporting": "publish/workbook",
@@ -40,7 +40,7 @@ def rankings(sizes):
     row("Both overall rankings, contestants", "scorvane-report, CPU ms", *(f"{o}, times as long" for o in OTHERS.values()))
     row("---:", "---:", *("---:" for _ in OTHERS))
     for size in sizes:
-        found = compare.compare(NATIVE, size)
+        found = compare.compare(NATIVE, size, {OWN, *OTHERS})
         own = found[OWN][0]
         row(f"{size:,}", short(own), *(short(found[o][0] / own) if o in found else "not there" for o in OTHERS))
 
@@ -49,7 +49,7 @@ def operations(sizes):
     names = "|".join(OPERATIONS.values())
     done = subprocess.run([NATIVE / "bench" / "benchmarks", f"--benchmark_filter=^({names})/({'|'.join(map(str, sizes))})$",
                            "--benchmark_format=json"], check=True, stdout=subprocess.PIPE, text=True)
-    cpu = {b["name"]: b["cpu_time"] / 1000 for b in json.loads(done.stdout)["benchmarks"]}
+    cpu = {b["name"]: b["cpu_time"] / 1000 for b in json.loads(done.stdout)["benchmarks"] if b["run_type"] == "iteration"}
     row("CPU ms, contestants", *(f"{size:,}" for size in sizes), "growth at each step")
     row("---", *("---:" for _ in sizes), "---:")
     for name, benchmark in OPERATIONS.items():

@@ -15,7 +15,7 @@ import time
 ROOT = pathlib.Path(__file__).resolve().parents[1]
 sys.path.insert(0, str(ROOT / "tools" / "desktop"))
 
-from desktop import IDYES, NATIVE, Desktop, wait_for, windows_path  # noqa: E402
+from desktop import DEADLINE, IDYES, NATIVE, Desktop, DesktopError, wait_for, windows_path  # noqa: E402
 
 PLACINGS = 32822
 CLASSES, GROUPS, NUMBER, LETTER, SCORE, CANCEL = 1016, 1053, 1054, 1027, 1004, 2
@@ -25,22 +25,21 @@ CARDS = 40
 def type_cards(dialog, answer_again):
     """Milliseconds of each card; what it takes to ask for the number once is in them."""
     times, group = [], 0
-    dialog.choose(CLASSES, 0)
-    dialog.choose(GROUPS, group)
-    answer_again()
     while len(times) < CARDS:
-        number = dialog.text(NUMBER)
-        if not number:  # the group is through
-            group += 1
-            dialog.choose(GROUPS, group)
-            answer_again()
-            continue
-        dialog.set_text(LETTER, "ABCDEFGH"[len(times) % 8])
-        start = time.perf_counter()
-        dialog.command(SCORE)
-        while dialog.text(NUMBER) == number:
-            pass
-        times.append(1000 * (time.perf_counter() - start))
+        # Behind a group's last card neither class nor group is chosen.
+        dialog.choose(CLASSES, 0)
+        dialog.choose(GROUPS, group)
+        answer_again()
+        number = wait_for(lambda: dialog.text(NUMBER), f"somebody in group {group}")
+        while number and len(times) < CARDS:
+            dialog.set_text(LETTER, "ABCDEFGH"[len(times) % 8])
+            before, start = number, time.perf_counter()
+            dialog.command(SCORE)
+            while (number := dialog.text(NUMBER)) == before:
+                if time.perf_counter() - start > DEADLINE:
+                    raise DesktopError(f"{number} is still shown after the card")
+            times.append(1000 * (time.perf_counter() - start))
+        group += 1
     return times
 
 

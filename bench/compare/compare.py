@@ -71,7 +71,7 @@ def require_same(reports, other, text):
                 sys.exit(f"place {place + 1}: {name} with {score}, but by {other} {theirs[place]}")
 
 
-def programs(build, contest, folder):
+def programs(build, contest, folder, wanted):
     report = build / "scorvane-report"
     calc = ["soffice", f"-env:UserInstallation={(folder / 'profile').as_uri()}", "--headless",
             "--convert-to", "csv", "contest.fods"]
@@ -83,6 +83,8 @@ def programs(build, contest, folder):
         "SQLite": [SQLITE],
         "LibreOffice Calc": [calc],
     }
+    if wanted:
+        found = {name: commands for name, commands in found.items() if name in wanted}
     for name in list(found):
         program = found[name][0][0]
         if not shutil.which(program):
@@ -97,7 +99,8 @@ def programs(build, contest, folder):
     return found
 
 
-def compare(build, contestants):
+def compare(build, contestants, wanted=None):
+    """Medians of the programs, or of those wanted: CPU and elapsed milliseconds, and MiB."""
     with tempfile.TemporaryDirectory(prefix="scorvane-compare-") as name:
         folder = pathlib.Path(name)
         contest = folder / "contest.scv"
@@ -105,7 +108,7 @@ def compare(build, contestants):
                        check=True)
         # Elsewhere, as a program started from here counts this one's memory as its own at first.
         subprocess.run([sys.executable, "-B", HERE / "layout.py", contest, folder], check=True)
-        candidates = programs(build, contest, folder)
+        candidates = programs(build, contest, folder, wanted)
         times = {name: [] for name in candidates}
         for turn in range(31 if contestants <= 10_000 else 7):
             for name, commands in candidates.items():

@@ -29,20 +29,20 @@ void HandOut::turnPage() {
 
 void HandOut::add(std::string_view block, std::string_view continued) {
   const std::size_t lines = countLines(block);
-  if (!continued.empty() && countLines(title_) + lines > linesOnPage_) {
+  if (!continued.empty() && countLines(title_) + lines > kLinesOnPage) {
     return addOverPages(block, continued);
   }
   const bool isFirst = usedLines_ == countLines(title_);
-  if (!isFirst && usedLines_ + lines > linesOnPage_) turnPage();
+  if (!isFirst && usedLines_ + lines > kLinesOnPage) turnPage();
   text_ += block;
   usedLines_ += lines;
 }
 
 void HandOut::addOverPages(std::string_view block, std::string_view continued) {
   constexpr std::size_t kFewestLines = 8;
-  if (usedLines_ + kFewestLines > linesOnPage_) turnPage();
+  if (usedLines_ + kFewestLines > kLinesOnPage) turnPage();
   while (!block.empty()) {
-    if (usedLines_ == linesOnPage_) {
+    if (usedLines_ == kLinesOnPage) {
       turnPage();
       text_ += continued;
       usedLines_ += countLines(continued);

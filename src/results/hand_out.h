@@ -13,11 +13,14 @@ namespace scorvane {
 /// this one.
 class HandOut {
  public:
-  /// Every printed page repeats the opening's four lines at its head, and takes `linesOnPage` more;
-  /// the default leaves room for head and foot on the 66 lines of a letter page.
-  explicit HandOut(std::string opening, std::size_t linesOnPage = 54,
-                   std::size_t longest = kLongestHandOut)
-      : text_(std::move(opening)), linesOnPage_(linesOnPage), longest_(longest) {}
+  /// What a page takes after the opening. Printers differ in the height of their default font: this
+  /// fits where a page has room for 58 lines, of which the head takes seven and the foot four, and
+  /// after a full page a page break would leave an empty one.
+  static constexpr std::size_t kLinesOnPage = 46;
+
+  /// Every printed page repeats the opening's four lines at its head.
+  explicit HandOut(std::string opening, std::size_t longest = kLongestHandOut)
+      : text_(std::move(opening)), longest_(longest) {}
 
   /// Begins a page with its title lines, which are repeated on the further pages that its blocks
   /// need.
@@ -35,7 +38,6 @@ class HandOut {
 
   std::string text_;
   std::string title_;
-  std::size_t linesOnPage_;
   std::size_t longest_;
   std::size_t usedLines_ = 0;
   bool hasPages_ = false;

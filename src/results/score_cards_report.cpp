@@ -11,7 +11,7 @@ namespace scorvane {
 
 namespace {
 
-constexpr const char* kColumns =
+constexpr const char* kCardColumns =
     " # Class             Offic. Cuts   Placed PLC RSN QUE Where the points went\n";
 
 class ScoreCardsBuilder {
@@ -60,7 +60,7 @@ class ScoreCardsBuilder {
     for (const CardRow& card : cards) {
       std::string block = cardHeading(card, ofTeam);
       const std::string continued =
-          formatText("%4d %.32s, continued\n%s", card.number, card.name->c_str(), kColumns);
+          formatText("%4d %.32s, continued\n%s", card.number, card.name->c_str(), kCardColumns);
       RecordCursor records(card.scores);
       for (std::int32_t k = 0; k < contest_.classes.count(); ++k) {
         appendClass(block, k, records.at(k));
@@ -88,7 +88,7 @@ class ScoreCardsBuilder {
              : card.counts    ? ", counts for the team"
                               : ", does not count";
     }
-    return out.append("\n").append(kColumns);
+    return out.append("\n").append(kCardColumns);
   }
 
   void appendClass(std::string& out, std::int32_t k, const ScoreRecord& record) const {

@@ -12,9 +12,6 @@ namespace scorvane {
 
 namespace {
 
-// How many lines of the report a page takes that has room for 58 in all: the head takes seven and
-// the foot four, and after a full page a page break would leave an empty one.
-constexpr std::size_t kLinesOnPage = 46;
 constexpr std::size_t kCoachBesideTeam = 20;
 
 std::string openingText(const Contest& contest) {
@@ -108,7 +105,7 @@ void appendStatistics(std::string& out, const SummaryTable& table, const Summary
 }  // namespace
 
 std::string totalSummaryReport(const Contest& contest) {
-  HandOut report(openingText(contest), kLinesOnPage, kLongestReport);
+  HandOut report(openingText(contest), kLongestReport);
   const std::optional<SummaryTable> table = SummaryTable::of(contest);
   if (!table) return report.take() += "\nThis contest is too large for this report.\n";
   const SummaryLayout layout(*table);

@@ -57,6 +57,13 @@ TEST_F(Commands, DoWhatTheMenuSays) {
     start();
     run(command.id);
   }
+  // The message of a save that failed is there in full once.
+  const std::string failed = "File Save Error: ";
+  const std::size_t first = window.log.find(failed) + failed.size();
+  const std::string text = window.log.substr(first, window.log.find("\n\n", first) + 2 - first);
+  for (std::size_t next = first; (next = window.log.find(text, next + 1)) != std::string::npos;) {
+    window.log.replace(next, text.size(), "(again)\n");
+  }
   expectApproved(window.log, "app/commands.txt");
 }
 

@@ -4,6 +4,7 @@
 #include "cli/options.h"
 #include "cli/runner.h"
 #include "storage/contest_writer.h"
+#include "tests/cli/answer_log.h"
 #include "tests/storage/memory_files.h"
 #include "tests/support/approved.h"
 #include "tests/support/contest_builder.h"
@@ -36,16 +37,9 @@ struct ContestFiles : MemoryFiles {
   }
 };
 
-/// The answer to a command line, whose words are parted by bars.
 CliResult run(std::string_view line, FileSystem& files) {
-  std::vector<std::string_view> words;
-  for (std::size_t bar = 0; bar != std::string_view::npos && !line.empty();) {
-    bar = line.find('|');
-    words.push_back(line.substr(0, bar));
-    line.remove_prefix(bar == std::string_view::npos ? 0 : bar + 1);
-  }
   CliOptions options;
-  if (const auto refusal = readOptions(words, options))
+  if (const auto refusal = readOptions(wordsOf(line), options))
     return refuseUsage(kReportProgram, *refusal);
   return runCli(options, files);
 }
@@ -61,14 +55,12 @@ TEST(Cli, AnswersAsApproved) {
         "fair.scv|32800|--number|50|--percent|--kind=Reasons|--title=",
         "fair.scv|32800|--number=50%|--kind|QUESTIONS|--classes|2",
         // Things to look at are told by the status of Contest Check alone.
-        "fair.scv|33015", "fair.scv|33015|33015",
+        "fair.scv|33015",
         // A category proposes its name and classes.
         "fair.scv|32800|--category|Swine",
         "fair.scv|32800|--classes|3,2,3|--title|Swine|--number|4",
         "fair.scv|32800|--category|Beef|--classes|2,3",
         "fair.scv|32800|--classes=", "fair.scv|32800",
-        // Options that only stand alone.
-        "--list",
         // What is missing.
         "nowhere.scv|32796", "damaged.scv|32796", "count.scv|32796", "--|--odd.scv|32796",
         "fair.scv|32843|--class|4", "fair.scv|32843|--class|1", "bare.scv|32843|--class|1",
@@ -86,14 +78,16 @@ TEST(Cli, AnswersAsApproved) {
         "fair.scv|--publish|p.html|--show|names", "fair.scv|--spreadsheet|s.ods",
         "fair.scv|32796|--all|out", "fair.scv|--all|out|--team", "fair.scv|--all="}) {
     const CliResult result = run(line, disk);
-    log.append("> ").append(line).append("\n").append(result.output);
-    log.append(result.error.substr(0, result.error.find('\n'))).append("\n");
+    log += answered(line, result);
     EXPECT_EQ(result.error.ends_with("\nscorvane-report --help explains everything.\n"),
               result.status == kWrongUsage)
         << line;
-    log.append("status ").append(std::to_string(result.status)).append("\n\n");
   }
   expectApproved(log, "cli/answers.txt");
+  const std::string check = run("fair.scv|33015", disk).output;
+  const CliResult twice = run("fair.scv|33015|33015", disk);
+  EXPECT_EQ(twice.output, check + check);
+  EXPECT_EQ(twice.status, 0);
   EXPECT_EQ(run("--version", disk).output, "scorvane-report " SCORVANE_VERSION "\n");
   EXPECT_EQ(run("fair.scv|--help", disk).output, usageText());
   EXPECT_NE(usageText().find("\nCustom/Category Report:\n  --title"), std::string::npos);
@@ -103,13 +97,18 @@ TEST(Cli, WritesEveryReportThatAsksNothing) {
   ContestFiles disk;
   const std::size_t before = disk.files.size();
   EXPECT_EQ(run("fair.scv|--all|out", disk).status, 0);
+  std::string list;
   std::size_t reports = 0;
   for (const Command& command : commandTable()) {
-    if (command.report() == nullptr || command.report()->ask != nullptr) continue;
+    if (command.report() == nullptr) continue;
+    list.append(std::to_string(command.id)).append("\t");
+    list.append(command.caption.substr(0, command.caption.find(" ..."))).append("\n");
+    if (command.report()->ask != nullptr) continue;
     ++reports;
     const std::string& text = disk.files["out/" + std::string(command.caption) + ".txt"].content;
     EXPECT_NE(text.find("\r\n"), std::string::npos) << command.caption;
   }
+  EXPECT_EQ(run("--list", disk).output, list);
   EXPECT_TRUE(disk.files.contains("out/Category 2 - Swine - Teams.txt"));
   EXPECT_EQ(disk.files.size(), before + reports + 4);
   disk.stayBroken = true;

@@ -5,6 +5,7 @@
 #include "cli/contest_runner.h"
 #include "storage/contest_writer.h"
 #include "storage/safe_save.h"
+#include "tests/cli/answer_log.h"
 #include "tests/storage/contest_text.h"
 #include "tests/storage/memory_files.h"
 #include "tests/support/approved.h"
@@ -28,14 +29,8 @@ struct ImportFiles : MemoryFiles {
 };
 
 CliResult run(std::string_view line, FileSystem& files) {
-  CommandLine words;
-  for (std::size_t bar = 0; bar != std::string_view::npos && !line.empty();) {
-    bar = line.find('|');
-    words.push_back(line.substr(0, bar));
-    line.remove_prefix(bar == std::string_view::npos ? 0 : bar + 1);
-  }
   ContestOptions options;
-  if (const auto refusal = readContestOptions(words, options)) {
+  if (const auto refusal = readContestOptions(wordsOf(line), options)) {
     return refuseUsage(kContestProgram, *refusal);
   }
   return runContestTool(options, files);
@@ -54,14 +49,12 @@ TEST(Import, AnswersAsApproved) {
     ImportFiles disk;
     const auto before = disk.files;
     const CliResult result = run(line, disk);
-    log.append("> ").append(line).append("\n").append(result.output);
-    log.append(result.error.substr(0, result.error.find('\n'))).append("\n");
+    log += answered(line, result);
     for (const auto& [path, file] : disk.files) {
       const auto old = before.find(path);
       if (old == before.end() || old->second.content != file.content)
         log += "written: " + path + "\n";
     }
-    log.append("status ").append(std::to_string(result.status)).append("\n\n");
   }
   expectApproved(log, "cli/imports.txt");
   ImportFiles disk;

@@ -5,6 +5,7 @@ import shutil
 import subprocess
 import tempfile
 import unittest
+import zipfile
 
 from desktop_case import BUILD, ROOT, Desktop, DesktopTest, wait_for, windows_path
 
@@ -75,8 +76,13 @@ class InstallerTest(DesktopTest):
         self.assertEqual({link.name for link in self.menu.iterdir()},
                          {"Scorvane.lnk", "Scorvane Help.lnk", "Scorvane Samples.lnk"})
         samples = self.documents / "Scorvane Samples"
-        for name in ("county.scv", "state.scv"):
-            self.assertEqual((samples / name).read_bytes(), (ROOT / "samples" / name).read_bytes())
+        shipped = sorted(file.name for file in (ROOT / "samples").iterdir() if file.suffix != ".html")
+        self.assertEqual(sorted(file.name for file in samples.iterdir()), shipped)
+        with zipfile.ZipFile(next(BUILD.glob("Scorvane-*.zip"))) as archive:
+            for name in shipped:
+                content = (ROOT / "samples" / name).read_bytes()
+                self.assertEqual((samples / name).read_bytes(), content)
+                self.assertEqual(archive.read(f"Scorvane/samples/{name}"), content)
         self.assertFalse(self.for_all.exists())
 
         contest = self.documents / "our contest.scv"

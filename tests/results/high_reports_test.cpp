@@ -153,16 +153,6 @@ TEST(HighIndividualReport, OfZeroRowsEndsWithTheLeader) {
   EXPECT_EQ(individualRows(builder.contest, request).size(), 1U);
 }
 
-TEST(HighReports, OfTheCountySampleAreAsApproved) {
-  const Contest contest = contestOfFile("samples/county.scv");
-  const auto request = wholeContestRequest(contest, ScoreKind::overall);
-  expectApproved(highIndividualReport(contest, request) +
-                     highIndividualReport(contest, twenty(ScoreKind::overall, {0, 3, 6}, "Beef")),
-                 "results/county_high_individuals.txt");
-  expectApproved(highTeamReport(contest, request), "results/county_high_team_overall.txt");
-  expectApproved(tieBreakerReport(), "results/tie_breaker_rules.txt");
-}
-
 }  // namespace
 
 }  // namespace scorvane

@@ -8,6 +8,7 @@ wait is for a condition, with a deadline.
 import contextlib
 import os
 import pathlib
+import select
 import subprocess
 import time
 
@@ -15,6 +16,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 BUILD = pathlib.Path(os.environ.get("SCORVANE_WINDOWS_BUILD", ROOT / "build" / "windows"))
 NATIVE = pathlib.Path(os.environ.get("SCORVANE_NATIVE_BUILD", ROOT / "build" / "native"))
 DEADLINE = 30.0
+ANSWER_DEADLINE = 120.0  # of the driver, which is slow on a busy machine
 
 VK = {"Tab": 0x09, "Return": 0x0D, "Escape": 0x1B, "Space": 0x20, "PageUp": 0x21, "PageDown": 0x22,
       "End": 0x23, "Home": 0x24, "Left": 0x25, "Up": 0x26, "Right": 0x27, "Down": 0x28, "F1": 0x70}
@@ -158,6 +160,8 @@ class App:
         """Sends the driver one command; returns the answer's fields."""
         self.driver.stdin.write(("\t".join(escape(str(f)) for f in fields) + "\n").encode("utf-8"))
         self.driver.stdin.flush()
+        if not select.select([self.driver.stdout], [], [], ANSWER_DEADLINE)[0]:
+            raise DesktopError(f"{fields}: no answer within {ANSWER_DEADLINE:.0f} s")
         answer = self.driver.stdout.readline().decode("latin-1").rstrip("\r\n")
         kind, *values = answer.split("\t")
         if kind != "ok":

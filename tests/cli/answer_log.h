@@ -1,0 +1,35 @@
+// Answers to command lines, written down for an approved text.
+#pragma once
+
+#include <sstream>
+#include <string>
+#include <string_view>
+
+#include "cli/program.h"
+
+namespace scorvane {
+
+/// The words of a command line, which are parted by bars.
+inline CommandLine wordsOf(std::string_view line) {
+  CommandLine words;
+  for (std::size_t bar = 0; bar != std::string_view::npos && !line.empty();) {
+    bar = line.find('|');
+    words.push_back(line.substr(0, bar));
+    line.remove_prefix(bar == std::string_view::npos ? 0 : bar + 1);
+  }
+  return words;
+}
+
+/// The line with its status, what is printed without blank lines and rules, and the first line of
+/// what is said of an error.
+inline std::string answered(std::string_view line, const CliResult& result) {
+  std::string log = std::to_string(result.status).append(" > ").append(line).append("\n");
+  std::istringstream printed(result.output);
+  for (std::string text; std::getline(printed, text);) {
+    if (text.find_first_not_of(" -|") != std::string::npos) log += text + "\n";
+  }
+  const std::string error = result.error.substr(0, result.error.find('\n'));
+  return error.empty() ? log : log + error + "\n";
+}
+
+}  // namespace scorvane
