@@ -2,8 +2,10 @@
 // may grow faster than n log n in contestants.
 #include <benchmark/benchmark.h>
 
+#include <chrono>
 #include <map>
 #include <string>
+#include <variant>
 
 #include "app/command_table.h"
 #include "exchange/exports.h"
@@ -81,6 +83,25 @@ void compare(benchmark::State& state) {
   state.SetComplexityN(state.range(0));
 }
 
+// The comparison of two files against the loading of both, in turns as machines are uneven: at most
+// twice as long.
+void compareFiles(benchmark::State& state) {
+  using Clock = std::chrono::steady_clock;
+  const std::string here = writeContest(contestOf(state.range(0)));
+  const std::string there = writeContest(otherCards(contestOf(state.range(0)), 0));
+  std::chrono::duration<double> loading{}, comparing{};
+  for ([[maybe_unused]] auto step : state) {
+    const auto start = Clock::now();
+    const auto ours = readContest(here), theirs = readContest(there);
+    const auto loaded = Clock::now();
+    const auto differences = contestDifferences(std::get<Contest>(ours), std::get<Contest>(theirs));
+    benchmark::DoNotOptimize(differences.scores.data());
+    comparing += Clock::now() - loaded;
+    loading += loaded - start;
+  }
+  state.counters["timesLoadingBoth"] = comparing / loading;
+}
+
 // Everybody's card as a page, and all scores as a workbook.
 void publish(benchmark::State& state, bool asPage) {
   const Contest& contest = contestOf(state.range(0));
@@ -112,6 +133,7 @@ void overSizes(benchmark::internal::Benchmark* bench) {
 BENCHMARK(load)->Apply(overSizes);
 BENCHMARK(save)->Apply(overSizes);
 BENCHMARK(compare)->Apply(overSizes);
+BENCHMARK(compareFiles)->Arg(10000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(merge)->Apply(overSizes);
 BENCHMARK_CAPTURE(publish, page, true)->Apply(overSizes);
 BENCHMARK_CAPTURE(publish, workbook, false)->Apply(overSizes);

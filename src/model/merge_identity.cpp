@@ -210,16 +210,22 @@ class RosterMatcher {
           return names == none ? "" : names;
         },
         false);
+    const auto coachAndNumbers = [this](Side side, const std::string& name) {
+      const Team& team = contests_[side]->teams.at(name);
+      std::string key = team.coach;
+      if (key.empty()) return key;
+      for (const ContestantNumber number : team.members) key += '\n' + std::to_string(number);
+      return key;
+    };
+    // Teams can share their numbers, so that those of the same name come first.
     matchTeamsBy(
         from, to,
-        [this](Side side, const std::string& name) {
-          const Team& team = contests_[side]->teams.at(name);
-          std::string key = team.coach;
-          if (key.empty()) return key;
-          for (const ContestantNumber number : team.members) key += '\n' + std::to_string(number);
-          return key;
+        [&](Side side, const std::string& name) {
+          const std::string key = coachAndNumbers(side, name);
+          return key.empty() ? key : key + '\n' + name;
         },
         false);
+    matchTeamsBy(from, to, coachAndNumbers, false);
   }
 
   // Of the same key, which is not empty.
@@ -291,13 +297,17 @@ class RosterMatcher {
     const auto isOnePlace = [&](const Member& a, const Member& b) {
       return teams_[from][a.position].size() == 1 && teams_[to][b.position].size() == 1;
     };
+    // Two people of a new team are not one merely renamed.
+    const auto isPlausible = [&](const Member& a, const Member& b) {
+      return !isNew || a.name.empty() || b.name.empty();
+    };
     matchBy([&](const Member& a, const Member& b) {
-      const bool isPlausible = !isNew || a.name.empty() || b.name.empty();
-      return a.number == b.number && isPlausible && (a.name == b.name || isOnePlace(a, b));
+      return a.number == b.number && isPlausible(a, b) && (a.name == b.name || isOnePlace(a, b));
     });
     if (moved > 0) {
-      matchBy(
-          [&](const Member& a, const Member& b) { return a.slot == b.slot && isOnePlace(a, b); });
+      matchBy([&](const Member& a, const Member& b) {
+        return a.slot == b.slot && isPlausible(a, b) && isOnePlace(a, b);
+      });
     }
     if (isNew) {
       matchBy([](const Member& a, const Member& b) { return a.name.empty() != b.name.empty(); });

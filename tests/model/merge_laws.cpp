@@ -190,8 +190,9 @@ std::int32_t valueOf(const ScoreRecord& record, ScoreValue value) {
                                         : record.questionsScore;
 }
 
-// Looks for each score that a side entered, by its number or the one it was given, by whichever
-// side, and its class.
+// Looks for each score that a side entered, by its class and by its number or the one it was given,
+// by whichever side. Where that number is gone and the name is not unique, nothing but the slot of
+// the team tells who it was.
 bool hasEveryScoreOf(const Contest& base, const Contest& side, const Merge& merge,
                      ScoreRecord Sides<ScoreRecord>::*own) {
   std::vector<std::optional<std::int32_t>> before(static_cast<std::size_t>(side.classes.count()));
@@ -214,6 +215,15 @@ bool hasEveryScoreOf(const Contest& base, const Contest& side, const Merge& merg
     }
     for (const auto& [other, name] : merge.contest.contestantNames) {
       if (!name.empty() && name == contestantName(side, number)) numbers.push_back(other);
+    }
+    if (!merge.contest.contestantNames.contains(number)) {
+      for (const auto& [name, team] : side.teams) {
+        const auto found = merge.contest.teams.find(name);
+        for (std::size_t slot = 0; slot < team.members.size(); ++slot) {
+          if (found == merge.contest.teams.end() || team.members[slot] != number) continue;
+          if (slot < found->second.members.size()) numbers.push_back(found->second.members[slot]);
+        }
+      }
     }
     for (const auto& [k, record] : records) {
       const auto index = static_cast<std::size_t>(k);
