@@ -86,34 +86,28 @@ void requireOwnScores(const Contest& left) {
   }
 }
 
-/// Lines lost or doubled, sectors zeroed, the end cut off; one single byte may be wrong besides.
+/// Up to three lines or sectors lost or the end cut off, or lines doubled, or one byte wrong: not
+/// all at once, as two kinds of damage can make up for each other.
 void damage(std::string& bytes, Choices& choices) {
-  const auto length = [&] {
-    return static_cast<std::uint32_t>(std::max<std::size_t>(bytes.size(), 1));
-  };
-  for (std::uint32_t left = choices.next(4); left > 0 && !bytes.empty(); --left) {
-    const std::size_t at = choices.next(length());
-    const std::size_t start = bytes.rfind('\n', at) + 1;
-    const std::size_t end = std::min(bytes.find('\n', at), bytes.size() - 1) + 1;
-    switch (choices.next(4)) {
-      case 0:
-        if (end > start) bytes.erase(start, end - start);
-        break;
-      case 1:
-        if (end > start) bytes.insert(end, bytes.substr(start, end - start));
-        break;
-      case 2: {
-        const std::size_t count = std::min<std::size_t>(1 + choices.next(600), bytes.size() - at);
-        bytes.replace(at, count, count, '\0');
-        break;
-      }
-      default:
-        bytes.resize(at);
-        break;
+  enum { lost, doubled, wrong, kinds };
+  const std::uint32_t kind = choices.next(kinds);
+  for (std::uint32_t left = kind == wrong ? 1 : choices.next(4); left > 0 && !bytes.empty();
+       --left) {
+    const std::size_t at = choices.next(static_cast<std::uint32_t>(bytes.size()));
+    const std::size_t start = at == 0 ? 0 : bytes.rfind('\n', at - 1) + 1;
+    const std::size_t length = std::min(bytes.find('\n', at), bytes.size() - 1) + 1 - start;
+    if (kind == doubled) {
+      bytes.insert(start, bytes.substr(start, length));
+    } else if (kind == wrong) {
+      bytes[at] = static_cast<char>(choices.next(256));
+    } else if (const std::uint32_t count = choices.next(600); count == 0) {
+      bytes.erase(start, length);
+    } else if (count == 1) {
+      bytes.resize(at);
+    } else {
+      const std::size_t end = std::min<std::size_t>(at + count, bytes.size());
+      bytes.replace(at, end - at, end - at, '\0');
     }
-  }
-  if (choices.next(2) == 1 && !bytes.empty()) {
-    bytes[choices.next(length())] = static_cast<char>(choices.next(256));
   }
 }
 
