@@ -310,6 +310,15 @@ bool isKnownByName(const Contest& base, const Contest& side, const Contest& merg
          isKnown(base.categories, side.categories, merged.categories);
 }
 
+// People of one name are told apart by their numbers, and those of removed ones are given anew.
+bool hasNamesakes(const Contest& contest) {
+  std::set<std::string> seen;
+  return std::any_of(contest.contestantNames.begin(), contest.contestantNames.end(),
+                     [&](const auto& entry) {
+                       return !entry.second.empty() && !seen.insert(entry.second).second;
+                     });
+}
+
 // A number in two teams, as where it was removed from one and given anew, is known as either's.
 bool sharesNumbers(const Contest& contest) {
   std::set<ContestantNumber> seen;
@@ -353,6 +362,7 @@ std::string brokenMergeLaw(const Contest& base, const Contest& ours, const Conte
   }
   // An older ancestor than what was read last knows less of new numbers and of what stayed.
   const bool isAllKnown = merge.numbers.empty() && merge.lostRemovals.empty() &&
+                          !hasNamesakes(base) && !hasNamesakes(ours) && !hasNamesakes(theirs) &&
                           isKnownByName(base, ours, merge.contest) &&
                           isKnownByName(base, theirs, merge.contest);
   if (isAllKnown && mergeContests(base, merge.contest, theirs).contest != merge.contest) {
