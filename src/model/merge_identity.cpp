@@ -186,12 +186,19 @@ class RosterMatcher {
     return !team[to] && (from == kBase || !team[kBase]);
   }
 
-  // Of one name with a member in common, then with a member of one number and name, then with the
-  // same people, then of one coach and the same numbers, then of one name.
+  // Of one name with a member in common, then with the same numbers; then with a member of one
+  // number and name, then with the same people, then of one coach and the same numbers, then of one
+  // name.
   void matchTeams(Side from, Side to) {
     const auto byName = [](Side, const std::string& name) { return name; };
     matchTeamsBy(from, to, byName, true);
-    if (from == kBase) matchRenamedTeams(from, to);
+    if (from == kBase) {
+      const auto byNumbers = [this](Side side, const std::string& name) {
+        return name + numbersOf(side, name);
+      };
+      matchTeamsBy(from, to, byNumbers, false);
+      matchRenamedTeams(from, to);
+    }
     matchTeamsBy(from, to, byName, false);
   }
 
@@ -210,22 +217,21 @@ class RosterMatcher {
           return names == none ? "" : names;
         },
         false);
-    const auto coachAndNumbers = [this](Side side, const std::string& name) {
-      const Team& team = contests_[side]->teams.at(name);
-      std::string key = team.coach;
-      if (key.empty()) return key;
-      for (const ContestantNumber number : team.members) key += '\n' + std::to_string(number);
-      return key;
-    };
-    // Teams can share their numbers, so that those of the same name come first.
     matchTeamsBy(
         from, to,
-        [&](Side side, const std::string& name) {
-          const std::string key = coachAndNumbers(side, name);
-          return key.empty() ? key : key + '\n' + name;
+        [this](Side side, const std::string& name) {
+          const std::string& coach = contests_[side]->teams.at(name).coach;
+          return coach.empty() ? coach : coach + numbersOf(side, name);
         },
         false);
-    matchTeamsBy(from, to, coachAndNumbers, false);
+  }
+
+  std::string numbersOf(Side side, const std::string& team) const {
+    std::string text;
+    for (const ContestantNumber number : contests_[side]->teams.at(team).members) {
+      text += '\n' + std::to_string(number);
+    }
+    return text;
   }
 
   // Of the same key, which is not empty.
@@ -306,7 +312,7 @@ class RosterMatcher {
     });
     if (moved > 0) {
       matchBy([&](const Member& a, const Member& b) {
-        return a.slot == b.slot && isPlausible(a, b) && isOnePlace(a, b);
+        return a.slot == b.slot && (a.name.empty() || b.name.empty()) && isOnePlace(a, b);
       });
     }
     if (isNew) {
