@@ -135,9 +135,19 @@ TEST(Awards, HaveThePlacesScoresAndTiesOfTheHighReports) {
     const auto requests = awardRequests(contest);
     ASSERT_TRUE(requests);
     std::string expected;
-    for (const ReportRequest& request : *requests) {
-      expectWords(contest, request, individualRows(contest, request), expected);
+    for (ReportRequest request : *requests) {
+      const auto listed = individualRows(contest, request);
+      expectWords(contest, request, listed, expected);
       expectWords(contest, request, teamRows(contest, request), expected);
+      // A short list is the beginning of the whole one.
+      request.numToReport = std::numeric_limits<std::int32_t>::max();
+      request.percent = false;
+      const auto all = individualRows(contest, request);
+      for (std::size_t i = 0; i < listed.size(); ++i) {
+        EXPECT_EQ(listed[i].number, all[i].number);
+        EXPECT_EQ(listed[i].ties.count, all[i].ties.count);
+        EXPECT_EQ(tieInWords(request, listed[i]), tieInWords(request, all[i]));
+      }
     }
     EXPECT_EQ(placesAndScores(announcersList(contest)), expected);
 
