@@ -305,6 +305,7 @@ TEST(Roster, TellsWhatIsWrong) {
       "School,Team Member 1,Team Member 2,Parent's Name,Coach (School)\nElm,Ann,Bob,X,Pat\n",
       // Teams and people that are called like headings.
       "Clay County,Judge Lee,Pat Coach\nOak County,Judge,Sam\n", "Elm,Judge,Pat\n",
+      "Team 1,Judge 1,Pat Coach\nTeam 1,Judge 2,\nTeam 2,Judge 3,Sam\n",
       "Clay County,Judge\nClay County,Ann Lee\n", "Elm,Ann,Pat\nSchool,Judge,\nAsh,Alt,\n",
       "Teams\nSponsoring Chapter,Judge,Fee\nElm,Ann,5\n",
       "Fair,Judges\nWhich club?,Contestant Attending,Teacher in charge\nElm,Ann,Pat\n",
