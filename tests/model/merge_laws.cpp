@@ -274,7 +274,7 @@ bool keepsTeamsOf(const Contest& base, const Contest& side, const Merge& merge) 
            const auto& members = team.second.members;
            return std::all_of(members.begin(), members.end(), [&](ContestantNumber number) {
              const std::string& name = contestantName(side, number);
-             return name.empty() || base.contestantNames.contains(number) ||
+             return name.empty() || base.contestantNames.contains(number) || isInTeam(base, name) ||
                     isInTeam(merge.contest, name);
            });
          });
