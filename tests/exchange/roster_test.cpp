@@ -337,6 +337,36 @@ TEST(Roster, MeetsTheTeamOfTheVeryNameFirst) {
             "alternates\n");
 }
 
+TEST(Roster, KeepsToWhatTheContestHas) {
+  ContestBuilder builder;
+  builder.members(2, 2, 2).addClass({});
+  builder.team("Clearwater Junction 1", "Pat", {"Ann", ""}).team("Fir", "", {"", ""});
+  Contest& contest = builder.contest;
+  contest.teams["Fir"].members[1] = 102;  // a free slot of both
+  const std::string rows =
+      "Team,Name,Coach\nClearwater Junction 1,Bob,Sam\nClearwater Junction 1,,Sam\n"
+      "Fir,Cy,\nFir,Dee,\nClearwater Junction 10,,\nAs\xC5\x82,Eve,\xC5\x81\n";
+  EXPECT_EQ(
+      explained(planRoster(rows, contest), contest),
+      "Problem in line 5: The team \"Fir\" has no place left for \"Dee\".  Take somebody out, "
+      "or raise the members of a team in Setup Contest.\n"
+      "Clearwater Junction 1 (already there), coach Pat:  102B Bob\n"
+      "Fir (already there):  103C Cy\n"
+      "Clearwater Junction 10:  no members\n"
+      "Asl, coach L:  107B Eve\n"
+      "Remark on line 2: The team \"Clearwater Junction 1\" has the coach \"Pat\" already; "
+      "\"Sam\" is left out.\n"
+      "Remark on line 6: The teams \"Clearwater Junction 1\" and \"Clearwater Junction 10\" "
+      "read the same in the award lists, which show 21 characters.\n"
+      "Remark on line 6: The team \"Clearwater Junction 10\" has no members.\n"
+      "Remark on line 7: A character of \"Asl\" that contests cannot hold became \"l\".\n"
+      "Remark on line 7: A character of \"L\" that contests cannot hold became \"L\".\n"
+      "4 teams, 3 contestants, 0 alternates; 1 problem\n");
+  contest.contestantNames[2'147'483'645] = "Last";
+  EXPECT_NE(explained(planRoster("Ash,Eve\n", contest), contest).find("no contestant numbers left"),
+            std::string::npos);
+}
+
 TEST(Roster, ImportingIsTyping) {
   int imports = 0;
   for (std::uint32_t seed = 1; seed <= 150; ++seed) {
