@@ -42,10 +42,7 @@ TEST(Import, AnswersAsApproved) {
        {"import|sheet.csv|fair.scv", "import|sheet.csv|fair.scv|--skip-problems",
         "import|sheet.csv|fair.scv|--skip-problems|--dry-run", "import|there.csv|fair.scv",
         "import|there.csv|fair.scv|--into|out.scv", "import|sheet.csv|new.scv|--skip-problems",
-        "import|bad.csv|new.scv|--skip-problems", "import|empty.csv|fair.scv",
-        "import|none.csv|fair.scv", "import|sheet.csv|damaged.scv", "", "imort", "import",
-        "import|a", "import|a|b|c", "import|a|b|--drry-run", "import|a|b|--into",
-        "import|a|b|--dry-run=no", "--dry-run|import|a|b"}) {
+        "import|bad.csv|new.scv|--skip-problems", "import|empty.csv|fair.scv"}) {
     ImportFiles disk;
     const auto before = disk.files;
     const CliResult result = run(line, disk);
@@ -60,6 +57,38 @@ TEST(Import, AnswersAsApproved) {
   ImportFiles disk;
   EXPECT_EQ(run("--version", disk).output, "scorvane-contest " SCORVANE_VERSION "\n");
   EXPECT_NE(run("import|--help", disk).output.find("--skip-problems"), std::string::npos);
+}
+
+TEST(Import, SaysWhatIsMissingOrWrongAndWritesNothing) {
+  using Refusals = std::vector<std::pair<const char*, const char*>>;
+  const auto expectRefused = [](int status, const Refusals& refusals) {
+    for (const auto& [line, error] : refusals) {
+      ImportFiles disk;
+      const std::string contest = disk.files["fair.scv"].content;
+      const std::size_t files = disk.files.size();
+      const CliResult result = run(line, disk);
+      EXPECT_EQ(result.error.substr(0, result.error.find('\n')),
+                "scorvane-contest: " + std::string(error));
+      EXPECT_EQ(result.status, status) << line;
+      EXPECT_EQ(disk.files["fair.scv"].content, contest) << line;
+      EXPECT_EQ(disk.files.size(), files) << line;
+    }
+  };
+  expectRefused(kFailed,
+                {{"import|none.csv|fair.scv", "cannot read 'none.csv'"},
+                 {"import|sheet.csv|damaged.scv",
+                  "cannot read 'damaged.scv': it is not a contest file, or is damaged (line 2)"}});
+  expectRefused(
+      kWrongUsage,
+      {{"", "no command is named"},
+       {"imort", "there is no command 'imort'; did you mean import?"},
+       {"import", "ROSTER is required"},
+       {"import|a", "CONTEST is required"},
+       {"import|a|b|c", "'c' is too much"},
+       {"import|a|b|--drry-run", "there is no option '--drry-run'; did you mean --dry-run?"},
+       {"import|a|b|--into", "--into: 1 required OUT missing"},
+       {"import|a|b|--dry-run=no", "dry-run was given a disallowed flag override"},
+       {"--dry-run|import|a|b", "there is no option '--dry-run'; did you mean --dry-run?"}});
 }
 
 // A disk that breaks at any step leaves the old contest or the new one, and a status that tells.
