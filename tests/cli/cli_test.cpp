@@ -116,6 +116,24 @@ TEST(Cli, WritesEveryReportThatAsksNothing) {
   EXPECT_EQ(run("fair.scv|--all|out", disk).status, kFailed);
 }
 
+// Teams of numbers that nobody has make the lists long at little cost.
+TEST(Cli, SaysThatCategoriesAreTooMany) {
+  constexpr int kCategories = 240;
+  ContestBuilder builder;
+  for (int k = 0; k < kCategories; ++k) builder.addClass({.category = k});
+  builder.contest.categories.assign(kCategories, "B");
+  builder.contest.settings.totalNumPerTeam = 235;
+  for (int t = 0; t < 310; ++t) builder.contest.teams[std::to_string(t)].members.assign(235, 2);
+  MemoryFiles disk;
+  disk.room = 8U << 20U;
+  disk.files["many.scv"].content = writeContest(builder.contest);
+  const CliResult result = run("many.scv|--all|out", disk);
+  EXPECT_EQ(
+      result.error,
+      "scorvane-report: no category reports are written: the contest has too many categories\n");
+  EXPECT_EQ(result.status, kFailed);
+}
+
 // A contest may have any name, also one that a table would have.
 TEST(Cli, WritesPageAndSpreadsheetButNeverOverTheContest) {
   ContestFiles disk;
