@@ -170,7 +170,7 @@ TEST(ResultsPage, NamesNobodyBeforeTheFirstCard) {
 TEST(ResultsPage, ShowsClassesAndCardsAsEntered) {
   ContestBuilder builder;
   builder.contest.settings.contestName.clear();
-  builder.members(1, 2, 1).addClass({.name = "Steers", .reasons = true});
+  builder.members(1, 2, 1).addClass({.name = "Steers", .reasons = true, .cuts = {2, 3, 1}});
   builder.addClass({.name = "Hogs", .questions = true, .official = 'B', .cuts = {0, 13, 0}});
   builder.team("Elm", "", {"Ann", "Bob"}).team("Oak", "", {"Dee", ""}).contestant("Cy");
   builder.placings(101, "BX").placings(102, "AZ").placings(103, "AB").placings(105, "A ");
@@ -186,16 +186,16 @@ TEST(ResultsPage, ShowsClassesAndCardsAsEntered) {
     shown = std::regex_replace(shown, std::regex(markup), sign);
   }
   EXPECT_EQ(shown,
-            "|Classes|1 Steers|Official 1234 (A), cuts 2 3 4|4 cards, average 49.0, 3 perfect|"
+            "|Classes|1 Steers|Official 1234 (A), cuts 2 3 1|4 cards, average 49.8, 3 perfect|"
             "3 scored 50, 1 scored 45 to 49|0|5|10|15|20|25|30|35|40|45|1|50|3|"
             "2 Hogs|Official 1243 (B), cuts 0 13 0|3 cards, average 16.0, 1 perfect|"
             "1 scored 50, 2 scored -2 to 4|0|2|5|10|15|20|25|30|35|40|45|50|1|"
             "Teams|Overall: all teams|Place|Team|Members|Score|;1|Oak;|Dee 100|"
-            "Ann 88, alternate|;100|;2|Elm;|Ann 88|Bob 50, alternate|;88|"
+            "Ann 91, alternate|;100|;2|Elm;|Ann 91|Bob 50, alternate|;91|"
             "Score cards|Find by number, name or team|"
-            "101 Ann| Elm|Overall 88, place 2 of 5, counts for the team|Class|Placing|Score|"
-            "Reasons|Questions|Total|1 Steers;1243 (B);46;44;;|2 Hogs;4321 (X);-2;;;|"
-            "All classes;;44;44;0;88|"
+            "101 Ann| Elm|Overall 91, place 2 of 5, counts for the team|Class|Placing|Score|"
+            "Reasons|Questions|Total|1 Steers;1243 (B);49;44;;|2 Hogs;4321 (X);-2;;;|"
+            "All classes;;47;44;0;91|"
             "102 Bob| Elm|Overall 50, place 3 of 5, alternate|Class|Placing|Score|Reasons|"
             "Questions|Total|1 Steers;1234 (A);50;;;|2 Hogs;Z;0;;;|All classes;;50;0;0;50|"
             "103 Dee| Oak|Overall 100, place 1 of 5, counts for the team|Class|Placing|Score|"

@@ -193,10 +193,12 @@ TEST(Awards, HaveThePlacesScoresAndTiesOfTheHighReports) {
   }
 }
 
-TEST(HandOuts, SayWhatIsMissing) {
+TEST(HandOuts, SayWhatIsMissingAndNothingTwice) {
   ContestBuilder builder;
   builder.addClass({.official = kNoLetter}).contestant("Ann").placings(101, "A");
   EXPECT_NE(scoreCardsReport(builder.contest).find(" no official placing\n"), std::string::npos);
+  // A category of all classes has the overall awards.
+  EXPECT_EQ(announcersList(builder.categories({"Beef"}).contest).find("Beef"), std::string::npos);
   EXPECT_NE(announcersList({}).find("Nobody has a score."), std::string::npos);
 }
 
