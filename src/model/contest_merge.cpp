@@ -118,7 +118,7 @@ class ContestMerge {
           return std::any_of(
               members.begin() + static_cast<std::ptrdiff_t>(std::min(slots, members.size())),
               members.end(), [&](ContestantNumber number) {
-                return isAdded(side, number) && !contestantName(in(side), number).empty();
+                return isAdded(side, number) && isSomebody(side, number);
               });
         });
     if (!isTooSmall) return;
@@ -132,6 +132,12 @@ class ContestMerge {
   [[nodiscard]] bool isAdded(Side side, ContestantNumber number) const {
     const std::size_t* person = state_.roster.personOf[side].find(number);
     return person != nullptr && !state_.roster.people[*person][kBase];
+  }
+
+  // Named or scored.
+  [[nodiscard]] bool isSomebody(Side side, ContestantNumber number) const {
+    const std::size_t* person = state_.roster.personOf[side].find(number);
+    return person != nullptr && state_.isChanged(side, *person);
   }
 
   // The element of a class's category; nothing for none.

@@ -5,8 +5,6 @@
 #include <string_view>
 #include <utility>
 
-#include "model/contest_differences.h"
-
 namespace scorvane {
 
 namespace {
@@ -95,6 +93,7 @@ class RosterMatcher {
   // What is `from`'s own (the ancestor's, or what ours has and the ancestor lacks) can be the same
   // as what is still unmatched on the other side.
   void match(Side from, Side to) {
+    if (from == kBase) matchUnchanged(to);
     matchTeams(from, to);
     for (const auto& [name, id] : same_.teamOf[to]) {
       const auto& other = same_.teams[id][from];
@@ -107,12 +106,23 @@ class RosterMatcher {
       if (!isFree(to, here) || !isFree(from, there, to)) continue;
       const bool isSameName = name == contestantName(*contests_[from], number);
       const bool isAlone = teams_[to][here].empty(), wasAlone = teams_[from][there].empty();
-      const bool isKnown = isAlone || (isSameName && (wasAlone || !name.empty()));
+      const bool isKnown = isAlone || (isSameName && wasAlone);
       if (from == kBase ? isKnown : isSameName && isAlone && wasAlone) {
         link(from, there, to, here, number);
       }
     }
     if (from != kBase) matchStrays(from, to);
+  }
+
+  // Whoever has the name and number of the ancestor, also when a team has somebody else of the
+  // name.
+  void matchUnchanged(Side to) {
+    std::size_t position = 0;
+    for (const auto& [number, name] : contests_[to]->contestantNames) {
+      const std::size_t here = position++;
+      if (name.empty() || name != contestantName(*contests_[kBase], number)) continue;
+      link(kBase, contests_[kBase]->contestantNames.positionOf(number), to, here, number);
+    }
   }
 
   // Whoever has another name and another number than in the ancestor can still be known by what the
@@ -186,12 +196,19 @@ class RosterMatcher {
     return !team[to] && (from == kBase || !team[kBase]);
   }
 
-  // Of one name with a member in common, then with a member of one number and name, then with the
-  // same people, then of one coach and the same numbers, then of one name.
+  // Of one name with a member in common, then with the same numbers; then with a member of one
+  // number and name, then with the same people, then of one coach and the same numbers, then of one
+  // name.
   void matchTeams(Side from, Side to) {
     const auto byName = [](Side, const std::string& name) { return name; };
     matchTeamsBy(from, to, byName, true);
-    if (from == kBase) matchRenamedTeams(from, to);
+    if (from == kBase) {
+      const auto byNumbers = [this](Side side, const std::string& name) {
+        return name + numbersOf(side, name);
+      };
+      matchTeamsBy(from, to, byNumbers, false);
+      matchRenamedTeams(from, to);
+    }
     matchTeamsBy(from, to, byName, false);
   }
 
@@ -210,22 +227,21 @@ class RosterMatcher {
           return names == none ? "" : names;
         },
         false);
-    const auto coachAndNumbers = [this](Side side, const std::string& name) {
-      const Team& team = contests_[side]->teams.at(name);
-      std::string key = team.coach;
-      if (key.empty()) return key;
-      for (const ContestantNumber number : team.members) key += '\n' + std::to_string(number);
-      return key;
-    };
-    // Teams can share their numbers, so that those of the same name come first.
     matchTeamsBy(
         from, to,
-        [&](Side side, const std::string& name) {
-          const std::string key = coachAndNumbers(side, name);
-          return key.empty() ? key : key + '\n' + name;
+        [this](Side side, const std::string& name) {
+          const std::string& coach = contests_[side]->teams.at(name).coach;
+          return coach.empty() ? coach : coach + numbersOf(side, name);
         },
         false);
-    matchTeamsBy(from, to, coachAndNumbers, false);
+  }
+
+  std::string numbersOf(Side side, const std::string& team) const {
+    std::string text;
+    for (const ContestantNumber number : contests_[side]->teams.at(team).members) {
+      text += '\n' + std::to_string(number);
+    }
+    return text;
   }
 
   // Of the same key, which is not empty.
@@ -306,7 +322,7 @@ class RosterMatcher {
     });
     if (moved > 0) {
       matchBy([&](const Member& a, const Member& b) {
-        return a.slot == b.slot && isPlausible(a, b) && isOnePlace(a, b);
+        return a.slot == b.slot && (a.name.empty() || b.name.empty()) && isOnePlace(a, b);
       });
     }
     if (isNew) {
@@ -321,68 +337,7 @@ class RosterMatcher {
   std::array<std::vector<std::vector<const std::string*>>, 3> teams_;  // likewise
 };
 
-// Whether what only its position makes the ancestor's has the name of something else on the other
-// side, which the ancestor lacks.
-bool isRatherAdded(const std::array<const std::vector<std::string>*, 3>& lists,
-                   const std::array<std::vector<ClassMatch>, 3>& matches, Side side,
-                   std::int32_t base, std::int32_t index) {
-  const Side other = side == kOurs ? kTheirs : kOurs;
-  const std::string& name = (*lists[side])[static_cast<std::size_t>(index)];
-  if (name == (*lists[kBase])[static_cast<std::size_t>(base)]) return false;
-  return std::any_of(matches[other].begin(), matches[other].end(), [&](const ClassMatch& match) {
-    return match.there && match.here != base &&
-           (*lists[other])[static_cast<std::size_t>(*match.there)] == name &&
-           (!match.here || (*lists[kBase])[static_cast<std::size_t>(*match.here)] != name);
-  });
-}
-
 }  // namespace
-
-std::vector<Three<std::int32_t>> sameNames(
-    const std::array<const std::vector<std::string>*, 3>& lists) {
-  std::vector<Three<std::int32_t>> same;
-  for (std::size_t k = 0; k < lists[kBase]->size(); ++k) {
-    same.emplace_back()[kBase] = static_cast<std::int32_t>(k);
-  }
-  std::array<std::vector<ClassMatch>, 3> matches;
-  for (const Side side : {kOurs, kTheirs}) {
-    matches[side] = matchNames(*lists[kBase], *lists[side], true);
-  }
-  std::array<std::vector<std::int32_t>, 3> added;
-  std::array<std::vector<std::string>, 3> addedNames;
-  for (const Side side : {kOurs, kTheirs}) {
-    for (const auto& [base, index] : matches[side]) {
-      if (base && (!index || !isRatherAdded(lists, matches, side, *base, *index))) {
-        same[static_cast<std::size_t>(*base)][side] = index;
-      } else if (index) {
-        added[side].push_back(*index);
-        addedNames[side].push_back((*lists[side])[static_cast<std::size_t>(*index)]);
-      }
-    }
-  }
-  for (const auto& [ours, theirs] : matchNames(addedNames[kOurs], addedNames[kTheirs], false)) {
-    Three<std::int32_t>& element = same.emplace_back();
-    if (ours) element[kOurs] = added[kOurs][static_cast<std::size_t>(*ours)];
-    if (theirs) element[kTheirs] = added[kTheirs][static_cast<std::size_t>(*theirs)];
-  }
-  return same;
-}
-
-MergedList::MergedList(const std::array<const std::vector<std::string>*, 3>& lists)
-    : elements(sameNames(lists)), stays(elements.size(), true), indexOf(elements.size()) {
-  for (const Side side : kSides) {
-    elementOf[side].resize(lists[side]->size());
-    for (std::size_t id = 0; id < elements.size(); ++id) {
-      const auto index = elements[id][side];
-      if (index) elementOf[side][static_cast<std::size_t>(*index)] = id;
-    }
-  }
-}
-
-void MergedList::arrange(std::vector<std::size_t> elementsInOrder) {
-  order = std::move(elementsInOrder);
-  for (std::size_t k = 0; k < order.size(); ++k) indexOf[order[k]] = static_cast<std::int32_t>(k);
-}
 
 SameRoster sameRoster(const ThreeContests& contests) {
   return RosterMatcher(contests).run();

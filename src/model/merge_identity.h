@@ -52,8 +52,8 @@ struct SameRoster {
 };
 
 /// A team is the same by its name, also when only its members were given other numbers; one that
-/// was renamed, by a member of the same number and name. Within a team people are the same by name,
-/// then by number; elsewhere by number and name, and those without a team by number alone.
+/// was renamed, by a member of the same number and name. People are the same by number and name,
+/// then within a team by name, then by number; those without a team by number alone.
 ///
 /// Two teams of one name that the ancestor lacks are one team; people who are only on one side fill
 /// the numbers that are merely reserved on the other.

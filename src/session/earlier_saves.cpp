@@ -91,17 +91,20 @@ FolderNote readNote(FileSystem& files, const std::string& folder) {
   return {text.substr(0, end), text.substr(end + 1)};
 }
 
-bool makeFile(FileSystem& files, const std::string& path, std::string_view bytes) {
+// Never writes over a file that is there.
+FileOutcome makeFile(FileSystem& files, const std::string& path, std::string_view bytes) {
   const FileSystem::Opened opened = files.create(path);
-  if (opened.outcome != FileOutcome::done) return false;
-  if (opened.file->write(bytes) && opened.file->flush() && opened.file->close()) return true;
+  if (opened.outcome != FileOutcome::done) return opened.outcome;
+  if (opened.file->write(bytes) && opened.file->flush() && opened.file->close()) {
+    return FileOutcome::done;
+  }
   static_cast<void>(opened.file->close());
   files.remove(path);
-  return false;
+  return FileOutcome::failed;
 }
 
 void makeNote(FileSystem& files, const std::string& folder, const FolderNote& note) {
-  makeFile(files, folder + kNoteName, note.contestPath + "\n" + note.formerKey);
+  static_cast<void>(makeFile(files, folder + kNoteName, note.contestPath + "\n" + note.formerKey));
 }
 
 bool exists(FileSystem& files, const std::string& path) {
@@ -160,9 +163,10 @@ Keeping keepEarlierSave(FileSystem& files, const std::string& contestPath, std::
   if (files.localDataFolder().empty() || bytes.size() > kMostBytes) return Keeping::failed;
   const std::string folder = folderOf(files, contestPath);
   if (!files.makeFolders(folder)) return Keeping::failed;
-  // Another program must not take the same number. It needs a moment for it; a save is not to wait
-  // for one that hangs.
+  // A save is not to wait for another program that hangs. Without the lock both may choose the same
+  // number; who comes second then takes the next one.
   constexpr int kPatience = 200;
+  constexpr int kMostTaken = 100;
   const auto lock = files.lockForSaving(folder + kNoteName, kPatience);
   const KeptFiles kept = keptIn(files, folder, contestPath);
   if (!kept.saves.empty() && kept.saves[0].size == bytes.size() &&
@@ -174,8 +178,12 @@ Keeping keepEarlierSave(FileSystem& files, const std::string& contestPath, std::
   name.time = std::max<std::int64_t>(time.value_or(files.now()) / kTicksPerSecond, 0);
   name.size = bytes.size();
   name.isUnsavedRest = isUnsavedRest;
-  name.sequence = kept.lastSequence + 1;
-  if (!makeFile(files, folder + "/" + name.text(), bytes)) return Keeping::failed;
+  FileOutcome made = FileOutcome::exists;
+  for (int taken = 0; made == FileOutcome::exists && taken < kMostTaken; ++taken) {
+    name.sequence = kept.lastSequence + 1 + taken;
+    made = makeFile(files, folder + "/" + name.text(), bytes);
+  }
+  if (made != FileOutcome::done) return Keeping::failed;
   makeNote(files, folder, {contestPath.empty() ? "" : fullPath(files, contestPath), ""});
   if (isUnsavedRest) thin(files, contestPath);
   return Keeping::kept;
@@ -196,7 +204,7 @@ void tidyEarlierSaves(FileSystem& files, const std::string& contestPath, std::ui
       files.remove(folder + "/" + file.name);
     }
   }
-  makeFile(files, folder + "/" + content, "");
+  static_cast<void>(makeFile(files, folder + "/" + content, ""));
 }
 
 void followRenamedContest(FileSystem& files, const std::string& contestPath, std::uint64_t hash) {

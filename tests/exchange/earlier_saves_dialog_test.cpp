@@ -213,7 +213,7 @@ TEST(ImportRoster, KeepsTheListInStepWithTheField) {
 TEST(EarlierSaves, AreComparedWithTheOpenContestOnScreen) {
   Disk day;
   MemoryMainWindow window;
-  currentContest() = newContest();
+  startNewContest();
   runEarlierSaves(window);
   currentFileName() = "none.scv";
   runEarlierSaves(window);

@@ -6,6 +6,7 @@
 #include <random>
 
 #include "model/bring_in_scores.h"
+#include "model/roster.h"
 #include "storage/contest_writer.h"
 #include "tests/model/merge_laws.h"
 #include "tests/support/contest_builder.h"
@@ -80,6 +81,24 @@ TEST(ContestMerge, GivesClashingTeamsOtherNumbers) {
   EXPECT_EQ(two.contest.teams.at("Elm (2)").members, (std::vector{109, 110, 111, 112}));
   ASSERT_EQ(two.values.size(), 1U);
   EXPECT_EQ(two.values[0].subject, "team Elm (2)");
+}
+
+TEST(ContestMerge, GivesNobodyTheScoresOfARemovedMember) {
+  ContestBuilder base;
+  base.addClass({.name = "Steers"}).team("Ash", "", {"An", "Ben"}).team("Elm", "", {"Cal", "Dan"});
+  ContestBuilder ours = base, theirs = base;
+  removeTeam(ours.contest, "Ash");
+  ours.team("Ash", "", {"An", "Eve"});  // entered again, under new numbers
+  theirs.placings(101, "A").placings(102, "B");
+  const Contest known = savedAndLoaded(base.contest);
+  const Merge merge =
+      mergeContests(known, savedAndLoaded(ours.contest), savedAndLoaded(theirs.contest));
+  for (const auto& [number, name] : merge.contest.contestantNames) {
+    const char letter = name == "An" ? 'A' : name == "Ben" ? 'B' : kNoLetter;
+    EXPECT_EQ(scoreRecord(merge.contest, number, 0).letter, letter) << number << " " << name;
+  }
+  ASSERT_EQ(merge.lostRemovals.size(), 1U);
+  EXPECT_EQ(merge.lostRemovals[0].subject, "102 Ben");
 }
 
 TEST(BringInScores, TakesOverWhatIsMissing) {

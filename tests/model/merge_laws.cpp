@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <set>
 #include <variant>
 
 #include "model/contest_merge.h"
@@ -190,9 +191,9 @@ std::int32_t valueOf(const ScoreRecord& record, ScoreValue value) {
                                         : record.questionsScore;
 }
 
-// Looks for each score that a side entered, by its class and by its number or the one it was given,
-// by whichever side. Where that number is gone and the name is not unique, nothing but the slot of
-// the team tells who it was.
+// Looks for each score that a side entered, by its class (any, when two have its name) and by its
+// number or the one it was given, by whichever side. Where that number is gone and the name is not
+// unique, nothing but the slot of the team tells who it was.
 bool hasEveryScoreOf(const Contest& base, const Contest& side, const Merge& merge,
                      ScoreRecord Sides<ScoreRecord>::*own) {
   std::vector<std::optional<std::int32_t>> before(static_cast<std::size_t>(side.classes.count()));
@@ -203,8 +204,11 @@ bool hasEveryScoreOf(const Contest& base, const Contest& side, const Merge& merg
   for (const ClassMatch& match : matchClasses(side.classes, merge.contest.classes)) {
     if (!match.here) continue;
     auto& places = after[static_cast<std::size_t>(*match.here)];
-    if (match.there) places = {*match.there};
-    for (std::int32_t k = 0; !match.there && k < merge.contest.classes.count(); ++k) {
+    const auto& names = side.classes.className;
+    const bool isClear =
+        match.there && std::count(names.begin(), names.end(), side.classes.name(*match.here)) == 1;
+    if (isClear) places = {*match.there};
+    for (std::int32_t k = 0; !isClear && k < merge.contest.classes.count(); ++k) {
       places.push_back(k);
     }
   }
@@ -270,7 +274,7 @@ bool keepsTeamsOf(const Contest& base, const Contest& side, const Merge& merge) 
            const auto& members = team.second.members;
            return std::all_of(members.begin(), members.end(), [&](ContestantNumber number) {
              const std::string& name = contestantName(side, number);
-             return name.empty() || base.contestantNames.contains(number) ||
+             return name.empty() || base.contestantNames.contains(number) || isInTeam(base, name) ||
                     isInTeam(merge.contest, name);
            });
          });
@@ -306,6 +310,25 @@ bool isKnownByName(const Contest& base, const Contest& side, const Contest& merg
          isKnown(base.categories, side.categories, merged.categories);
 }
 
+// People of one name are told apart by their numbers, and those of removed ones are given anew.
+bool hasNamesakes(const Contest& contest) {
+  std::set<std::string> seen;
+  return std::any_of(contest.contestantNames.begin(), contest.contestantNames.end(),
+                     [&](const auto& entry) {
+                       return !entry.second.empty() && !seen.insert(entry.second).second;
+                     });
+}
+
+// A number in two teams, as where it was removed from one and given anew, is known as either's.
+bool sharesNumbers(const Contest& contest) {
+  std::set<ContestantNumber> seen;
+  return std::any_of(contest.teams.begin(), contest.teams.end(), [&](const auto& team) {
+    const auto& members = team.second.members;
+    return std::any_of(members.begin(), members.end(),
+                       [&](ContestantNumber number) { return !seen.insert(number).second; });
+  });
+}
+
 }  // namespace
 
 void editAtRandom(Contest& contest, const Choose& choose) {
@@ -333,10 +356,13 @@ std::string brokenMergeLaw(const Contest& base, const Contest& ours, const Conte
   // Other numbers that one side gave are news for the other one only.
   const bool isRenumbered = merge.numbers.empty() != back.numbers.empty();
   if (!isRenumbered && isClear(merge) != isClear(back)) return "both sides find the same to differ";
-  if (isClear(merge) && isClear(back) && merge.contest != back.contest)
+  const bool isShared = sharesNumbers(ours) || sharesNumbers(theirs);
+  if (!isShared && isClear(merge) && isClear(back) && merge.contest != back.contest) {
     return "both sides merge alike";
+  }
   // An older ancestor than what was read last knows less of new numbers and of what stayed.
   const bool isAllKnown = merge.numbers.empty() && merge.lostRemovals.empty() &&
+                          !hasNamesakes(base) && !hasNamesakes(ours) && !hasNamesakes(theirs) &&
                           isKnownByName(base, ours, merge.contest) &&
                           isKnownByName(base, theirs, merge.contest);
   if (isAllKnown && mergeContests(base, merge.contest, theirs).contest != merge.contest) {

@@ -135,9 +135,19 @@ TEST(Awards, HaveThePlacesScoresAndTiesOfTheHighReports) {
     const auto requests = awardRequests(contest);
     ASSERT_TRUE(requests);
     std::string expected;
-    for (const ReportRequest& request : *requests) {
-      expectWords(contest, request, individualRows(contest, request), expected);
+    for (ReportRequest request : *requests) {
+      const auto listed = individualRows(contest, request);
+      expectWords(contest, request, listed, expected);
       expectWords(contest, request, teamRows(contest, request), expected);
+      // A short list is the beginning of the whole one.
+      request.numToReport = std::numeric_limits<std::int32_t>::max();
+      request.percent = false;
+      const auto all = individualRows(contest, request);
+      for (std::size_t i = 0; i < listed.size(); ++i) {
+        EXPECT_EQ(listed[i].number, all[i].number);
+        EXPECT_EQ(listed[i].ties.count, all[i].ties.count);
+        EXPECT_EQ(tieInWords(request, listed[i]), tieInWords(request, all[i]));
+      }
     }
     EXPECT_EQ(placesAndScores(announcersList(contest)), expected);
 
@@ -200,17 +210,20 @@ TEST(HandOuts, FillPagesOfPaper) {
   while (contest.classes.count() < 60) contest.classes.add("Steers", false, false, 'A', {}, 0);
   texts.push_back(scoreCardsReport(contest));
   EXPECT_NE(texts.back().find(", continued\n # Class "), std::string::npos);
+  std::vector<int> pages;
   for (const std::string& text : texts) {
     std::istringstream lines(text.substr(text.find("\n\n", 20) + 2));
+    pages.push_back(1);
     int onPage = 0;
     bool isHeading = false;
     for (std::string line; std::getline(lines, line); ++onPage) {
-      if (line == kPageBreakLine) onPage = -1;
+      if (line == kPageBreakLine) onPage = -1, ++pages.back();
       EXPECT_FALSE(isHeading && (line.empty() || line.starts_with("   "))) << line;
       isHeading = line.starts_with(" # Class ");
-      EXPECT_LE(onPage, 46) << line;
+      EXPECT_LE(onPage, 45) << line;
     }
   }
+  EXPECT_EQ(pages, (std::vector<int>{153, 4, 432}));
 }
 
 // Products that only damaged files ask for: of contestants and classes, of categories and

@@ -200,7 +200,7 @@ TEST(AwardsPacket, IsTheReportsOnPagesOfTheirOwn) {
     Random random(7);
     Contest contest = nothingMissing(random);
     contest.classes.reasonsFlag[0] = contest.classes.questionsFlag[1] = speaks;
-    std::string expected;
+    std::string expected = "Awards Packet\n\nEach list begins on a page of its own.\n\n";
     const std::string page = std::string(kPageBreakLine) + "\n";
     for (const auto& report : {highIndividualReport, highTeamReport}) {
       for (const ScoreKind kind : kScoreKinds) {

@@ -195,6 +195,25 @@ TEST_F(KeptSaves, AreFoundUnderAContestsNewName) {
   EXPECT_EQ(kept("again.scv"), "Three;Two;County Fair;");
 }
 
+/// Another program keeps a save of the same name whenever this one is about to.
+struct CrowdedFiles : MemoryFiles {
+  Opened create(const std::string& path) override {
+    if (others-- > 0) files[path] = {"B" + std::to_string(others)};
+    return MemoryFiles::create(path);
+  }
+  int others = 2;
+};
+
+TEST(EarlierSaves, AreNeverWrittenOverAnothers) {
+  CrowdedFiles disk;
+  EXPECT_EQ(keepEarlierSave(disk, kPath, "A9", true, 7), Keeping::kept);
+  std::string contents;
+  for (const EarlierSave& save : earlierSaves(disk, kPath)) {
+    contents += *readEarlierSave(disk, save);
+  }
+  EXPECT_EQ(contents, "A9B0B1");
+}
+
 /// The machine's own files with a folder for application data.
 struct LocalSaves : testing::Test {
   LocalSaves() { ::setenv("XDG_DATA_HOME", folder.path().c_str(), 1); }

@@ -9,10 +9,12 @@ namespace scorvane {
 
 namespace {
 
-TEST(Text, LineFeedsGetReturnsAndControlCharactersBecomeBlanks) {
+TEST(Text, LineFeedsGetReturnsAndCommandsBecomeBlanks) {
   EXPECT_EQ(withWindowsLineEnds("a\n\nb\tc"), "a\r\n\r\nb\tc");
   EXPECT_EQ(withWindowsLineEnds("a\rb\r\n"), "a\rb\r\r\n");
   EXPECT_EQ(withoutControlCharacters("\x1f\ta \r\nb\x7f\x80\xff"), "  a   b\x7f\x80\xff");
+  EXPECT_EQ(withoutCommands("\x1b[2J\a\r\t\r\n\n\x7f\xc2\x9b\xc2\xa0\x9b\xc2"),
+            " [2J  \t\r\n\n   \xc2\xa0\x9b\xc2");
 }
 
 TEST(Text, DigitsOnlyFieldsHoldANumberOrNothing) {

@@ -18,6 +18,7 @@ import sys
 import tempfile
 import time
 
+from damaged import damaged_files
 from session import Session, Skipped, check_order, expect, known_as, traced
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
@@ -45,12 +46,12 @@ class Faults:
         folder.chmod(0o755)
         return folder
 
-    def session(self, **options):
+    def session(self, environment=(), **options):
         # Where everybody may run it, also when the build folder is private.
         program = self.folder / "contest_session"
         if not program.exists():
             shutil.copy(self.build / "contest_session", program)
-        session = Session(program, env=dict(os.environ, TMPDIR=str(self.spares)), **options)
+        session = Session(program, env=dict(os.environ, TMPDIR=str(self.spares), **dict(environment)), **options)
         self.stack.callback(session.close)
         return session
 
@@ -274,35 +275,71 @@ class Faults:
                 "blanks); in file names all work")
 
     def two_copies(self, rounds=300):
-        """Two programs have one contest open and save it, one after the other and at once."""
+        """Two programs have one contest open, type each card once and save, one after the other and at once; now
+        and then one is killed meanwhile, and its card typed again."""
         path = self.new_folder() / "contest.scv"
-        self.contest(path)
+        size = max(40, rounds // 5)
+        self.contest(path, size)
+        deals = [[(str(number), str(k)) for number in range(101 + own, 101 + size, 2) for k in range(12)]
+                 for own in range(2)]
+        for deal in deals:
+            random.shuffle(deal)
+        cards, kills = {}, 0
         pair = [self.session(), self.session()]
         for session in pair:
             expect(session("open", path) == "ok", "opening")
-        cards = {}
+
+        def letters():
+            fields = (line.split("\t") for line in path.read_bytes().decode("latin-1").split("\r\n"))
+            return {tuple(f[:2]): f[2] for f in fields if len(f) == 6 and f[0].isdigit()}
+
+        def type_card(session, card):
+            expect(session("type", f"{card[0]} {card[1]} {cards[card]}".encode()) == "ok", "typing")
+
+        before = letters()
         for turn in range(rounds):
-            for index, session in enumerate(pair):
-                number, judged = str(101 + 2 * random.randrange(20) + index), str(random.randrange(12))
-                cards[number, judged] = random.choice("ABCDEFGHIJKLMNOPQRSTUVWX")
-                expect(session("type", f"{number} {judged} {cards[number, judged]}".encode()) == "ok", "typing")
+            typed = [deal.pop() for deal in deals]
+            for card, session in zip(typed, pair):
+                cards[card] = random.choice([letter for letter in "ABCDEFGHIJKLMNOPQRSTUVWX" if letter != before[card]])
+                type_card(session, card)
                 if turn % 3 == 0:
                     expect(session("save") == "ok", "saving one after the other")
             for session in random.sample(pair, 2):
                 session.start("save")
-            expect([session.answer() for session in pair] == ["ok", "ok"], "saving at once")
-            fields = (line.split("\t") for line in path.read_bytes().decode("latin-1").split("\r\n"))
-            found = {tuple(f[:2]): f[2] for f in fields if len(f) == 6 and f[0].isdigit()}
-            lost = [card for card, letter in cards.items() if found[card] != letter]
-            expect(not lost, f"lost in round {turn + 1}: {lost}")
+            if turn % 25 == 24:
+                own, kills = random.randrange(2), kills + 1
+                time.sleep(random.uniform(0, 0.1))
+                pair[own].process.kill()
+                expect(pair[1 - own].answer() == "ok", "saving while the other one is killed")
+                pair[own] = self.session()
+                expect(pair[own]("open", path) == "ok", "opening again")
+                type_card(pair[own], typed[own])
+                expect(pair[own]("save") == "ok", "saving again")
+            else:
+                expect([session.answer() for session in pair] == ["ok", "ok"], "saving at once")
+            if turn % 10 == 9 or turn + 1 == rounds:
+                found = letters()
+                lost = [card for card, letter in cards.items() if found[card] != letter]
+                expect(not lost, f"lost by round {turn + 1}: {lost}")
         for session in pair:
             expect(session("look") == "ok" and session("reread") == "ok", "both have the same contest")
-        expect([file.name for file in path.parent.iterdir()] == [path.name], "a file was left beside it")
-        return f"saved one after the other and {rounds} times at once, each saved what both had typed: {len(cards)} cards"
+        left = [file.name for file in path.parent.iterdir() if file != path]
+        expect(len(left) <= kills and all(name.endswith(".tmp") for name in left), f"left beside it: {left}")
+        return (f"saved one after the other and {rounds} times at once, {kills} times with one killed: "
+                f"{len(cards)} cards, none lost, and both have the same contest")
+
+
+    def damaged_files(self, count=5000):
+        """Damaged contests, sheets, recovery copies and earlier saves, so many of each."""
+        seed = random.randrange(1 << 30)
+        try:
+            return damaged_files(self, count, random.Random(seed))
+        except AssertionError as fault:
+            raise AssertionError(f"seed {seed}, {fault}") from fault
 
 
 FAULTS = ["disk_full", "call_order", "protected_folder", "read_only_file", "read_only_medium", "kills", "drive_gone",
-          "longest_path", "every_byte", "two_copies", "reports"]
+          "longest_path", "every_byte", "two_copies", "reports", "damaged_files"]
 
 
 def main():
