@@ -50,9 +50,20 @@ Contest countyFair() {
   return builder.contest;
 }
 
+// Of pages that are alike the first is enough.
+std::string shortened(std::string report) {
+  for (const char* title : {"Swine: teams", "Reasons: teams", "Questions: teams", "Overall: teams",
+                            "Team:  Boone", "Team:  Clay"}) {
+    const std::size_t page = report.find(title);
+    if (page == std::string::npos) continue;
+    report.erase(page, std::min(report.find(kPageBreakLine, page), report.size()) - page);
+  }
+  return report;
+}
+
 TEST(Awards, AreAsApproved) {
   std::string reports;
-  for (const auto& report : kReports) reports += report(countyFair()) + "\n=====\n\n";
+  for (const auto& report : kReports) reports += shortened(report(countyFair())) + "\n=====\n\n";
   expectApproved(reports, "results/awards.txt");
 }
 
