@@ -219,7 +219,8 @@ struct Dialect {
     if (encoding == 1) return utf8;
     if (encoding == 2) return "\xEF\xBB\xBF" + utf8;
     std::string utf16 = encoding == 3 ? "\xFF\xFE" : "\xFE\xFF";
-    for (const char16_t unit : utf16Of(utf8).value()) {
+    const auto units = utf16Of(utf8);
+    for (const char16_t unit : *units) {
       const char bytes[] = {static_cast<char>(unit >> 8U), static_cast<char>(unit & 0xFFU)};
       utf16 += encoding == 3 ? std::string{bytes[1], bytes[0]} : std::string{bytes[0], bytes[1]};
     }
