@@ -256,6 +256,9 @@ class RosterMerge {
     const std::string theirCoach = state_.teamOn(kTheirs, id).coach;
     team.coach = mergedValue(&before, std::string(team.coach), theirCoach,
                              [&] { listTeam(name, "coach", team.coach, theirCoach); });
+    // Numbers that nobody has any more leave room for the other side's people.
+    const auto isPerson = [](const Slot& slot) { return slot.isPerson; };
+    if (!isKnown && std::none_of(slots.begin(), slots.end(), isPerson)) slots.clear();
     for (std::size_t slot = 0; slot < state_.teamOn(kTheirs, id).members.size(); ++slot) {
       const Slot theirs = slotOn(kTheirs, id, slot);
       if (slot >= slots.size()) {
