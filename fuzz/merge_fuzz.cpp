@@ -3,34 +3,9 @@
 #include <cstdint>
 
 #include "fuzz/checks.h"
+#include "fuzz/choices.h"
 #include "model/new_contest.h"
 #include "tests/model/merge_laws.h"
-
-namespace scorvane {
-
-namespace {
-
-/// Takes choices out of the fuzzer's bytes, two at a time; the first ones when there are no more.
-class Choices {
- public:
-  Choices(const std::uint8_t* data, std::size_t size) : data_(data), size_(size) {}
-
-  std::uint32_t next(std::uint32_t below) {
-    if (size_ < 2) return 0;
-    const std::uint32_t value = data_[0] * 256U + data_[1];
-    data_ += 2;
-    size_ -= 2;
-    return value % below;
-  }
-
- private:
-  const std::uint8_t* data_;
-  std::size_t size_;
-};
-
-}  // namespace
-
-}  // namespace scorvane
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace scorvane;

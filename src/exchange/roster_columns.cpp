@@ -167,6 +167,19 @@ bool isSeenBelow(const Sheet& sheet, std::size_t row, std::size_t column) {
   return false;
 }
 
+bool isNumberedTeam(const Sheet& sheet, std::size_t row, std::size_t column) {
+  if (row >= sheet.rows().size()) return false;
+  const Heading heading = readHeading(sheet.cell(sheet.rows()[row], column));
+  return heading.kind == ColumnKind::team && heading.number > 0;
+}
+
+// "Team 1" above or below "Team 2" is a team.
+bool isAmongNumberedTeams(const Sheet& sheet, std::size_t row, const RosterColumns& columns) {
+  if (!columns.team || !isNumberedTeam(sheet, row, *columns.team)) return false;
+  return isNumberedTeam(sheet, row + 1, *columns.team) ||
+         (row > 0 && isNumberedTeam(sheet, row - 1, *columns.team));
+}
+
 }  // namespace
 
 RosterColumns findColumns(const Sheet& sheet) {
@@ -177,9 +190,11 @@ RosterColumns findColumns(const Sheet& sheet) {
     RosterColumns columns = headings.columns();
     columns.firstRow = i + 1;
     columns.areDoubtful = isBelowRows;
-    if (headings.clearKinds() > 1) return columns;
+    const bool isTeam = isAmongNumberedTeams(sheet, i, columns);
+    if (headings.clearKinds() > 1 && !isTeam) return columns;
     columns.areDoubtful = isBelowRows || !headings.isAllClear();
-    const bool canBeRow = headings.clearKinds() == 0 || (isBelowRows && columns.kinds < 3) ||
+    const bool canBeRow = isTeam || headings.clearKinds() == 0 ||
+                          (isBelowRows && columns.kinds < 3) ||
                           (columns.kinds == 1 && !columns.team && !headings.isAllClear());
     const bool isRow = std::any_of(headings.unclear().begin(), headings.unclear().end(),
                                    [&](std::size_t k) { return isSeenBelow(sheet, i, k); });

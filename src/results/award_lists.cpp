@@ -50,20 +50,24 @@ bool takesTooLong(const Contest& contest, std::size_t lists) {
   return lists > 4 && lists > kMostVisits / visitsPerList(contest);
 }
 
-// A blank letter and a score of 0 were not entered.
-bool hasEntered(const Contest& contest, const ReportRequest& request, ContestantNumber number) {
-  const ClassScores* scores = contest.scores.find(number);
-  if (scores == nullptr) return false;
+/// Who has anything entered that the request counts, in order: a blank letter and a score of 0 were
+/// not entered.
+std::vector<ContestantNumber> entrants(const Contest& contest, const ReportRequest& request) {
   const auto counts = [&](ScoreKind kind) {
     return request.kind == ScoreKind::overall || request.kind == kind;
   };
-  return std::any_of(scores->begin(), scores->end(), [&](const auto& entry) {
+  const auto isEntered = [&](const auto& entry) {
     const auto& [judged, record] = entry;
     return std::binary_search(request.classes.begin(), request.classes.end(), judged) &&
            ((counts(ScoreKind::placings) && record.letter != kNoLetter) ||
             (counts(ScoreKind::reasons) && record.reasonsScore != 0) ||
             (counts(ScoreKind::questions) && record.questionsScore != 0));
-  });
+  };
+  std::vector<ContestantNumber> numbers;
+  for (const auto& [number, scores] : contest.scores) {
+    if (std::any_of(scores.begin(), scores.end(), isEntered)) numbers.push_back(number);
+  }
+  return numbers;
 }
 
 // By an ordering and its values that break ties. The values of the questions ranking are those of
@@ -143,12 +147,15 @@ std::string listName(const ReportRequest& request) {
 AwardRows awardRows(const Contest& contest, const ReportRequest& request) {
   const auto totals = contestantTotals(contest, request.kind, request.classes);
   AwardRows rows = {individualRows(contest, request, totals), teamRows(contest, request, totals)};
-  std::erase_if(rows.individuals, [&](const IndividualRow& row) {
-    return !hasEntered(contest, request, row.number);
-  });
+  const std::vector<ContestantNumber> entered = entrants(contest, request);
+  const auto hasEntered = [&](ContestantNumber number) {
+    return std::binary_search(entered.begin(), entered.end(), number);
+  };
+  std::erase_if(rows.individuals,
+                [&](const IndividualRow& row) { return !hasEntered(row.number); });
   std::erase_if(rows.teams, [&](const TeamRow& row) {
     return std::none_of(row.members.begin(), row.members.end(), [&](const MemberRow& member) {
-      return !member.name->empty() && hasEntered(contest, request, member.number);
+      return !member.name->empty() && hasEntered(member.number);
     });
   });
   return rows;

@@ -14,6 +14,8 @@ namespace scorvane {
 
 namespace {
 
+// Every printed page repeats a report's first four lines at its head: they must fit every list.
+constexpr const char* kOpening = "Awards Packet\n\nEach list begins on a page of its own.\n\n";
 constexpr const char* kTooMany = "This contest has too many categories for this report.\n";
 
 bool isCategory(const ReportRequest& request, const Contest& contest) {
@@ -83,9 +85,9 @@ std::vector<ReportRequest>::iterator sameList(const ReportRequest& list,
 std::string awardsPacket(const Contest& contest) {
   const auto lists = printedLists(contest);
   if (!lists) return kTooMany;
-  std::string packet;
+  std::string packet = kOpening;
   for (const ReportRequest& request : *lists) {
-    if (!packet.empty()) packet.append(kPageBreakLine).append("\n");
+    if (&request != &lists->front()) packet.append(kPageBreakLine).append("\n");
     packet += textOf(contest, request);
     if (closeIfTooLong(packet)) break;
   }

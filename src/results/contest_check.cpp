@@ -72,13 +72,14 @@ class ContestCheck {
  private:
   void begin(std::string heading) { heading_ = std::move(heading); }
 
-  // A heading is only written with its first thing.
-  void add(const std::string& line) {
+  // A heading is only written with its first thing, which can have a second line.
+  void add(const std::string& line, const std::string& second = "") {
     if (!heading_.empty()) out_.append("\n").append(heading_).append("\n");
     heading_.clear();
     ++things_;
     if (out_.size() > kLongestHandOut) return;
     out_.append("  ").append(line, 0, kWidestLine - 2).append("\n");
+    if (!second.empty()) out_.append("  ").append(second).append("\n");
   }
 
   [[nodiscard]] std::string personText(ContestantNumber number) const {
@@ -122,9 +123,13 @@ class ContestCheck {
       const std::int32_t expected = progress_.expectedByGroup()[group];
       if (count == 0) continue;
       const std::string line =
-          what + formatText("group %c  %zu of %d: ", progress_.groups()[group], count, expected);
+          what + formatText("group %c  %zu of %d:", progress_.groups()[group], count, expected);
       const bool isAll = count > 1 && count == static_cast<std::size_t>(expected);
-      add(isAll ? line + "all of them" : listed(line, byGroup[group]));
+      if (isAll || count == 1) {
+        add(line + " " + (isAll ? "all of them" : byGroup[group][0]));
+      } else {
+        add(line, listed("      ", byGroup[group]));
+      }
     }
   }
 

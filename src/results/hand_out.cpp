@@ -40,9 +40,14 @@ void HandOut::turnPage() {
 }
 
 void HandOut::add(std::string_view block, std::string_view continued) {
-  const std::size_t lines = countLines(block);
+  std::size_t lines = countLines(block);
   if (!continued.empty() && countLines(title_) + lines > kLinesOnPage) {
     return addOverPages(block, continued);
+  }
+  // The empty line that parts a block from the next one is not worth a page.
+  if (usedLines_ + lines == kLinesOnPage + 1 && block.ends_with("\n\n")) {
+    block.remove_suffix(1);
+    --lines;
   }
   const bool isFirst = usedLines_ == countLines(title_);
   if (!isFirst && usedLines_ + lines > kLinesOnPage) turnPage();

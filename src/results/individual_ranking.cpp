@@ -1,5 +1,8 @@
 #include "results/individual_ranking.h"
 
+#include <algorithm>
+#include <functional>
+
 namespace scorvane {
 
 namespace {
@@ -67,6 +70,14 @@ std::vector<IndividualRankEntry> rankIndividuals(std::vector<IndividualRankEntry
                                                  TieOrder order) {
   sortByRank(totals, order);
   return totals;
+}
+
+bool rankTop(const std::vector<IndividualRankEntry>& totals, TieOrder order,
+             std::vector<IndividualRankEntry>& top) {
+  return withRank(order, [&](const auto& before) {
+    std::partial_sort_copy(totals.begin(), totals.end(), top.begin(), top.end(), before);
+    return std::adjacent_find(top.begin(), top.end(), std::not_fn(before)) == top.end();
+  });
 }
 
 }  // namespace scorvane

@@ -24,6 +24,10 @@ struct IndividualRankEntry {
 /// leave them out.
 [[nodiscard]] std::vector<IndividualRankEntry> rankIndividuals(
     std::vector<IndividualRankEntry> totals, TieOrder order);
+/// Fills `top` with the first entries of the ranking; false when a true tie among them leaves open
+/// which these are.
+[[nodiscard]] bool rankTop(const std::vector<IndividualRankEntry>& totals, TieOrder order,
+                           std::vector<IndividualRankEntry>& top);
 
 /// Sum modulo 2^32.
 [[nodiscard]] constexpr std::int32_t wrappingSum(std::int32_t a, std::int32_t b) {

@@ -1,5 +1,6 @@
 #include "results/rankings.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "model/class_lists.h"
@@ -28,6 +29,25 @@ std::vector<MemberRow> memberRows(const Contest& contest,
   }
   for (const std::size_t slot : countingSlots(contest, totals, team)) rows[slot].counts = true;
   return rows;
+}
+
+// As much of the ranking as a list of `wanted` rows needs, the row behind its last one included. A
+// short list is found without sorting everybody, but for one with a true tie or a contestant
+// without a name: only the whole ranking says who comes next then.
+std::vector<IndividualRankEntry> rankingFor(const Contest& contest,
+                                            const std::vector<IndividualRankEntry>& totals,
+                                            TieOrder order, std::int64_t wanted) {
+  const auto needed = static_cast<std::size_t>(std::max<std::int64_t>(wanted, 1) + 1);
+  if (needed < totals.size() / 4) {
+    std::vector<IndividualRankEntry> top(needed);
+    if (rankTop(totals, order, top) &&
+        std::none_of(top.begin(), top.end(), [&](const IndividualRankEntry& entry) {
+          return contestantName(contest, entry.contestantNumber).empty();
+        })) {
+      return top;
+    }
+  }
+  return rankIndividuals(totals, order);
 }
 
 // The first contestant with a name from a position of the ranking on; null when there is none.
@@ -66,7 +86,7 @@ std::vector<IndividualRow> individualRows(const Contest& contest, const ReportRe
   const std::size_t named = countNamed(contest);
   const std::int64_t wanted = rowsToList(request, named);
   const TieOrder order = tieOrderFor(contest, request.kind, request.classes);
-  const auto ranking = rankIndividuals(totals, order);
+  const auto ranking = rankingFor(contest, totals, order, wanted);
   const TeamIndex teams(contest);
   std::vector<IndividualRow> rows;
   RankValues previous;

@@ -65,17 +65,21 @@ template <typename Fields>
   return false;
 }
 
-/// Sorts ranking entries, which have their sums in a member `values`.
-template <typename Entry>
-void sortByRank(std::vector<Entry>& entries, TieOrder order) {
-  const auto sortBy = [&](const auto& fields) {
-    std::sort(entries.begin(), entries.end(), [&fields](const Entry& a, const Entry& b) {
+/// Calls `use` with the comparison of ranking entries, which have their sums in a member `values`.
+template <typename Use>
+auto withRank(TieOrder order, const Use& use) {
+  const auto useFields = [&](const auto& fields) {
+    return use([&fields](const auto& a, const auto& b) {
       return ranksBefore(fields, a.values, b.values);
     });
   };
-  if (order == TieOrder::overall) sortBy(kOverallFields);
-  if (order == TieOrder::reasons) sortBy(kReasonsFields);
-  if (order == TieOrder::category) sortBy(kCategoryFields);
+  if (order == TieOrder::reasons) return useFields(kReasonsFields);
+  return order == TieOrder::category ? useFields(kCategoryFields) : useFields(kOverallFields);
+}
+
+template <typename Entry>
+void sortByRank(std::vector<Entry>& entries, TieOrder order) {
+  withRank(order, [&](const auto& before) { std::sort(entries.begin(), entries.end(), before); });
 }
 
 /// The tie-breaking values that a row of a results report shows, in order.

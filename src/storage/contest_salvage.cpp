@@ -129,7 +129,7 @@ std::size_t classesIn(const std::vector<std::string_view>& scores) {
   std::int32_t before = -1;
   for (const std::string_view line : scores) {
     const std::int32_t k = isScore(line) ? classOf(line) : -1;
-    if (k >= 0 && (k == before + 1 || k == 0)) {
+    if (k >= 0 && (k == 0 || k - 1 == before)) {
       count = std::max(count, static_cast<std::size_t>(k) + 1);
     }
     before = k;

@@ -13,6 +13,7 @@
 #include "tests/support/contest_builder.h"
 #include "tests/ui/memory_dialog.h"
 #include "text/decoding.h"
+#include "text/unicode.h"
 #include "tools/contest_maker.h"
 #include "tools/invented_names.h"
 
@@ -218,17 +219,7 @@ struct Dialect {
     if (encoding == 1) return utf8;
     if (encoding == 2) return "\xEF\xBB\xBF" + utf8;
     std::string utf16 = encoding == 3 ? "\xFF\xFE" : "\xFE\xFF";
-    const auto bits = [&](std::size_t at) { return static_cast<unsigned char>(utf8[at]) & 0x3FU; };
-    for (std::size_t i = 0; i < utf8.size(); ++i) {
-      const auto lead = static_cast<unsigned char>(utf8[i]);
-      unsigned unit = lead;
-      if (lead >= 0xE0) {
-        unit = (lead & 0xFU) << 12U | bits(i + 1) << 6U | bits(i + 2);
-        i += 2;
-      } else if (lead >= 0xC0) {
-        unit = (lead & 0x1FU) << 6U | bits(i + 1);
-        i += 1;
-      }
+    for (const char16_t unit : utf16Of(utf8).value()) {
       const char bytes[] = {static_cast<char>(unit >> 8U), static_cast<char>(unit & 0xFFU)};
       utf16 += encoding == 3 ? std::string{bytes[1], bytes[0]} : std::string{bytes[0], bytes[1]};
     }
@@ -291,7 +282,7 @@ TEST(Roster, TellsWhatIsWrong) {
       "a,b,c\nTeam,Name\nElm,Lee, Ann\nElm,Bob,,\n",
       // Open quotes: on one line, over several, and quotes that open no cell.
       "Team,Name\nElm,\"Ann\nElm,Bob\n",
-      "Team,Name\nElm,\"Ann\nElm,\"Bob\" Day\nElm,Cy \"C\" Day\nElm, \"Dee\nFox\" \n",
+      "Team,Name\nElm,\"Ann\nElm,\"Bob\" Day\nElm,Cy \"C\" Day\n\"Ash\" , \"Dee\nFox\" \n",
       // Names that read the same.
       "Team,Name\nClearwater Junction A 1,Ann\nClearwater Junction A 2,Bob\n",
       // What is no heading, and what is one after all.
@@ -305,13 +296,14 @@ TEST(Roster, TellsWhatIsWrong) {
       "School,Team Member 1,Team Member 2,Parent's Name,Coach (School)\nElm,Ann,Bob,X,Pat\n",
       // Teams and people that are called like headings.
       "Clay County,Judge Lee,Pat Coach\nOak County,Judge,Sam\n", "Elm,Judge,Pat\n",
+      "Team 1,Judge 1,Pat Coach\nTeam 1,Judge 2,\nTeam 2,Judge 3,Sam\n",
       "Clay County,Judge\nClay County,Ann Lee\n", "Elm,Ann,Pat\nSchool,Judge,\nAsh,Alt,\n",
       "Teams\nSponsoring Chapter,Judge,Fee\nElm,Ann,5\n",
       "Fair,Judges\nWhich club?,Contestant Attending,Teacher in charge\nElm,Ann,Pat\n",
       // Who is an alternate, and who may be one.
       "Team,Name,Alternate\nElm,Ann,No\nElm,Bob,perhaps\nAsh,,perhaps\nElm,Cy,-\n",
       // Every kind of blank, quotes, letters that have to be changed, and letters coded apart.
-      "Team,Name\nElm,\xE2\x80\x9C"
+      "Team,Name\nElm,\xE2\x80\x9C\xE2\x80\x9A"
       "Al\xE2\x80\x9D\xE2\x80\xAFO\xE2\x80\x99"
       "Day\nElm,Zoe\xCC\x88 "
       "P\xC5\x99\xC3\xADk\xE4\xB8\xAD\n"
@@ -334,6 +326,40 @@ TEST(Roster, MeetsTheTeamOfTheVeryNameFirst) {
             "ELM (already there):  102B Dee  already there: 101A Ann\n"
             "Elm (already there):  104D Cy  already there: 103C Bob\n2 teams, 4 contestants, 0 "
             "alternates\n");
+}
+
+TEST(Roster, KeepsToWhatTheContestHas) {
+  ContestBuilder builder;
+  builder.members(2, 2, 2).addClass({});
+  builder.team("Clearwater Junction 1", "Pat", {"Ann", ""}).team("Fir", "", {"", ""});
+  builder.team("Oak Grove Junction 4-H 1", "", {});
+  Contest& contest = builder.contest;
+  contest.teams["Fir"].members[1] = 102;  // a free slot of both
+  const std::string rows =
+      "Team,Name,Coach\nClearwater Junction 1,Bob,Sam\nClearwater Junction 1,,Sam\n"
+      "Fir,Cy,\nFir,Dee,\nClearwater Junction 10,,\nOak Grove Junction 4-H \xC5\x82,Eve,\xC5\x81\n";
+  EXPECT_EQ(
+      explained(planRoster(rows, contest), contest),
+      "Problem in line 5: The team \"Fir\" has no place left for \"Dee\".  Take somebody out, "
+      "or raise the members of a team in Setup Contest.\n"
+      "Clearwater Junction 1 (already there), coach Pat:  102B Bob\n"
+      "Fir (already there):  103C Cy\n"
+      "Clearwater Junction 10:  no members\n"
+      "Oak Grove Junction 4-H l, coach L:  107B Eve\n"
+      "Remark on line 2: The team \"Clearwater Junction 1\" has the coach \"Pat\" already; "
+      "\"Sam\" is left out.\n"
+      "Remark on line 6: The teams \"Clearwater Junction 1\" and \"Clearwater Junction 10\" "
+      "read the same in the award lists, which show 21 characters.\n"
+      "Remark on line 6: The team \"Clearwater Junction 10\" has no members.\n"
+      "Remark on line 7: A character of \"Oak Grove Junction 4-H l\" that contests cannot hold "
+      "became \"l\".\n"
+      "Remark on line 7: A character of \"L\" that contests cannot hold became \"L\".\n"
+      "Remark on line 7: The teams \"Oak Grove Junction 4-H 1\" and \"Oak Grove Junction 4-H "
+      "l\" read the same in the award lists, which show 21 characters.\n"
+      "4 teams, 3 contestants, 0 alternates; 1 problem\n");
+  contest.contestantNames[2'147'483'645] = "Last";
+  EXPECT_NE(explained(planRoster("Ash,Eve\n", contest), contest).find("no contestant numbers left"),
+            std::string::npos);
 }
 
 TEST(Roster, ImportingIsTyping) {

@@ -183,13 +183,22 @@ TEST(ContestCheck, IsAsApproved) {
   Contest rich = clean;
   for (auto fault = std::rbegin(kFaults); fault != std::rend(kFaults); ++fault) fault->plant(rich);
   rich.settings.numToReport = 8;
+  for (const ContestantNumber number : {107, 112, 113}) rich.scores[number][1].questionsScore = 0;
   Contest corrected = clean;
   corrected.scores[103][0].reasonsScore = 9;
   const std::string report = contestCheckReport(rich);
   EXPECT_TRUE(tellsOfThings(report));
+  std::size_t before = 0;
+  for (const Fault& fault : kFaults) {
+    const std::size_t at = report.find(std::string("\n\n") + fault.heading + "\n");
+    if (at == std::string::npos) continue;  // another fault hides it
+    EXPECT_GE(at, before) << fault.heading;
+    before = at;
+  }
   ContestBuilder empty;
-  expectApproved(report + "=====\n" + contestCheckReport(empty.team("Elm", "", {"Ann"}).contest) +
-                     "=====\n" + changedLists(corrected, clean),
+  expectApproved(report.substr(0, report.find("\nContestants without")) + "=====\n" +
+                     contestCheckReport(empty.team("Elm", "", {"Ann"}).contest) + "=====\n" +
+                     changedLists(corrected, clean),
                  "results/contest_check.txt");
 }
 
@@ -199,7 +208,7 @@ TEST(AwardsPacket, IsTheReportsOnPagesOfTheirOwn) {
     Random random(7);
     Contest contest = nothingMissing(random);
     contest.classes.reasonsFlag[0] = contest.classes.questionsFlag[1] = speaks;
-    std::string expected;
+    std::string expected = "Awards Packet\n\nEach list begins on a page of its own.\n\n";
     const std::string page = std::string(kPageBreakLine) + "\n";
     for (const auto& report : {highIndividualReport, highTeamReport}) {
       for (const ScoreKind kind : kScoreKinds) {

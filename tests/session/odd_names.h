@@ -122,8 +122,8 @@ class OddNames {
     if (disk_.contentOf(pathOf(name)) != expected_[name]) faults_.push_back("not saved: " + name);
   }
   void type(std::int32_t reasons) {
-    const ScoreRecord record{'A', 45, reasons, 0};
-    currentContest().scores[101][0] = record;
+    ScoreRecord& record = currentContest().scores[101][0];
+    record.reasonsScore = reasons;
     scoreStored({{101, 0, record}, {}});
   }
   void tryName(const std::string& name) {

@@ -115,7 +115,9 @@ class Stage {
       if (line.starts_with("  ")) continue;  // what it is held against
       const bool isRemark = line.empty() || line[0] == '#';
       played_ += (isRemark ? line : take(line)) + '\n';
+      const std::size_t end = played_.size();
       if (!isRemark) writeChanges();
+      if (line.starts_with("reopen")) played_.resize(end);
     }
     return played_;
   }
@@ -123,7 +125,7 @@ class Stage {
  private:
   // Takes the steps of a line; returns the line with the controls' names as they are.
   std::string take(const std::string& line) {
-    static const std::regex opening("open (.*) over (.*)");
+    static const std::regex opening("(?:re)?open (.*) over (.*)");
     static const std::regex step(R"((\w+)(?:( [^:]*)? (\d+))?(: (.*))?)");
     std::smatch part;
     if (std::regex_match(line, part, opening)) {
@@ -186,7 +188,8 @@ class Stage {
         {"Enter presses", ' ' + nameOf(dialog_->defaultButton())},
         {"ended with", dialog_->result() ? ' ' + std::to_string(*dialog_->result()) : ""},
         {"saves", std::string(dialog_->desktop.fileQuestions.size(), '*')},
-        {"scroll together", listed(dialog_->linkedLists())}};
+        {"scroll together", listed(dialog_->linkedLists())},
+        {"line of all", rowOfAll() ? listed(*rowOfAll()) : "different ones"}};
     for (const auto& [id, control] : dialog_->controls()) {
       std::string& value = shown[nameOf(id)];
       if (control.text != control.caption) value = ' ' + control.text;
@@ -197,15 +200,25 @@ class Stage {
     return shown;
   }
 
+  // What is selected in the lists that scroll together, where it is the same in all of them.
+  std::optional<std::vector<int>> rowOfAll() const {
+    std::set<std::vector<int>> rows;
+    for (const ControlId id : dialog_->linkedLists()) rows.insert(dialog_->selections(id));
+    if (rows.empty()) return std::vector<int>();
+    return rows.size() == 1 ? std::optional(*rows.begin()) : std::nullopt;
+  }
+
   // Of a list only the lines that went or came, behind "-" and "+", and the selected ones.
   void writeListChanges() {
     for (const auto& [id, control] : dialog_->controls()) {
       std::vector<std::string>& before = lists_[id];
       std::vector<std::string> now;
       std::string selected;
+      const auto& linked = dialog_->linkedLists();
+      const bool isLinked = rowOfAll() && std::count(linked.begin(), linked.end(), id) > 0;
       for (const auto& line : control.lines) {
         now.push_back(line.text);
-        if (line.selected) selected += '|' + line.text;
+        if (line.selected && !isLinked) selected += '|' + line.text;
       }
       const auto first = std::mismatch(before.begin(), before.end(), now.begin(), now.end());
       const auto last = std::mismatch(before.rbegin(), std::reverse_iterator(first.first),

@@ -3,6 +3,7 @@
 //
 //   open Setup Teams over two teams, no scores   a dialog, a contest, and what befell that before
 //   type: Elm                                    keys, wherever the focus is
+//   reopen ...                                   likewise, where what is then shown is known
 //   fill Coach 1018: Oak                         a control by its id; its name is for the reader
 //   paste, press, focus, set, default            likewise; the last two no operator can do
 //   choose Teams 1019: 2                         the second line

@@ -6,9 +6,12 @@
 //   name TEXT     sets the contest's name
 //   type N C L    stores letter L for contestant N in the class of index C
 //   look          takes in what others have saved
+//   keep          keeps unsaved work from now on, as the program does from its start
+//   earlier       how many of the contest's earlier saves can be opened, as "1 of 2"
 //   size N        an invented contest of N contestants, under the file name that is current
 //   bytes         a contest with names of every byte from 1 to 255
 //   reread        whether the current file holds the contest: "ok", or the bytes that ended names
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
 #include <sstream>
@@ -18,9 +21,12 @@
 #include "model/contest.h"
 #include "model/numbering.h"
 #include "session/contest_file.h"
+#include "session/earlier_saves.h"
 #include "session/open_contest.h"
+#include "session/recovery.h"
 #include "session/shared_file.h"
 #include "storage/contest_loader.h"
+#include "storage/contest_reader.h"
 #include "storage/file.h"
 #include "tools/contest_maker.h"
 
@@ -87,6 +93,14 @@ std::string reread() {
   return same ? "ok" : "another contest";
 }
 
+std::string earlier() {
+  const auto saves = earlierSaves(systemFiles(), currentFileName());
+  const auto whole = std::count_if(saves.begin(), saves.end(), [](const EarlierSave& save) {
+    return std::holds_alternative<Contest>(readContest(*readEarlierSave(systemFiles(), save)));
+  });
+  return std::to_string(whole) + " of " + std::to_string(saves.size());
+}
+
 std::string follow(const std::string& command, const std::string& value, Desk& desk) {
   desk.message = "ok";
   desk.path = value;
@@ -103,10 +117,16 @@ std::string follow(const std::string& command, const std::string& value, Desk& d
     int number = 0, classIndex = 0;
     char letter = 0;
     std::istringstream(value) >> number >> classIndex >> letter;
-    currentContest().scores[number][classIndex].letter = letter;
+    ScoreRecord& record = currentContest().scores[number][classIndex];
+    record.letter = letter;
     recomputeAllPlacingScores(currentContest());
+    scoreStored({{number, classIndex, record}, {.letter = true}});
   } else if (command == "look") {
     takeInOthersWork();
+  } else if (command == "keep") {
+    startKeepingWork(systemFiles());
+  } else if (command == "earlier") {
+    return earlier();
   } else if (command == "size") {
     ContestPlan plan;
     plan.contestants = std::atoi(value.c_str());

@@ -18,6 +18,7 @@ import sys
 import tempfile
 import time
 
+from damaged import damaged_files
 from session import Session, Skipped, check_order, expect, known_as, traced
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
@@ -45,12 +46,12 @@ class Faults:
         folder.chmod(0o755)
         return folder
 
-    def session(self, **options):
+    def session(self, environment=(), **options):
         # Where everybody may run it, also when the build folder is private.
         program = self.folder / "contest_session"
         if not program.exists():
             shutil.copy(self.build / "contest_session", program)
-        session = Session(program, env=dict(os.environ, TMPDIR=str(self.spares)), **options)
+        session = Session(program, env=dict(os.environ, TMPDIR=str(self.spares), **dict(environment)), **options)
         self.stack.callback(session.close)
         return session
 
@@ -328,8 +329,17 @@ class Faults:
                 f"{len(cards)} cards, none lost, and both have the same contest")
 
 
+    def damaged_files(self, count=5000):
+        """Damaged contests, sheets, recovery copies and earlier saves, so many of each."""
+        seed = random.randrange(1 << 30)
+        try:
+            return damaged_files(self, count, random.Random(seed))
+        except AssertionError as fault:
+            raise AssertionError(f"seed {seed}, {fault}") from fault
+
+
 FAULTS = ["disk_full", "call_order", "protected_folder", "read_only_file", "read_only_medium", "kills", "drive_gone",
-          "longest_path", "every_byte", "two_copies", "reports"]
+          "longest_path", "every_byte", "two_copies", "reports", "damaged_files"]
 
 
 def main():
