@@ -322,7 +322,7 @@ class RosterMatcher {
     });
     if (moved > 0) {
       matchBy([&](const Member& a, const Member& b) {
-        return a.slot == b.slot && (a.name.empty() || b.name.empty()) && isOnePlace(a, b);
+        return a.slot == b.slot && a.name.empty() && b.name.empty() && isOnePlace(a, b);
       });
     }
     if (isNew) {

@@ -13,13 +13,11 @@ void MergedNumbers::give() {
     return state_.staysPerson[person] && !roster_.people[person][kOurs];
   };
   std::vector<bool> moves(roster_.people.size());
-  const std::set<ContestantNumber> left = numbersLeftInOurTeams();
   bool clashes = false;
   for (Person person = 0; person < roster_.people.size(); ++person) {
     if (!isOnlyTheirs(person)) continue;
     state_.numberOf[person] = *roster_.people[person][kTheirs];
-    moves[person] =
-        used_.contains(state_.numberOf[person]) || left.contains(state_.numberOf[person]);
+    moves[person] = used_.contains(state_.numberOf[person]);
     clashes = clashes || moves[person];
   }
   std::vector<Person> order;
@@ -29,25 +27,6 @@ void MergedNumbers::give() {
   }
   for (const Person person : order) state_.numberOf[person] = nextFree();
   listNumberChanges();
-}
-
-// The numbers of people who were added to a team of ours and removed since: the team still has
-// them.
-std::set<ContestantNumber> MergedNumbers::numbersLeftInOurTeams() const {
-  std::set<ContestantNumber> left;
-  for (std::size_t team = 0; team < roster_.teams.size(); ++team) {
-    if (!roster_.teams[team][kOurs]) continue;
-    std::set<ContestantNumber> numbers;
-    for (const ContestantNumber number : state_.teamOn(kOurs, team).members) {
-      if (!state_.contests[kOurs]->contestantNames.contains(number)) numbers.insert(number);
-    }
-    for (const Side side : {kBase, kTheirs}) {
-      if (numbers.empty() || !roster_.teams[team][side]) continue;
-      for (const ContestantNumber number : state_.teamOn(side, team).members) numbers.erase(number);
-    }
-    left.merge(numbers);
-  }
-  return left;
 }
 
 // Those on our side keep their numbers, or take the ones that they were given on the other side

@@ -23,7 +23,6 @@ class MergedNumbers {
   using IsOnlyTheirs = std::function<bool(Person)>;
 
   bool giveOurNumbers(bool takesChanges);
-  [[nodiscard]] std::set<ContestantNumber> numbersLeftInOurTeams() const;
   std::vector<Person> moveWholeTeams(std::vector<bool>& moves,
                                      const IsOnlyTheirs& isOnlyTheirs) const;
   void listNumberChanges();

@@ -256,6 +256,9 @@ class RosterMerge {
     const std::string theirCoach = state_.teamOn(kTheirs, id).coach;
     team.coach = mergedValue(&before, std::string(team.coach), theirCoach,
                              [&] { listTeam(name, "coach", team.coach, theirCoach); });
+    // Numbers that nobody has any more leave room for the other side's people.
+    const auto isPerson = [](const Slot& slot) { return slot.isPerson; };
+    if (!isKnown && std::none_of(slots.begin(), slots.end(), isPerson)) slots.clear();
     for (std::size_t slot = 0; slot < state_.teamOn(kTheirs, id).members.size(); ++slot) {
       const Slot theirs = slotOn(kTheirs, id, slot);
       if (slot >= slots.size()) {
@@ -331,15 +334,46 @@ class RosterMerge {
     return std::to_string(numberIn(slot));
   }
 
-  // Slots that neither side has, as its teams are smaller, take the next numbers.
+  // Slots that neither side has, as its teams are smaller, take the next numbers; so do those whose
+  // number nobody had on their side and somebody has now in another team.
   void fillSlots() {
-    for (auto& [name, team] : contest_.teams) {
-      for (const Slot& slot : slotsOf_[name]) team.members.push_back(numberIn(slot));
-      while (team.members.size() < teamSlots(contest_.settings)) {
-        team.members.push_back(numbers_.nextFree());
-        contest_.contestantNames[team.members.back()] = "";
+    std::set<ContestantNumber> given;
+    for (const auto& team : slotsOf_) {
+      for (const Slot& slot : team.second) {
+        if (isThere(slot)) given.insert(numberIn(slot));
       }
     }
+    for (auto& [name, team] : contest_.teams) {
+      for (const Slot& slot : slotsOf_[name]) {
+        const ContestantNumber number = numberIn(slot);
+        const bool isTaken = !isThere(slot) && contest_.contestantNames.contains(number) &&
+                             !given.insert(number).second && !isShared(number);
+        team.members.push_back(isTaken ? reserved() : number);
+      }
+      while (team.members.size() < teamSlots(contest_.settings)) team.members.push_back(reserved());
+    }
+  }
+
+  [[nodiscard]] bool isThere(const Slot& slot) const {
+    return slot.isPerson && state_.staysPerson[static_cast<Person>(slot.value)];
+  }
+
+  // Whether a side has the number in more than one team.
+  [[nodiscard]] bool isShared(ContestantNumber number) const {
+    const auto isTwiceIn = [number](const Contest& contest) {
+      const auto has = [number](const auto& team) {
+        const auto& members = team.second.members;
+        return std::find(members.begin(), members.end(), number) != members.end();
+      };
+      return std::count_if(contest.teams.begin(), contest.teams.end(), has) > 1;
+    };
+    return isTwiceIn(in(kOurs)) || isTwiceIn(in(kTheirs));
+  }
+
+  ContestantNumber reserved() {
+    const ContestantNumber number = numbers_.nextFree();
+    contest_.contestantNames[number] = "";
+    return number;
   }
 
   MergeState& state_;

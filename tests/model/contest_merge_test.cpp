@@ -99,6 +99,15 @@ TEST(ContestMerge, GivesNobodyTheScoresOfARemovedMember) {
   }
   ASSERT_EQ(merge.lostRemovals.size(), 1U);
   EXPECT_EQ(merge.lostRemovals[0].subject, "102 Ben");
+
+  // Nor of somebody of the same name whose place in the team was taken.
+  ours = base;
+  replaceTeam(ours.contest, "Elm", "Ash", ours.contest.teams["Elm"]);
+  ours.contest.contestantNames[103] = "An";
+  const Merge other =
+      mergeContests(known, savedAndLoaded(ours.contest), savedAndLoaded(theirs.contest));
+  EXPECT_EQ(scoreRecord(other.contest, 101, 0).letter, 'A');
+  EXPECT_EQ(scoreRecord(other.contest, 103, 0).letter, kNoLetter);
 }
 
 TEST(BringInScores, TakesOverWhatIsMissing) {

@@ -320,12 +320,14 @@ bool hasNamesakes(const Contest& contest) {
 }
 
 // A number in two teams, as where it was removed from one and given anew, is known as either's.
-bool sharesNumbers(const Contest& contest) {
+template <typename Counts>
+bool sharesNumbers(const Contest& contest, const Counts& counts) {
   std::set<ContestantNumber> seen;
   return std::any_of(contest.teams.begin(), contest.teams.end(), [&](const auto& team) {
     const auto& members = team.second.members;
-    return std::any_of(members.begin(), members.end(),
-                       [&](ContestantNumber number) { return !seen.insert(number).second; });
+    return std::any_of(members.begin(), members.end(), [&](ContestantNumber number) {
+      return !seen.insert(number).second && counts(number);
+    });
   });
 }
 
@@ -356,7 +358,12 @@ std::string brokenMergeLaw(const Contest& base, const Contest& ours, const Conte
   // Other numbers that one side gave are news for the other one only.
   const bool isRenumbered = merge.numbers.empty() != back.numbers.empty();
   if (!isRenumbered && isClear(merge) != isClear(back)) return "both sides find the same to differ";
-  const bool isShared = sharesNumbers(ours) || sharesNumbers(theirs);
+  const auto any = [](ContestantNumber /*number*/) { return true; };
+  const bool isShared = sharesNumbers(ours, any) || sharesNumbers(theirs, any);
+  const auto isPerson = [&](ContestantNumber number) {
+    return merge.contest.contestantNames.contains(number);
+  };
+  if (!isShared && sharesNumbers(merge.contest, isPerson)) return "nobody is in two teams";
   if (!isShared && isClear(merge) && isClear(back) && merge.contest != back.contest) {
     return "both sides merge alike";
   }
