@@ -51,19 +51,26 @@ bool takesTooLong(const Contest& contest, std::size_t lists) {
 }
 
 // A blank letter and a score of 0 were not entered.
-bool hasEntered(const Contest& contest, const ReportRequest& request, ContestantNumber number) {
-  const ClassScores* scores = contest.scores.find(number);
-  if (scores == nullptr) return false;
+bool hasEntered(const ReportRequest& request, const ClassScores& scores) {
   const auto counts = [&](ScoreKind kind) {
     return request.kind == ScoreKind::overall || request.kind == kind;
   };
-  return std::any_of(scores->begin(), scores->end(), [&](const auto& entry) {
+  return std::any_of(scores.begin(), scores.end(), [&](const auto& entry) {
     const auto& [judged, record] = entry;
     return std::binary_search(request.classes.begin(), request.classes.end(), judged) &&
            ((counts(ScoreKind::placings) && record.letter != kNoLetter) ||
             (counts(ScoreKind::reasons) && record.reasonsScore != 0) ||
             (counts(ScoreKind::questions) && record.questionsScore != 0));
   });
+}
+
+// In ascending order, found once, as teams of a damaged file may share a member many times.
+std::vector<ContestantNumber> whoEntered(const Contest& contest, const ReportRequest& request) {
+  std::vector<ContestantNumber> numbers;
+  for (const auto& [number, scores] : contest.scores) {
+    if (hasEntered(request, scores)) numbers.push_back(number);
+  }
+  return numbers;
 }
 
 // By an ordering and its values that break ties. The values of the questions ranking are those of
@@ -143,12 +150,14 @@ std::string listName(const ReportRequest& request) {
 AwardRows awardRows(const Contest& contest, const ReportRequest& request) {
   const auto totals = contestantTotals(contest, request.kind, request.classes);
   AwardRows rows = {individualRows(contest, request, totals), teamRows(contest, request, totals)};
-  std::erase_if(rows.individuals, [&](const IndividualRow& row) {
-    return !hasEntered(contest, request, row.number);
-  });
+  const std::vector<ContestantNumber> entered = whoEntered(contest, request);
+  const auto isIn = [&](ContestantNumber number) {
+    return std::binary_search(entered.begin(), entered.end(), number);
+  };
+  std::erase_if(rows.individuals, [&](const IndividualRow& row) { return !isIn(row.number); });
   std::erase_if(rows.teams, [&](const TeamRow& row) {
     return std::none_of(row.members.begin(), row.members.end(), [&](const MemberRow& member) {
-      return !member.name->empty() && hasEntered(contest, request, member.number);
+      return !member.name->empty() && isIn(member.number);
     });
   });
   return rows;
