@@ -50,25 +50,22 @@ bool takesTooLong(const Contest& contest, std::size_t lists) {
   return lists > 4 && lists > kMostVisits / visitsPerList(contest);
 }
 
-// A blank letter and a score of 0 were not entered.
-bool hasEntered(const ReportRequest& request, const ClassScores& scores) {
+/// Who has anything entered that the request counts, in order: a blank letter and a score of 0 were
+/// not entered.
+std::vector<ContestantNumber> entrants(const Contest& contest, const ReportRequest& request) {
   const auto counts = [&](ScoreKind kind) {
     return request.kind == ScoreKind::overall || request.kind == kind;
   };
-  return std::any_of(scores.begin(), scores.end(), [&](const auto& entry) {
+  const auto isEntered = [&](const auto& entry) {
     const auto& [judged, record] = entry;
     return std::binary_search(request.classes.begin(), request.classes.end(), judged) &&
            ((counts(ScoreKind::placings) && record.letter != kNoLetter) ||
             (counts(ScoreKind::reasons) && record.reasonsScore != 0) ||
             (counts(ScoreKind::questions) && record.questionsScore != 0));
-  });
-}
-
-// In ascending order, found once, as teams of a damaged file may share a member many times.
-std::vector<ContestantNumber> whoEntered(const Contest& contest, const ReportRequest& request) {
+  };
   std::vector<ContestantNumber> numbers;
   for (const auto& [number, scores] : contest.scores) {
-    if (hasEntered(request, scores)) numbers.push_back(number);
+    if (std::any_of(scores.begin(), scores.end(), isEntered)) numbers.push_back(number);
   }
   return numbers;
 }
@@ -150,14 +147,15 @@ std::string listName(const ReportRequest& request) {
 AwardRows awardRows(const Contest& contest, const ReportRequest& request) {
   const auto totals = contestantTotals(contest, request.kind, request.classes);
   AwardRows rows = {individualRows(contest, request, totals), teamRows(contest, request, totals)};
-  const std::vector<ContestantNumber> entered = whoEntered(contest, request);
-  const auto isIn = [&](ContestantNumber number) {
+  const std::vector<ContestantNumber> entered = entrants(contest, request);
+  const auto hasEntered = [&](ContestantNumber number) {
     return std::binary_search(entered.begin(), entered.end(), number);
   };
-  std::erase_if(rows.individuals, [&](const IndividualRow& row) { return !isIn(row.number); });
+  std::erase_if(rows.individuals,
+                [&](const IndividualRow& row) { return !hasEntered(row.number); });
   std::erase_if(rows.teams, [&](const TeamRow& row) {
     return std::none_of(row.members.begin(), row.members.end(), [&](const MemberRow& member) {
-      return !member.name->empty() && isIn(member.number);
+      return !member.name->empty() && hasEntered(member.number);
     });
   });
   return rows;

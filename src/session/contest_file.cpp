@@ -57,23 +57,20 @@ KeptSave saveAndKeepOld(const std::string& path, const std::optional<std::string
   return save;
 }
 
+bool isRegularFile(FileSystem& files, const std::string& path) {
+  const auto status = files.status(path);
+  return status && status->exists && status->isRegular;
+}
+
 /// A file that another program is just putting in place may refuse to be read for a moment.
 std::optional<std::string> readPatiently(FileSystem& files, const std::string& path) {
   constexpr int kAttempts = 10;
   constexpr int kLongerEachTime = 25;
   for (int attempt = 1;; ++attempt) {
     auto bytes = files.readWhole(path);
-    if (bytes || attempt > kAttempts) return bytes;
-    const auto status = files.status(path);
-    if (!status || !status->exists || !status->isRegular) return std::nullopt;
+    if (bytes || attempt > kAttempts || !isRegularFile(files, path)) return bytes;
     files.pause(attempt * kLongerEachTime);
   }
-}
-
-/// What cannot be read must not be replaced: it may hold what others saved.
-bool isUnreadableFile(FileSystem& files, const std::string& path) {
-  const auto status = files.status(path);
-  return status && status->exists && status->isRegular;
 }
 
 /// What becomes of that which others have saved to the file.
@@ -89,7 +86,8 @@ Saving save(OthersWork othersWork) {
   std::string bytes;
   for (int attempt = 1;; ++attempt) {
     const std::optional<std::string> old = readPatiently(files, path);
-    if (!old && isUnreadableFile(files, path)) return Saving::failed;
+    // What cannot be read must not be replaced: it may hold what others saved.
+    if (!old && isRegularFile(files, path)) return Saving::failed;
     const bool takesIn = othersWork == OthersWork::takenIn;
     if (takesIn) takeInBeforeSaving(old, lock.isHeld());
     bytes = writeContest(currentContest());

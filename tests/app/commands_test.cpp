@@ -39,7 +39,7 @@ class Commands : public testing::Test {
   void start() {
     currentContest() = reasonsContest(3, 3, 6);
     currentFileName() = "gone/fair.scv";
-    reportText() = "before\n";
+    reportText() = window.onScreen = "before\n";
     window.desktop.answers = {Answer::ok};
     window.operate = operate;
   }

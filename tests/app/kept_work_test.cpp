@@ -40,6 +40,7 @@ struct KeptWork : testing::Test {
 
   void start() {
     window.log.clear();
+    window.onScreen.clear();
     window.desktop = {};
     window.desktop.answers = {Answer::yes};
     stopKeepingWork();

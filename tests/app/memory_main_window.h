@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "app/main_window.h"
 #include "session/open_contest.h"
@@ -16,7 +17,8 @@ namespace scorvane {
 class MemoryMainWindow : public MainWindow {
  public:
   ScriptedDesktop desktop;
-  std::string log;  ///< a line for all that an operator would see, above all the report shown
+  std::string log;  ///< a line for all that an operator would see, above all another report
+  std::string onScreen;
   CopyResult copyResult = CopyResult::copied;
   bool manualOpens = true;
   std::optional<FontFields> font;
@@ -44,6 +46,7 @@ class MemoryMainWindow : public MainWindow {
   void setTitle(std::string_view text) override { note("title", text); }
   void refreshReportView() override {
     const std::string& report = reportText();
+    if (std::exchange(onScreen, report) == report) return;
     const std::size_t start = std::min(report.find_first_not_of("\n\t "), report.size());
     const auto lines = std::count(report.begin(), report.end(), '\n');
     note("shown", report.substr(start, report.find('\n', start) - start) +

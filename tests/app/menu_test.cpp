@@ -42,16 +42,6 @@ TEST(Menu, OffersEveryCommandInTheTablesOrderByAKeyOfItsOwn) {
   EXPECT_EQ(offered, expected);
 }
 
-TEST(Menu, HasTheKeysOfAbout) {
-  const std::string script = sourceFile("src/app/scorvane.rc");
-  const std::regex accelerator(R"re("(.)", \d+, ASCII)re");
-  std::string keys;
-  for (std::sregex_iterator it(script.begin(), script.end(), accelerator), end; it != end; ++it) {
-    keys += it->str() + "\n";
-  }
-  EXPECT_EQ(keys, "\"?\", 104, ASCII\n\"/\", 104, ASCII\n");
-}
-
 // A letter pressed with Alt leads to one control only, D to Done everywhere. With larger dialogs
 // the buttons would be beyond a display of 1280 by 720 dots at 150 per cent.
 TEST(Dialogs, HaveMnemonicsOfTheirOwnAndFitASmallDisplay) {

@@ -20,13 +20,14 @@ inline CommandLine wordsOf(std::string_view line) {
   return words;
 }
 
-/// The line with its status, what is printed without blank lines and rules, and the first line of
-/// what is said of an error.
+/// The line with its status, what is printed without blank lines, rules and the headings of
+/// columns, and the first line of what is said of an error.
 inline std::string answered(std::string_view line, const CliResult& result) {
   std::string log = std::to_string(result.status).append(" > ").append(line).append("\n");
   std::istringstream printed(result.output);
   for (std::string text; std::getline(printed, text);) {
-    if (text.find_first_not_of(" -|") != std::string::npos) log += text + "\n";
+    const bool isRule = text.find_first_not_of(" -|") == std::string::npos;
+    if (!isRule && !text.starts_with("Place  ")) log += text + "\n";
   }
   const std::string error = result.error.substr(0, result.error.find('\n'));
   return error.empty() ? log : log + error + "\n";

@@ -40,25 +40,19 @@ class ShellTest(DesktopTest):
                          dict.fromkeys(("new.txt", "old.txt"), expected.replace("\n", "\r\n").encode("latin-1")))
 
     def test_file_commands_open_save_and_title_contests(self):
-        missing, gone = self.folder / "no such contest.scv", self.folder / "gone"
+        missing = self.folder / "no such contest.scv"
         app = self.start(missing)
         self.assertEqual(app.answer(caption="Information"),
                          f"Invalid file name ({windows_path(missing)}) , or file does not exist.")
         main = app.main()
         self.assertEqual((main.title(), app.report()), ("Scorvane", WELCOME))
-        contest, copy = self.sample(), gone / "copy.scv"
+        contest, copy = self.sample(), self.folder / "copy.scv"
         before = contest.read_bytes()
-        gone.mkdir()
         for command, file in ((OPEN, contest), (SAVE_AS, copy), (OPEN, contest), (OPEN, copy)):
             main.command(command)
             app.choose_file(file)
             self.wait_for_title(main, f"Scorvane - {windows_path(file)} - {COUNTY_FAIR}")
         self.assertEqual(copy.read_bytes(), before)
-
-        copy.unlink()
-        gone.rmdir()
-        main.command(SAVE)
-        self.assertIn("Your file did NOT save!", app.answer(caption="File Save Error"))
         # A cancelled Save As leaves the contest untitled but whole, a cancelled Open a new contest.
         for command, title in ((SAVE_AS, f"Scorvane -  - {COUNTY_FAIR}"), (OPEN, "Scorvane -  - Judging Contest")):
             main.command(command)

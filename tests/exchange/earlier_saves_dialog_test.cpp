@@ -224,13 +224,16 @@ TEST(EarlierSaves, AreComparedWithTheOpenContestOnScreen) {
     dialog.pressEnter();
   };
   runEarlierSaves(window);
-  window.log += reportText();
+  EXPECT_NE(reportText().find("103 Cy                               -     "), std::string::npos);
   window.operate = [](MemoryDialog& dialog) {
     dialog.choose(IDC_SAVE_TIMES, 4);
     dialog.click(IDC_CHANGES_SINCE);
   };
   runEarlierSaves(window);
-  window.log += reportText();
+  EXPECT_NE(reportText().find("official placing             X (4,3,2,1)  "), std::string::npos);
+  EXPECT_NE(reportText().find("\n\nPlaces that changed in the awards lists:\n\nHigh Individual "
+                              "Overall          places 1 to 3\n"),
+            std::string::npos);
   window.operate = [](MemoryDialog& dialog) {
     dialog.desktop.answers = {Answer::ok};
     dialog.click(IDC_GO_BACK);

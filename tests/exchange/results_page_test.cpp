@@ -151,6 +151,7 @@ TEST(ResultsPage, NamesNobodyWithoutAnAwardUnlessAsked) {
     }
   }
   EXPECT_EQ(awards.find("<script"), std::string::npos);
+  EXPECT_EQ(awards.find("<h3>"), awards.find("<h3>Overall: individuals<"));
 }
 
 TEST(ResultsPage, NamesNobodyBeforeTheFirstCard) {
@@ -163,6 +164,50 @@ TEST(ResultsPage, NamesNobodyBeforeTheFirstCard) {
   EXPECT_EQ(page.find("<table"), std::string::npos);
   EXPECT_NE(page.find("<p>No scores are in yet.</p>"), std::string::npos);
   EXPECT_NE(page.find("<p>No official placing, cuts "), std::string::npos);
+}
+
+// The words of the page, its cells behind ";". Ann is an alternate of another team, too.
+TEST(ResultsPage, ShowsClassesAndCardsAsEntered) {
+  ContestBuilder builder;
+  builder.contest.settings.contestName.clear();
+  builder.members(1, 2, 1).addClass({.name = "Steers", .reasons = true, .cuts = {2, 3, 1}});
+  builder.addClass({.name = "Hogs", .questions = true, .official = 'B', .cuts = {0, 13, 0}});
+  builder.team("Elm", "", {"Ann", "Bob"}).team("Oak", "", {"Dee", ""}).contestant("Cy");
+  builder.placings(101, "BX").placings(102, "AZ").placings(103, "AB").placings(105, "A ");
+  builder.contestant("Eve");
+  builder.contest.scores[101][0].reasonsScore = 44;
+  builder.contest.teams["Oak"].members[1] = 101;
+  const std::string page = resultsPage(builder.contest, PageContent::cards);
+  EXPECT_NE(page.find("<h1>Results</h1>"), std::string::npos);
+  std::string shown = page.substr(page.find("<h2>Classes"));
+  shown.resize(shown.find("<script>"));
+  for (const auto& [markup, sign] :
+       {std::pair{"<td[^>]*>", ";"}, {"<[^>]*>|\n", "|"}, {"\\|+", "|"}}) {
+    shown = std::regex_replace(shown, std::regex(markup), sign);
+  }
+  EXPECT_EQ(shown,
+            "|Classes|1 Steers|Official 1234 (A), cuts 2 3 1|4 cards, average 49.8, 3 perfect|"
+            "3 scored 50, 1 scored 45 to 49|0|5|10|15|20|25|30|35|40|45|1|50|3|"
+            "2 Hogs|Official 1243 (B), cuts 0 13 0|3 cards, average 16.0, 1 perfect|"
+            "1 scored 50, 2 scored -2 to 4|0|2|5|10|15|20|25|30|35|40|45|50|1|"
+            "Teams|Overall: all teams|Place|Team|Members|Score|;1|Oak;|Dee 100|"
+            "Ann 91, alternate|;100|;2|Elm;|Ann 91|Bob 50, alternate|;91|"
+            "Score cards|Find by number, name or team|"
+            "101 Ann| Elm|Overall 91, place 2 of 5, counts for the team|Class|Placing|Score|"
+            "Reasons|Questions|Total|1 Steers;1243 (B);49;44;;|2 Hogs;4321 (X);-2;;;|"
+            "All classes;;47;44;0;91|"
+            "102 Bob| Elm|Overall 50, place 3 of 5, alternate|Class|Placing|Score|Reasons|"
+            "Questions|Total|1 Steers;1234 (A);50;;;|2 Hogs;Z;0;;;|All classes;;50;0;0;50|"
+            "103 Dee| Oak|Overall 100, place 1 of 5, counts for the team|Class|Placing|Score|"
+            "Reasons|Questions|Total|1 Steers;1234 (A);50;;;|2 Hogs;1243 (B);50;;;|All classes;;"
+            "100;0;0;100|"
+            "105 Cy| |Overall 50, place 4 of 5|Class|Placing|Score|Reasons|Questions|Total|"
+            "1 Steers;1234 (A);50;;;|2 Hogs;;;;;|All classes;;50;0;0;50|"
+            "106 Eve| |Overall 0|Class|Placing|Score|Reasons|Questions|Total|1 Steers;;;;;|"
+            "2 Hogs;;;;;|All classes;;0;0;0;0|");
+  EXPECT_EQ(matches(page, "<path d=\"([^\"]*)"),
+            (std::vector<std::string>{"M0 70h242v1H0zM200 70v-19h18v19zM222 70v-56h18v56z",
+                                      "M0 70h242v1H0zM2 70v-56h18v56zM222 70v-28h18v28z"}));
 }
 
 TEST(ResultsPage, CannotBeBrokenByNames) {

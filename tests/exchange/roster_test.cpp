@@ -13,6 +13,7 @@
 #include "tests/support/contest_builder.h"
 #include "tests/ui/memory_dialog.h"
 #include "text/decoding.h"
+#include "text/unicode.h"
 #include "tools/contest_maker.h"
 #include "tools/invented_names.h"
 
@@ -218,17 +219,7 @@ struct Dialect {
     if (encoding == 1) return utf8;
     if (encoding == 2) return "\xEF\xBB\xBF" + utf8;
     std::string utf16 = encoding == 3 ? "\xFF\xFE" : "\xFE\xFF";
-    const auto bits = [&](std::size_t at) { return static_cast<unsigned char>(utf8[at]) & 0x3FU; };
-    for (std::size_t i = 0; i < utf8.size(); ++i) {
-      const auto lead = static_cast<unsigned char>(utf8[i]);
-      unsigned unit = lead;
-      if (lead >= 0xE0) {
-        unit = (lead & 0xFU) << 12U | bits(i + 1) << 6U | bits(i + 2);
-        i += 2;
-      } else if (lead >= 0xC0) {
-        unit = (lead & 0x1FU) << 6U | bits(i + 1);
-        i += 1;
-      }
+    for (const char16_t unit : utf16Of(utf8).value()) {
       const char bytes[] = {static_cast<char>(unit >> 8U), static_cast<char>(unit & 0xFFU)};
       utf16 += encoding == 3 ? std::string{bytes[1], bytes[0]} : std::string{bytes[0], bytes[1]};
     }

@@ -42,15 +42,18 @@ TEST(Csv, QuotesAndKeepsFormulasFromRunning) {
 }
 
 TEST(Workbook, HoldsNumbersAsNumbersAndEveryTextOnce) {
-  auto parts = partsOf({sheetOf({"Name", "Score"}, {{Cell::ofText("=1<2"), Cell::ofNumber(-5)},
-                                                    {Cell{}, Cell::ofTenths(465)},
-                                                    {Cell::ofText("=1<2"), Cell::ofText(" a ")}}),
-                        sheetOf({"_x0041_ _x004"}, {})});
+  auto parts = partsOf(
+      {sheetOf({"Name", "Score", "Average"}, {{Cell::ofText("=1<2"), Cell::ofNumber(-5)},
+                                              {Cell{}, Cell::ofNumber(46), Cell::ofTenths(46)},
+                                              {Cell::ofText("=1<2"), Cell::ofText(" a ")}}),
+       sheetOf({"_x0041_ _x004"}, {})});
   const std::string& rows = parts["sheet1.xml"];
-  EXPECT_EQ(rows.substr(rows.find("<sheetData>")),
-            "<sheetData><row><c s=\"1\" t=\"s\"><v>0</v></c><c s=\"1\" t=\"s\"><v>1</v></c></row>"
-            "<row><c t=\"s\"><v>2</v></c><c><v>-5</v></c></row><row><c/><c><v>46.5</v></c></row>"
-            "<row><c t=\"s\"><v>2</v></c><c t=\"s\"><v>3</v></c></row></sheetData></worksheet>");
+  EXPECT_EQ(
+      rows.substr(rows.find("<sheetData>")),
+      "<sheetData><row><c s=\"1\" t=\"s\"><v>0</v></c><c s=\"1\" t=\"s\"><v>1</v></c>"
+      "<c s=\"1\" t=\"s\"><v>2</v></c></row><row><c t=\"s\"><v>3</v></c><c><v>-5</v></c></row>"
+      "<row><c/><c><v>46</v></c><c><v>4.6</v></c></row>"
+      "<row><c t=\"s\"><v>3</v></c><c t=\"s\"><v>4</v></c></row></sheetData></worksheet>");
   EXPECT_NE(rows.find(" ySplit=\"1\" topLeftCell=\"A2\" "), std::string::npos);
   const std::string& texts = parts["sharedStrings.xml"];
   EXPECT_NE(texts.find("<t xml:space=\"preserve\">=1&lt;2</t></si><si><t xml:space=\"preserve\"> a "

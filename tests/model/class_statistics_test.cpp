@@ -2,7 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <map>
+#include <numeric>
+#include <set>
+#include <utility>
+
 #include "tests/support/contest_builder.h"
+#include "tools/contest_maker.h"
 
 namespace scorvane {
 
@@ -37,6 +44,35 @@ TEST(LikelierPlacing, NeedsTenCardsAndMoreThanHalfOfThem) {
     if (!likelier) continue;
     EXPECT_EQ(likelier->letter, letter) << promise;
     EXPECT_EQ(likelier->better, better) << promise;
+  }
+}
+
+TEST(ClassStatistics, CountTheCardsOfWhoeverHasAName) {
+  ContestPlan plan;
+  plan.contestants = 300;
+  plan.missingPercent = 10;
+  Contest contest = makeContest(plan);
+  for (ContestantNumber number = 101; number < 400; number += 7) {
+    contest.contestantNames[number].clear();
+  }
+  for (std::int32_t k = 0; k < contest.classes.count(); ++k) {
+    std::multiset<std::int32_t> scores;
+    std::map<char, std::int32_t> given;
+    for (const auto& [number, name] : contest.contestantNames) {
+      const ScoreRecord& record = scoreRecord(contest, number, k);
+      if (name.empty() || record.letter == kNoLetter) continue;
+      scores.insert(record.placingScore);
+      ++given[record.letter];
+    }
+    const ClassStatistics told = CardsByClass(contest).statistics(k);
+    EXPECT_EQ(std::tie(told.lowest, told.highest), std::tie(*scores.begin(), *scores.rbegin()));
+    EXPECT_EQ(told.placings.sum, std::accumulate(scores.begin(), scores.end(), 0));
+    EXPECT_EQ(told.perfect, static_cast<std::int32_t>(scores.count(kTopScore)));
+    for (const GivenPlacing& placing : told.given) {
+      EXPECT_EQ(std::exchange(given[placing.letter], 0), placing.count) << placing.letter;
+    }
+    EXPECT_TRUE(
+        std::all_of(given.begin(), given.end(), [](auto& left) { return left.second == 0; }));
   }
 }
 

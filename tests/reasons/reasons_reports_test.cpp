@@ -27,7 +27,7 @@ TEST(ReasonsBands, AreAtMostEightWideAndEven) {
 // Ten groups, so two bands of five: the first group has two speakers, group 4 none, group 7 three.
 // 115 has no place, 116 is a reserved slot.
 Contest twoBandContest() {
-  Contest contest = reasonsContest(10, 5, 16);
+  Contest contest = reasonsContest(10, 3, 16);
   std::int32_t group = 0;
   for (const std::vector<ContestantNumber>& speakers :
        std::vector<std::vector<ContestantNumber>>{{104, 101},
@@ -63,7 +63,7 @@ TEST(ReasonsSheet, ShowsPlacingsOrScoresInBandsOfReasonsClassesOnly) {
   EXPECT_FALSE(reasonsSheet(contest, ReasonsSheet::order, 1));
 }
 
-// Five classes in bands of five: in the room form turn i of group c is class (6i + c) mod 5. Then
+// Three classes in bands of five: in the room form turn i of group c is class (6i + c) mod 3. Then
 // a contest without reasons classes, which has a gap in the first row.
 TEST(ReasonsOrderReport, ShowsOrderUnassignedAndClassOrderInBands) {
   const Contest contest = twoBandContest();

@@ -29,10 +29,9 @@ Contest checkedContest() {
       .team("Oak", "Pat Oakley-of-the-Seven-Hills",
             {"Ann", "Bob of the Twenty-Six Letters and More", "Cy"})
       .team("Ash Creek Four-Corners Club", "Q", {"", "Dee", "Eve With a Long Name"})
-      .team("Fir", "", {"Gus", "Hal", "Ivy"})
-      .team("Elm", "Nobody", {});
-  builder.placings(998, "ACBX").placings(999, "BZ").placings(1002, "D A").placings(1005, "EEEE");
-  builder.scores(1004, {{50, 9, 8}, {46, 45, 7}, {30, 40, 39}, {-2, 0, 50}});
+      .team("Elm", "", {});
+  builder.placings(998, "ACBX").placings(999, "BZ").placings(1002, "D A");
+  builder.scores(1000, {{50, 9, 8}, {46, 45, 7}, {30, 40, 39}, {-2, 0, 50}});
   Contest& contest = builder.contest;
   contest.contestantNames[99] = "Low";
   contest.contestantGroup[99] = '@';
@@ -89,7 +88,7 @@ TEST(Reports, OfOddContestsReadAsApproved) {
   };
   add("no classes", fourSlots(0, 2), {verification<0>});
   add("no reasons classes", fourSlots(2, 2), {zeroReasonsReport});
-  add("more groups than classes", fourSlots(2, 4), {roundAssignmentsReport, verification<1>});
+  add("more groups than classes", fourSlots(2, 4), {roundAssignmentsReport});
   Contest regrouped = fourSlots(2, 2);
   regrouped.groupLetters = {'X', 'Y'};
   regrouped.contestantGroup[103] = 'B';

@@ -38,6 +38,8 @@ class Page(html.parser.HTMLParser):
 
     def handle_starttag(self, tag, attributes):
         given = dict(attributes)
+        if len(given) < len(attributes):
+            self.faults.append(f"line {self.getpos()[0]}: an attribute that is given twice")
         if tag not in VOID:
             self.open.append(tag)
         if "id" in given:
