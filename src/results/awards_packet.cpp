@@ -89,7 +89,7 @@ std::string awardsPacket(const Contest& contest) {
   for (const ReportRequest& request : *lists) {
     if (&request != &lists->front()) packet.append(kPageBreakLine).append("\n");
     packet += textOf(contest, request);
-    if (closeIfTooLong(packet)) break;
+    if (closeIfTooLong(packet, kLongestHandOut)) break;
   }
   return packet;
 }
