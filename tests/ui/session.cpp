@@ -43,31 +43,39 @@ std::string listed(const Column& column) {
   return list.str();
 }
 
-// The lines of the file that the contest would be saved to, and what no file holds.
-std::multiset<std::string> storedNow() {
+// The lines of the file that the contest would be saved to, and what no file holds, by what a line
+// is about: its first field, of a score the first two.
+std::map<std::string, std::string> storedNow() {
   const Contest& contest = currentContest();
   const JudgingClasses& c = contest.classes;
-  std::multiset<std::string> stored = {
-      "report " + reportText(), "group letters " + listed(contest.groupLetters),
-      "classes " + listed(c.className) + ' ' + listed(c.officialLetter) + ' ' +
-          listed(c.reasonsFlag) + ' ' + listed(c.questionsFlag) + ' ' + listed(c.cut1) + ' ' +
-          listed(c.cut2) + ' ' + listed(c.cut3) + ' ' + listed(c.categoryIndex),
-      "next number " + std::to_string(contest.settings.nextContestantNum) + " in group " +
-          contest.settings.nextGroupLetter};
+  std::map<std::string, std::string> stored;
+  const auto add = [&stored](const std::string& line) {
+    static const std::regex about(R"(\d+\|\d+\|.\||[^|]*)");
+    std::smatch subject;
+    std::regex_search(line, subject, about, std::regex_constants::match_continuous);
+    stored[subject.str()] = line;
+  };
+  add("report|" + reportText());
+  add("group letters " + listed(contest.groupLetters));
+  add("classes " + listed(c.className) + ' ' + listed(c.officialLetter) + ' ' +
+      listed(c.reasonsFlag) + ' ' + listed(c.questionsFlag) + ' ' + listed(c.cut1) + ' ' +
+      listed(c.cut2) + ' ' + listed(c.cut3) + ' ' + listed(c.categoryIndex));
+  add(formatText("next number|%d in group %c", contest.settings.nextContestantNum,
+                 contest.settings.nextGroupLetter));
   for (const auto& [number, letter] : contest.contestantGroup) {
-    stored.insert(formatText("%d in group %c", number, letter));
+    add(formatText("group of %d|%c", number, letter));
   }
   for (const auto& [cell, number] : contest.reasonsOrder.cells()) {
-    stored.insert(formatText("%d in reasons group %d, row %d", number, cell.first, cell.second));
+    add(formatText("reasons group %d, row %d|%d", cell.first, cell.second, number));
   }
   for (const auto& [number, records] : contest.scores) {
-    stored.insert(formatText("%d with records: %zu", number, records.size()));
+    add(formatText("records of %d|%zu", number, records.size()));
   }
   std::istringstream file(writeContest(contest));
   for (std::string line; std::getline(file, line, '\r'); file.get()) {
     std::replace(line.begin(), line.end(), '\t', '|');
     const bool isCount = line.find_first_not_of("0123456789") == std::string::npos;
-    if (!isCount && !line.ends_with("| |0|0|0")) stored.insert(line);  // blank records
+    if (!isCount && !line.ends_with("| |0|0|0")) add(line);  // blank records
   }
   return stored;
 }
@@ -261,15 +269,13 @@ class Stage {
     writeListChanges();
     endLine();
     const auto now = storedNow();
-    const auto writeOnlyIn = [this](const auto& some, const auto& others, const char* mark) {
-      std::vector<std::string> lines;
-      std::set_difference(some.begin(), some.end(), others.begin(), others.end(),
-                          std::back_inserter(lines));
-      for (const std::string& line : lines) write(mark + line);
-    };
-    writeOnlyIn(stored_, now, "- ");
+    for (const auto& [subject, line] : stored_) {
+      if (!now.contains(subject)) write("- " + line);
+    }
     endLine();
-    writeOnlyIn(now, stored_, "+ ");
+    for (const auto& [subject, line] : now) {
+      if (!stored_.contains(subject) || stored_[subject] != line) write("+ " + line);
+    }
     endLine();
     stored_ = now;
   }
@@ -281,7 +287,7 @@ class Stage {
   std::map<std::string, std::string> shown_;
   std::map<ControlId, std::vector<std::string>> lists_;
   std::map<ControlId, std::string> selected_;
-  std::multiset<std::string> stored_;
+  std::map<std::string, std::string> stored_;
   std::string line_;
   std::string played_;
 };

@@ -1,5 +1,6 @@
 // Sessions of operators at dialogs, written as text: a line for every step, and below it, indented,
-// all that the step changed on screen and in the contest.
+// all that the step changed on screen and in the contest. Of the contest "+" is what became new or
+// other, "-" what is there no more.
 //
 //   open Setup Teams over two teams, no scores   a dialog, a contest, and what befell that before
 //   type: Elm                                    keys, wherever the focus is
