@@ -52,11 +52,13 @@ Contest countyFair() {
 
 // Of pages that are alike the first is enough.
 std::string shortened(std::string report) {
-  for (const char* title : {"Swine: teams", "Reasons: teams", "Questions: teams", "Overall: teams",
-                            "Team:  Boone", "Team:  Clay"}) {
+  for (const char* title :
+       {"Swine: individuals", "Swine: teams", "Reasons: teams", "Questions: teams",
+        "Overall: individuals", "Overall: teams", "Team:  Boone", "Team:  Clay"}) {
     const std::size_t page = report.find(title);
     if (page == std::string::npos) continue;
-    report.erase(page, std::min(report.find(kPageBreakLine, page), report.size()) - page);
+    const std::size_t rest = report.find('\n', page) + 1;
+    report.erase(rest, std::min(report.find(kPageBreakLine, rest), report.size()) - rest);
   }
   return report;
 }

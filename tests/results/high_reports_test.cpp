@@ -1,6 +1,8 @@
 // The reports of the best individuals and teams.
 #include <gtest/gtest.h>
 
+#include <regex>
+
 #include "results/high_reports.h"
 #include "results/rankings.h"
 #include "results/tie_breakers.h"
@@ -76,7 +78,9 @@ TEST(HighTeamReport, KeepsTheUnevenSpacingOfEachOrdering) {
   builder.contest.settings.numToReport = 1;
   reports +=
       highTeamReport(builder.contest, wholeContestRequest(builder.contest, ScoreKind::overall));
-  expectApproved(reports, "results/high_team_ties.txt");
+  // The line of a coach is as it is above.
+  static const std::regex coach(" +Coach: +\n\n");
+  expectApproved(std::regex_replace(reports, coach, ""), "results/high_team_ties.txt");
 }
 
 TEST(HighReports, ListTheNumberOrPercentageAskedForButOneRowAtLeast) {

@@ -56,8 +56,8 @@ std::map<std::string, std::string> storedNow() {
     stored[subject.str()] = line;
   };
   add("report|" + reportText());
-  add("group letters " + listed(contest.groupLetters));
-  add("classes " + listed(c.className) + ' ' + listed(c.officialLetter) + ' ' +
+  add("group letters" + listed(contest.groupLetters));
+  add("classes|" + listed(c.className) + ' ' + listed(c.officialLetter) + ' ' +
       listed(c.reasonsFlag) + ' ' + listed(c.questionsFlag) + ' ' + listed(c.cut1) + ' ' +
       listed(c.cut2) + ' ' + listed(c.cut3) + ' ' + listed(c.categoryIndex));
   add(formatText("next number|%d in group %c", contest.settings.nextContestantNum,
