@@ -40,7 +40,7 @@ class MemoryMainWindow : public MainWindow {
     note("dialog", dialog.caption());
     operate(dialog);
     for (const Message& message : dialog.desktop.messages) note(message.caption, message.text);
-    note("ended with", std::to_string(dialog.result().value_or(-1)));
+    if (dialog.result()) note("ended with", std::to_string(*dialog.result()));
     return dialog.result().value_or(0);
   }
   void setTitle(std::string_view text) override { note("title", text); }

@@ -28,8 +28,7 @@ Contest checkedContest() {
   builder
       .team("Oak", "Pat Oakley-of-the-Seven-Hills",
             {"Ann", "Bob of the Twenty-Six Letters and More", "Cy"})
-      .team("Ash Creek Four-Corners Club", "Q", {"", "Dee", "Eve With a Long Name"})
-      .team("Elm", "", {});
+      .team("Ash Creek Four-Corners Club", "Q", {"", "Dee", "Eve With a Long Name"});
   builder.placings(998, "ACBX").placings(999, "BZ").placings(1002, "D A");
   builder.scores(1000, {{50, 9, 8}, {46, 45, 7}, {30, 40, 39}, {-2, 0, 50}});
   Contest& contest = builder.contest;

@@ -44,7 +44,7 @@ std::string listed(const Column& column) {
 }
 
 // The lines of the file that the contest would be saved to, and what no file holds, by what a line
-// is about: its first field, of a score the first two.
+// is about: its first field, of a score the first two. Classes are shown column by column.
 std::map<std::string, std::string> storedNow() {
   const Contest& contest = currentContest();
   const JudgingClasses& c = contest.classes;
@@ -71,11 +71,13 @@ std::map<std::string, std::string> storedNow() {
   for (const auto& [number, records] : contest.scores) {
     add(formatText("records of %d|%zu", number, records.size()));
   }
+  bool isClass = false;
   std::istringstream file(writeContest(contest));
   for (std::string line; std::getline(file, line, '\r'); file.get()) {
     std::replace(line.begin(), line.end(), '\t', '|');
     const bool isCount = line.find_first_not_of("0123456789") == std::string::npos;
-    if (!isCount && !line.ends_with("| |0|0|0")) add(line);  // blank records
+    if (line.starts_with('~')) isClass = line == "~~~~~Classes~~~~~";
+    if (!isClass && !isCount && !line.ends_with("| |0|0|0")) add(line);  // blank records
   }
   return stored;
 }
@@ -146,6 +148,7 @@ class Stage {
     const ControlId id = part[3].matched ? std::stoi(part[3]) : 0;
     if (part[1] == "meanwhile") {
       world_.events.at(part[5])(currentContest());
+      stored_ = storedNow();
     } else {
       kSteps.at(part[1])(*dialog_, id, unescaped(part[5]));
     }
