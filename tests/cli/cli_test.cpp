@@ -49,8 +49,8 @@ TEST(Cli, AnswersAsApproved) {
   std::string log;
   for (const char* line :
        {// Reports go by number or caption; values follow or stand behind "=".
-        "fair.scv|Classes Report", "fair.scv|32796", "bare.scv|high team OVERALL|--round|1|32862",
-        "fair.scv|32862|--round=3", "fair.scv|32843|--class|2", "fair.scv|32844|--class|2",
+        "fair.scv|32796", "bare.scv|high team OVERALL|--round|1|32862", "fair.scv|32862|--round=3",
+        "fair.scv|32843|--class|2",
         "--title|-x-|fair.scv|--classes=3,1|32800|--kind|placings|--number=0|--team",
         "fair.scv|32800|--number|50|--percent|--kind=Reasons|--title=",
         "fair.scv|32800|--number=50%|--kind|QUESTIONS|--classes|2",

@@ -39,10 +39,10 @@ CliResult run(std::string_view line, FileSystem& files) {
 TEST(Import, AnswersAsApproved) {
   std::string log;
   for (const char* line :
-       {"import|sheet.csv|fair.scv", "import|sheet.csv|fair.scv|--skip-problems",
-        "import|sheet.csv|fair.scv|--skip-problems|--dry-run", "import|there.csv|fair.scv",
-        "import|there.csv|fair.scv|--into|out.scv", "import|sheet.csv|new.scv|--skip-problems",
-        "import|bad.csv|new.scv|--skip-problems", "import|empty.csv|fair.scv"}) {
+       {"import|sheet.csv|fair.scv", "import|sheet.csv|fair.scv|--skip-problems|--dry-run",
+        "import|there.csv|fair.scv", "import|there.csv|fair.scv|--into|out.scv",
+        "import|sheet.csv|new.scv|--skip-problems", "import|bad.csv|new.scv|--skip-problems",
+        "import|empty.csv|fair.scv"}) {
     ImportFiles disk;
     const auto before = disk.files;
     const CliResult result = run(line, disk);

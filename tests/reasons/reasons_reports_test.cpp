@@ -67,19 +67,26 @@ TEST(ReasonsSheet, ShowsPlacingsOrScoresInBandsOfReasonsClassesOnly) {
   EXPECT_FALSE(reasonsSheet(contest, ReasonsSheet::order, 1));
 }
 
-// Three classes in bands of five: in the room form turn i of group c is class (6i + c) mod 3. Then
-// a contest without reasons classes, which has a gap in the first row. In the plain form the first
-// groups of a band and its last are enough.
+// Three classes in bands of five: in the room form turn i of group c is class (6i + c) mod 3. In
+// the plain form the first groups of a band and its last are enough.
 TEST(ReasonsOrderReport, ShowsOrderUnassignedAndClassOrderInBands) {
   const Contest contest = twoBandContest();
-  Contest gap = reasonsContest(1, 0, 3);
-  placeGroup(gap, 0, {kNobody, 101});
   static const std::regex between("  Reasons Group  [34789] .*\n.*\n.*\n\n");
   const std::string plain = reasonsOrderReport(contest, ReasonsOrderForm::plain);
-  expectApproved(std::regex_replace(plain, between, "") +
-                     reasonsOrderReport(contest, ReasonsOrderForm::room) +
-                     reasonsOrderReport(gap, ReasonsOrderForm::plain),
-                 "reasons/reasons_orders.txt");
+  expectApproved(
+      std::regex_replace(plain, between, "") + reasonsOrderReport(contest, ReasonsOrderForm::room),
+      "reasons/reasons_orders.txt");
+}
+
+TEST(ReasonsOrderReport, EndsAtAGapInTheFirstRowAndNeedsNoReasonsClasses) {
+  Contest gap = reasonsContest(1, 0, 2);
+  placeGroup(gap, 0, {kNobody, 101});
+  const std::string report = reasonsOrderReport(gap, ReasonsOrderForm::plain);
+  const std::size_t grid = report.find("   ----- \n") + 10;
+  EXPECT_EQ(report.substr(grid),
+            "\n\t\tContestants Not Assigned in Reasons Order\n"
+            "     102 - Taker 102\n\n\n"
+            "Reasons Class Order\n-------------------\n\n\n\n");
 }
 
 // Rows end with their own band, whatever the groups on either side of it have.

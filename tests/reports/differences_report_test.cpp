@@ -47,8 +47,9 @@ TEST(DifferencesReport, ListsEverythingThatDiffersWithinEightyColumns) {
   now.scores[105][1].questionsScore = 21;
   now.scores[103][3].letter = 'F';
   const std::string report = differencesReport(now, before, {"Now and Then", "Now", "Then"});
-  expectApproved(report + differencesReport(now, now, {"Now and Now", "Here", "There"}),
-                 "reports/differences.txt");
+  expectApproved(report, "reports/differences.txt");
+  const std::string same = differencesReport(now, now, {"Now and Now", "Here", "There"});
+  EXPECT_TRUE(same.ends_with("\n       0  only under There\n\nNothing differs.\n")) << same;
   std::istringstream lines(report);
   for (std::string line; std::getline(lines, line);) EXPECT_LE(line.size(), 80U) << line;
 }
