@@ -74,13 +74,7 @@ const SessionWorld kEntry = {
      {"nobody behind 105", [](Contest& c) { c.contestantNames[105] = ""; }},
      {"number 0 exists", [](Contest& c) { c.contestantNames[0] = "Zoe"; }}}};
 
-class EntrySession : public testing::TestWithParam<std::string> {};
-
-TEST_P(EntrySession, GoesAsWritten) {
-  expectSession("entry", GetParam(), kEntry);
-}
-INSTANTIATE_TEST_SUITE_P(Dialogs, EntrySession, testing::ValuesIn(sessionsOf("entry")),
-                         sessionName);
+const bool kPlaysEntry = playSessions("entry", kEntry);
 
 }  // namespace
 

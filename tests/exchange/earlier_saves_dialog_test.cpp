@@ -129,10 +129,12 @@ const SessionWorld kWorld = {
       [](Contest&) {
         std::erase_if(disk->files.files, [](const auto& file) { return file.first != kFile; });
       }},
-     {"a full disk", [](Contest&) {
+     {"a full disk",
+      [](Contest&) {
         disk->files.room = 0;
         for (const auto& [path, file] : disk->files.files) disk->files.room += file.content.size();
-      }}}};
+      }}},
+    [] { disk.reset(); }};
 
 // A card of the open contest that was typed and not saved comes back with the rest.
 TEST(EarlierSaves, GoingBackKeepsTheFileAndWhatWasNotSaved) {
@@ -266,16 +268,7 @@ TEST(EarlierSaves, OfContestsWithoutAFileStayWhenTheyAreBroughtBack) {
   EXPECT_EQ(readEarlierSave(day.files, day.saves("").front()), rest);
 }
 
-class ExchangeSession : public testing::TestWithParam<std::string> {
- protected:
-  ~ExchangeSession() override { disk.reset(); }
-};
-
-TEST_P(ExchangeSession, GoesAsWritten) {
-  expectSession("exchange", GetParam(), kWorld);
-}
-INSTANTIATE_TEST_SUITE_P(Dialogs, ExchangeSession, testing::ValuesIn(sessionsOf("exchange")),
-                         sessionName);
+const bool kPlays = playSessions("exchange", kWorld);
 
 }  // namespace
 

@@ -49,19 +49,8 @@ const SessionWorld kReports = {
     {{"no categories", [](Contest& c) { c.categories.clear(); }},
      {"one category", [](Contest& c) { c.categories.resize(1); }}}};
 
-class ReportSession : public testing::TestWithParam<std::string> {};
-class ResultSession : public testing::TestWithParam<std::string> {};
-
-TEST_P(ReportSession, GoesAsWritten) {
-  expectSession("reports", GetParam(), kReports);
-}
-TEST_P(ResultSession, GoesAsWritten) {
-  expectSession("results", GetParam(), kReports);
-}
-INSTANTIATE_TEST_SUITE_P(Dialogs, ReportSession, testing::ValuesIn(sessionsOf("reports")),
-                         sessionName);
-INSTANTIATE_TEST_SUITE_P(Dialogs, ResultSession, testing::ValuesIn(sessionsOf("results")),
-                         sessionName);
+const bool kPlaysReport = playSessions("reports", kReports);
+const bool kPlaysResult = playSessions("results", kReports);
 
 }  // namespace
 

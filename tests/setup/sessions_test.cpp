@@ -140,13 +140,7 @@ TEST(SetupContest, RefusesCategoriesThatCannotBeSaved) {
   EXPECT_EQ(cutTexts(currentContest()).size(), 1);
 }
 
-class SetupSession : public testing::TestWithParam<std::string> {};
-
-TEST_P(SetupSession, GoesAsWritten) {
-  expectSession("setup", GetParam(), kSetup);
-}
-INSTANTIATE_TEST_SUITE_P(Dialogs, SetupSession, testing::ValuesIn(sessionsOf("setup")),
-                         sessionName);
+const bool kPlaysSetup = playSessions("setup", kSetup);
 
 }  // namespace
 

@@ -295,19 +295,31 @@ class Stage {
   std::string played_;
 };
 
+class SessionTest : public testing::Test {
+ public:
+  SessionTest(std::string file, const SessionWorld& world)
+      : file_(std::move(file)), world_(world) {}
+  ~SessionTest() override { world_.tidy(); }
+  void TestBody() override {
+    expectApproved(Stage(world_).play(sourceFile("tests/" + file_)), file_);
+  }
+
+ private:
+  const std::string file_;
+  const SessionWorld& world_;
+};
+
 }  // namespace
 
-std::vector<std::string> sessionsOf(const std::string& folder) {
-  std::vector<std::string> names;
+bool playSessions(const std::string& folder, const SessionWorld& world) {
   for (const auto& entry : std::filesystem::directory_iterator(SOURCE_DIR "/tests/" + folder)) {
-    if (entry.path().extension() == ".session") names.push_back(entry.path().stem());
+    if (entry.path().extension() != ".session") continue;
+    const std::string file = folder + '/' + entry.path().filename().string();
+    testing::RegisterTest(
+        ("Session_" + folder).c_str(), entry.path().stem().c_str(), nullptr, nullptr, __FILE__,
+        __LINE__, [file, &world]() -> testing::Test* { return new SessionTest(file, world); });
   }
-  return names;
-}
-
-void expectSession(const std::string& folder, const std::string& name, const SessionWorld& world) {
-  const std::string file = folder + '/' + name + ".session";
-  expectApproved(Stage(world).play(sourceFile("tests/" + file)), file);
+  return true;
 }
 
 }  // namespace scorvane

@@ -37,16 +37,12 @@ struct SessionWorld {
   std::map<std::string, std::function<std::unique_ptr<DialogBehaviour>()>> dialogs;  ///< captions
   std::map<std::string, std::function<Contest()>> contests;
   std::map<std::string, std::function<void(Contest&)>> events;  ///< what can befall a contest
+  std::function<void()> tidy = [] {};                           ///< after every session
 };
 
-/// The names of the sessions in tests/<folder>, for tests with such a parameter.
-[[nodiscard]] std::vector<std::string> sessionsOf(const std::string& folder);
-[[nodiscard]] inline std::string sessionName(const testing::TestParamInfo<std::string>& session) {
-  return session.param;
-}
-
-/// Plays the steps of a session and holds what came of them against its very file, as
-/// expectApproved() does. The contest is untitled, so a save asks for a file.
-void expectSession(const std::string& folder, const std::string& name, const SessionWorld& world);
+/// Makes a test of every session in tests/<folder>, to be called before the tests run. It plays the
+/// steps and holds what came of them against the session's very file, as expectApproved() does. The
+/// contest is untitled, so a save asks for a file.
+bool playSessions(const std::string& folder, const SessionWorld& world);
 
 }  // namespace scorvane
