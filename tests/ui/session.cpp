@@ -53,7 +53,8 @@ std::map<std::string, std::string> storedNow() {
     static const std::regex about(R"(\d+\|\d+\|.\||[^|]*)");
     std::smatch subject;
     std::regex_search(line, subject, about, std::regex_constants::match_continuous);
-    stored[subject.str()] = line;
+    std::string& lines = stored[subject.str()];
+    lines.append(lines.empty() ? "" : "; ").append(line);
   };
   add("report|" + reportText());
   add("group letters" + listed(contest.groupLetters));
