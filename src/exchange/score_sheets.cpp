@@ -193,10 +193,7 @@ std::vector<Entered> enteredCards(const Book& book) {
     RecordCursor records(person.card.scores);
     for (std::int32_t k = 0; k < book.contest.classes.count(); ++k) {
       const ScoreRecord& record = records.at(k);
-      if (record.letter == kNoLetter && record.reasonsScore == 0 && record.questionsScore == 0) {
-        continue;
-      }
-      entered.push_back({&person.card, k, &record});
+      if (countEntered(record) > 0) entered.push_back({&person.card, k, &record});
     }
   }
   return entered;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "model/class_lists.h"
+#include "model/contest_differences.h"
 #include "results/high_reports.h"
 #include "text/format.h"
 
@@ -50,22 +51,22 @@ bool takesTooLong(const Contest& contest, std::size_t lists) {
   return lists > 4 && lists > kMostVisits / visitsPerList(contest);
 }
 
-/// Who has anything entered that the request counts, in order: a blank letter and a score of 0 were
-/// not entered.
+/// Who has anything entered that the request counts, in order.
 std::vector<ContestantNumber> entrants(const Contest& contest, const ReportRequest& request) {
-  const auto counts = [&](ScoreKind kind) {
-    return request.kind == ScoreKind::overall || request.kind == kind;
-  };
-  const auto isEntered = [&](const auto& entry) {
+  constexpr std::array kCounted = {std::pair(ScoreKind::placings, ScoreValue::letter),
+                                   std::pair(ScoreKind::reasons, ScoreValue::reasons),
+                                   std::pair(ScoreKind::questions, ScoreValue::questions)};
+  const auto hasCard = [&](const auto& entry) {
     const auto& [judged, record] = entry;
     return std::binary_search(request.classes.begin(), request.classes.end(), judged) &&
-           ((counts(ScoreKind::placings) && record.letter != kNoLetter) ||
-            (counts(ScoreKind::reasons) && record.reasonsScore != 0) ||
-            (counts(ScoreKind::questions) && record.questionsScore != 0));
+           std::any_of(kCounted.begin(), kCounted.end(), [&, &card = record](const auto& counted) {
+             return (request.kind == ScoreKind::overall || request.kind == counted.first) &&
+                    isEntered(counted.second, card);
+           });
   };
   std::vector<ContestantNumber> numbers;
   for (const auto& [number, scores] : contest.scores) {
-    if (std::any_of(scores.begin(), scores.end(), isEntered)) numbers.push_back(number);
+    if (std::any_of(scores.begin(), scores.end(), hasCard)) numbers.push_back(number);
   }
   return numbers;
 }
