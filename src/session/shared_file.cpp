@@ -4,6 +4,7 @@
 #include <utility>
 #include <variant>
 
+#include "session/data_folder.h"
 #include "session/earlier_saves.h"
 #include "session/open_contest.h"
 #include "session/recovery.h"
@@ -134,6 +135,13 @@ void knowFile(std::string_view bytes) {
 void knowFileForNow(std::string_view bytes) {
   if (isKnown()) return know(bytes);
   knowFile(bytes);
+}
+
+bool isOwnFile() {
+  const std::string& path = currentFileName();
+  if (known().path.empty() || !reachesSameFile(sessionFiles(), path, known().path)) return false;
+  known().path = path;
+  return true;
 }
 
 void forgetFile() {
