@@ -116,6 +116,37 @@ TEST_F(SharedWork, OfAnotherFileIsComparedWithWhatMustBeKnownOfIt) {
   }
 }
 
+TEST_F(SharedWork, OfAnotherFileIsBroughtInOnceTheCountsWereAgreedTo) {
+  othersSave([](Contest& other) {
+    other.scores[102][0] = {'A', 0, 20, 9};
+    other.classes.className[1] = "Hogs";
+  });
+  std::swap(disk.files["other.scv"], disk.files[kPath]);
+  disk.files[kPath].content = smallFile();
+  for (const Answer answer : {Answer::cancel, Answer::ok}) {
+    const bool agrees = answer == Answer::ok;
+    window.log.clear();
+    window.desktop.files = {"other.scv"};
+    window.desktop.answers = {answer};
+    runCommand(kBringIn, window);
+    EXPECT_NE(window.log.find("  Warning: 1 score that is missing here will be brought in from "
+                              "other.scv.  1 score differs and stays as it is.  Left out: 0 "
+                              "contestants and 2 classes that only one of the files has.  Left "
+                              "out: 1 score of classes without such scores.  Continue? (Enter c"),
+              std::string::npos)
+        << window.log;
+    EXPECT_EQ(disk.files[kPath].content != smallFile(), agrees);
+    EXPECT_EQ(scoreRecord(currentContest(), 102, 0).reasonsScore, agrees ? 20 : 0);
+    EXPECT_EQ(reportText().starts_with("Scores brought in"), agrees);
+  }
+  for (const int id : {kCompare, kBringIn}) {
+    window.log.clear();
+    window.desktop.files = {kPath};
+    runCommand(id, window);
+    EXPECT_NE(window.log.find("Error: This is the file of the open contest."), std::string::npos);
+  }
+}
+
 TEST_F(SharedWork, IsToldOfWhenTheDialogHasClosed) {
   currentContest().scores[101][0].letter = 'A';
   window.operate = [&](MemoryDialog& dialog) {
