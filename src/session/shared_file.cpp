@@ -10,6 +10,7 @@
 #include "session/recovery.h"
 #include "storage/content_hash.h"
 #include "storage/contest_reader.h"
+#include "storage/contest_writer.h"
 #include "storage/file.h"
 
 namespace scorvane {
@@ -162,9 +163,12 @@ bool takeInOthersWork() {
   known().isSettled = now - known().stampSince >= kCoarsest;
   const std::uint64_t hash = contentHash(*bytes);
   if (hash == known().hash || hash == sharing().refusedHash) return false;
-  if (takeIn(*bytes, Theirs::keep) == Replaced::nothing) return true;
-  sharing().refusedHash = hash;
-  return false;
+  if (takeIn(*bytes, Theirs::keep) != Replaced::nothing) {
+    sharing().refusedHash = hash;
+    return false;
+  }
+  if (writeContest(currentContest()) == *bytes) newsMayBeTold();
+  return true;
 }
 
 void takeInBeforeSaving(const std::optional<std::string>& found, bool isLocked) {

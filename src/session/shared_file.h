@@ -43,7 +43,7 @@ void foundWasReplaced(bool isKept);
 
 /// To be told once the contest is saved.
 void addNews(const Merge& merge);
-/// The contest was saved.
+/// The contest was saved, or is in its file as it is.
 void newsMayBeTold();
 /// It was not, so nothing was replaced.
 void nothingWasReplaced();
