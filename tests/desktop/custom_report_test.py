@@ -13,8 +13,7 @@ class CustomReportTest(DesktopTest):
     def test_category_kind_and_classes_are_chosen_by_the_keyboard(self):
         contest = self.sample("state.scv")
         app = self.start(contest)
-        app.main().command(CUSTOM_REPORT)
-        dialog = app.window("Custom Report")
+        dialog = app.open_dialog(CUSTOM_REPORT, "Custom Report")
 
         def press_to(key, control):
             dialog.press(key)

@@ -19,24 +19,18 @@ class EarlierSaves(DesktopTest):
         self.main = self.app.main()
         wait_for(lambda: "county.scv" in self.main.title(), "the contest")
 
-    def dialog(self, command, title):
-        self.main.command(command)
-        return self.app.window(title)
-
     def change_twice(self):
-        dialog = self.dialog(LOOKUP, "Lookup/Edit Individual Scores")
+        dialog = self.app.open_dialog(LOOKUP, "Lookup/Edit Individual Scores")
         dialog.choose(1016, 2)
         dialog.set_text(NUMBER, "102")
         dialog.set_text(LETTER, "X")
         dialog.click(SCORE)
-        dialog.close()
-        self.app.wait_closed(dialog)
+        dialog.finish()
         self.states.append(self.contest.read_bytes())
-        dialog = self.dialog(SETUP_TEAMS, "Setup Teams")
+        dialog = self.app.open_dialog(SETUP_TEAMS, "Setup Teams")
         dialog.choose(TEAMS, 1)
         dialog.click(REMOVE_TEAM)
-        dialog.close()
-        self.app.wait_closed(dialog)
+        dialog.finish()
         self.states.append(self.contest.read_bytes())
 
     def test_every_save_can_be_compared_and_gone_back_to(self):
@@ -56,7 +50,7 @@ class EarlierSaves(DesktopTest):
         self.assertIn("Team Antler County 4-H               -                     105, 106, 107, 108", report)
         self.assertIn("  102 Delia Ibarra                B   Placing        X (4,3,2,1)   E (1,4,2,3)", report)
 
-        dialog = self.dialog(EARLIER_SAVES, "Earlier Saves")
+        dialog = self.app.open_dialog(EARLIER_SAVES, "Earlier Saves")
         dialog.choose(CHANGES, 1)
         self.desktop.keys("alt+g")
         box = self.app.window("Warning")
@@ -69,7 +63,7 @@ class EarlierSaves(DesktopTest):
         self.assertEqual(self.contest.read_bytes(), self.states[0])
 
         # Any save gets a file of its own.
-        dialog = self.dialog(EARLIER_SAVES, "Earlier Saves")
+        dialog = self.app.open_dialog(EARLIER_SAVES, "Earlier Saves")
         self.assertEqual(len(dialog.lines(TIMES)), 3)
         dialog.choose(TIMES, 1)
         dialog.command(SAVE_AS)

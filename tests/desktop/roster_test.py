@@ -12,9 +12,7 @@ class RosterTest(DesktopTest):
         super().setUp()
         self.file = self.sample()
         self.app = self.start(self.file)
-        self.main = self.app.main()
-        self.main.command(IMPORT_ROSTER)
-        self.dialog = self.app.window("Import Roster")
+        self.dialog = self.app.open_dialog(IMPORT_ROSTER, "Import Roster")
 
     def test_cells_are_pasted_mended_and_imported(self):
         cells = "Team\tContestant\tCoach\r\nYew Grove\t\u0141ukasz O\u2019Day\tPat\r\nYew Grove\tAnn Lee%s\r\n"
@@ -27,8 +25,7 @@ class RosterTest(DesktopTest):
         self.assertEqual(self.dialog.lines(LIST), [
             "Yew Grove, coach Pat:  149A Lukasz O'Day, 150B Ann Lee",
             "Remark on line 2: A character of \"Lukasz O'Day\" that contests cannot hold became \"L\"."])
-        self.dialog.command(IMPORT)
-        self.app.wait_closed(self.dialog)
+        self.dialog.finish(IMPORT)
         self.assertIn("     Yew Grove               149A  Lukasz O'Day", self.app.report())
         self.assertIn(b"149\tLukasz O'Day\t", self.file.read_bytes())
 
@@ -39,8 +36,7 @@ class RosterTest(DesktopTest):
         self.app.choose_file(self.folder / "roster.txt", "Open")
         wait_for(lambda: self.dialog.text(SUMMARY) == "2500 teams, 10000 contestants, 0 alternates", "the sheet")
         self.assertEqual(len(self.dialog.lines(LIST)), 2500)
-        self.dialog.close()
-        self.app.wait_closed(self.dialog)
+        self.dialog.finish()
 
 
 if __name__ == "__main__":
