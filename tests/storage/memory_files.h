@@ -17,6 +17,8 @@ class MemoryFiles : public FileSystem {
     bool isFlushed = true;
     std::string onMedium{};  ///< what a power cut leaves for sure
     std::int64_t changed = 0;
+
+    bool operator==(const File&) const = default;
   };
   std::map<std::string, File> files;
 
