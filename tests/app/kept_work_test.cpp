@@ -148,7 +148,7 @@ TEST_F(KeptWork, IsThereAsFarAsItWasShownWhereverThePowerFailed) {
 }
 
 TEST_F(KeptWork, HasTheReasonsOrderThatCouldNotBeSaved) {
-  disk.files[kPath] = {fair(), true, fair(), 7};
+  disk.put(kPath, fair());
   start();
   run(kReasons, [&](MemoryDialog& dialog) {
     dialog.choose(IDC_ENTRY_CLASS, 0);
@@ -169,7 +169,7 @@ TEST_F(KeptWork, HasTheReasonsOrderThatCouldNotBeSaved) {
 }
 
 TEST_F(KeptWork, IsSaidToBeUnsafeOnceADialogHasClosed) {
-  disk.files[kPath] = {fair(), true};
+  disk.put(kPath, fair());
   start();
   disk.readOnlyPath = disk.localData;
   window.log.clear();

@@ -29,7 +29,7 @@ const std::string kPath = "fair.scv";
 
 struct SharedWork : testing::Test {
   SharedWork() {
-    disk.files[kPath] = {smallFile(), true, smallFile()};
+    disk.put(kPath, smallFile());
     prepareContest();
     startKeepingWork(disk);
     openContestFile(window, kPath);
@@ -98,8 +98,8 @@ TEST_F(SharedWork, CountsInReportsAndDialogs) {
 
 TEST_F(SharedWork, OfAnotherFileIsComparedWithWhatMustBeKnownOfIt) {
   const std::string odd = replaced(smallFile(), "C\t2,5,3", "D\t2,5,3");
-  disk.files["odd.scv"] = {odd, true, odd};
-  disk.files["torn.scv"] = {smallFile(), true, smallFile()};
+  disk.put("odd.scv", odd);
+  disk.put("torn.scv", smallFile());
   disk.hasOtherNames = true;
   disk.cutAtCall = disk.calls + 10;
   EXPECT_THROW(static_cast<void>(saveSafely(disk, "torn.scv", odd)), MemoryFiles::PowerCut);

@@ -129,11 +129,7 @@ const SessionWorld kWorld = {
       [](Contest&) {
         std::erase_if(disk->files.files, [](const auto& file) { return file.first != kFile; });
       }},
-     {"a full disk",
-      [](Contest&) {
-        disk->files.room = 0;
-        for (const auto& [path, file] : disk->files.files) disk->files.room += file.content.size();
-      }}},
+     {"a full disk", [](Contest&) { disk->files.fill(); }}},
     [] { disk.reset(); }};
 
 // A card of the open contest that was typed and not saved comes back with the rest.

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-
 #include "tests/storage/contest_text.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/ui/memory_dialog.h"
@@ -11,14 +9,6 @@
 namespace scorvane {
 
 namespace {
-
-class LocalData {
- public:
-  explicit LocalData(const std::string& folder) { setenv("XDG_DATA_HOME", folder.c_str(), 1); }
-  LocalData(const LocalData&) = delete;
-  LocalData& operator=(const LocalData&) = delete;
-  ~LocalData() { unsetenv("XDG_DATA_HOME"); }
-};
 
 // The code page's own letters stay, everything else is lost.
 std::vector<std::string> bent(const std::string& name) {
@@ -30,8 +20,7 @@ std::vector<std::string> bent(const std::string& name) {
 
 TEST(OddNames, ReachTheirOwnFiles) {
   const TemporaryFolder contests;
-  const TemporaryFolder data;
-  const LocalData local(data.path());
+  const LocalDataFolder local;
   const RawDisk disk{
       [](const std::string& path, const std::string& bytes) { makeFile(path, bytes); },
       [](const std::string& path) { return contentOf(path); }, bent};
@@ -41,8 +30,7 @@ TEST(OddNames, ReachTheirOwnFiles) {
 // A folder linked to, a file linked to, and a second name of the file.
 TEST(OddNames, OneFileIsOneContestUnderAllItsNames) {
   const TemporaryFolder folder;
-  const TemporaryFolder data;
-  const LocalData local(data.path());
+  const LocalDataFolder local;
   FileSystem& files = systemFiles();
   const std::string path = folder.file("Ω.scv");
   makeFile(path, smallFile());

@@ -44,9 +44,14 @@ class MemoryFiles : public FileSystem {
   std::int64_t clock = 1'000'000 * kTicksPerSecond;
   std::string localData = "local";
 
-  /// Leaves no room for another byte.
-  void fill() {
-    room = 0;
+  /// A file that is safe on the disk.
+  void put(const std::string& path, const std::string& bytes, std::int64_t when) {
+    files[path] = {bytes, true, bytes, when};
+  }
+  void put(const std::string& path, const std::string& bytes) { put(path, bytes, clock); }
+  /// Leaves room for so many more bytes.
+  void fill(std::size_t left = 0) {
+    room = left;
     for (const auto& [path, file] : files) room += file.content.size();
   }
   /// What the disk holds after a power cut: of what was not flushed the first `torn` bytes. False
