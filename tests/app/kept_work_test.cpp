@@ -52,6 +52,10 @@ struct KeptWork : testing::Test {
     window.operate = operate;
     runCommand(command, window);
   }
+  static void startGroup(MemoryDialog& dialog, int group) {
+    dialog.choose(IDC_ENTRY_CLASS, 0);
+    dialog.choose(IDC_ENTRY_GROUP, group);
+  }
   void type(MemoryDialog& dialog, ControlId field, const char* score, std::int32_t classIndex) {
     dialog.fill(field, score);
     dialog.pressEnter();
@@ -62,15 +66,13 @@ struct KeptWork : testing::Test {
   void aDay() {
     start();
     run(kPlacings, [&](MemoryDialog& dialog) {
-      dialog.choose(IDC_ENTRY_CLASS, 0);
-      dialog.choose(IDC_ENTRY_GROUP, 0);
+      startGroup(dialog, 0);
       type(dialog, IDC_ENTRY_LETTER, "b", 0);
       type(dialog, IDC_ENTRY_LETTER, "c", 0);
       dialog.click(IDC_ENTRY_DONE);
     });
     run(kReasons, [&](MemoryDialog& dialog) {
-      dialog.choose(IDC_ENTRY_CLASS, 0);
-      dialog.choose(IDC_ENTRY_GROUP, 0);
+      startGroup(dialog, 0);
       type(dialog, IDC_ENTRY_REASONS, "44", 1);
       type(dialog, IDC_ENTRY_REASONS, "31", 1);
       dialog.pressEscape();
@@ -82,8 +84,7 @@ struct KeptWork : testing::Test {
       dialog.pressCloseBox();
     });
     run(kQuestions, [&](MemoryDialog& dialog) {
-      dialog.choose(IDC_ENTRY_CLASS, 0);
-      dialog.choose(IDC_ENTRY_GROUP, 1);
+      startGroup(dialog, 1);
       type(dialog, IDC_ENTRY_QUESTIONS, "50", 0);
       dialog.pressEscape();
     });
@@ -151,8 +152,7 @@ TEST_F(KeptWork, HasTheReasonsOrderThatCouldNotBeSaved) {
   disk.put(kPath, fair());
   start();
   run(kReasons, [&](MemoryDialog& dialog) {
-    dialog.choose(IDC_ENTRY_CLASS, 0);
-    dialog.choose(IDC_ENTRY_GROUP, 0);
+    startGroup(dialog, 0);
     type(dialog, IDC_ENTRY_REASONS, "44", 1);
     dialog.pressEscape();
   });
@@ -176,8 +176,7 @@ TEST_F(KeptWork, IsSaidToBeUnsafeOnceADialogHasClosed) {
   for (int time = 0; time < 2; ++time) {
     run(kReasons, [&](MemoryDialog& dialog) {
       dialog.desktop.answers = {Answer::yes};
-      dialog.choose(IDC_ENTRY_CLASS, 0);
-      dialog.choose(IDC_ENTRY_GROUP, 0);
+      startGroup(dialog, 0);
       type(dialog, IDC_ENTRY_REASONS, "44", 1);
       EXPECT_EQ(window.log.find("Warning"), std::string::npos) << "not while cards are typed";
       dialog.pressEscape();
