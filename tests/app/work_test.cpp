@@ -47,8 +47,8 @@ std::string fair() {
   return writeContest(builder.contest);
 }
 
-struct KeptWork : testing::Test {
-  ~KeptWork() override { stopKeepingWork(); }
+struct Work : testing::Test {
+  ~Work() override { stopKeepingWork(); }
 
   void start() {
     window.log.clear();
@@ -64,6 +64,12 @@ struct KeptWork : testing::Test {
     window.operate = operate;
     runCommand(command, window);
   }
+
+  MemoryFiles disk;
+  MemoryMainWindow window;
+};
+
+struct KeptWork : Work {
   static void startGroup(MemoryDialog& dialog, int group) {
     dialog.choose(IDC_ENTRY_CLASS, 0);
     dialog.choose(IDC_ENTRY_GROUP, group);
@@ -121,8 +127,6 @@ struct KeptWork : testing::Test {
     }
   }
 
-  MemoryFiles disk;
-  MemoryMainWindow window;
   std::map<std::pair<ContestantNumber, std::int32_t>, ScoreRecord> shown;
   bool teamIsShown = false;
 };
@@ -200,15 +204,12 @@ TEST_F(KeptWork, IsSaidToBeUnsafeOnceADialogHasClosed) {
   EXPECT_EQ(scoreRecord(currentContest(), 103, 1).reasonsScore, 44);
 }
 
-struct SharedWork : testing::Test {
+struct SharedWork : Work {
   SharedWork() {
     disk.put(kPath, smallFile());
-    prepareContest();
-    startKeepingWork(disk);
-    openContestFile(window, kPath);
+    start();
     window.log.clear();
   }
-  ~SharedWork() override { stopKeepingWork(); }
 
   template <typename Edit>
   void othersSave(const Edit& edit) {
@@ -220,9 +221,6 @@ struct SharedWork : testing::Test {
   void othersType(ContestantNumber number, char letter) {
     othersSave([&](Contest& theirs) { theirs.scores[number][0].letter = letter; });
   }
-
-  MemoryFiles disk;
-  MemoryMainWindow window;
 };
 
 TEST_F(SharedWork, CountsInReportsAndDialogs) {
@@ -237,7 +235,7 @@ TEST_F(SharedWork, CountsInReportsAndDialogs) {
 
   // While the dialog of a report is open, and again with other classes than it has offered.
   int dialogs = 0;
-  window.operate = [&](MemoryDialog& dialog) {
+  run(kRoundVerification, [&](MemoryDialog& dialog) {
     if (++dialogs == 1) {
       othersSave([](Contest& theirs) { theirs.classes.className[0] = "Pen Steers"; });
     } else {
@@ -245,26 +243,23 @@ TEST_F(SharedWork, CountsInReportsAndDialogs) {
     }
     dialog.choose(IDC_VERIFIED_ROUNDS, 0);
     dialog.click(kOkId);
-  };
-  runCommand(kRoundVerification, window);
+  });
   EXPECT_EQ(dialogs, 2);
   EXPECT_EQ(reportText(), roundVerificationReport(currentContest(), 0));
   EXPECT_EQ(scoreRecord(currentContest(), 102, 0).letter, 'D');
 
   // When a dialog has closed without saving.
-  window.operate = [&](MemoryDialog& dialog) {
+  run(kLookup, [&](MemoryDialog& dialog) {
     othersType(102, 'E');
     dialog.pressEscape();
-  };
-  runCommand(kLookup, window);
+  });
   EXPECT_EQ(scoreRecord(currentContest(), 102, 0).letter, 'E');
 
   // When it was taken in by the save at the end of a dialog.
-  window.operate = [&](MemoryDialog& dialog) {
+  run(kLookup, [&](MemoryDialog& dialog) {
     othersSave([](Contest& theirs) { theirs.settings.contestName = "Hill Fair"; });
     dialog.pressCloseBox();
-  };
-  runCommand(kLookup, window);
+  });
   EXPECT_NE(window.log.find("fair.scv - Hill Fair"), std::string::npos) << window.log;
   EXPECT_TRUE(window.desktop.messages.empty());
 }
@@ -291,12 +286,11 @@ TEST_F(SharedWork, OfAnotherFileIsComparedWithWhatMustBeKnownOfIt) {
 
 TEST_F(SharedWork, IsToldOfWhenTheDialogHasClosed) {
   currentContest().scores[101][0].letter = 'A';
-  window.operate = [&](MemoryDialog& dialog) {
+  run(kSetupContest, [&](MemoryDialog& dialog) {
     othersType(101, 'B');
     dialog.pressCloseBox();
     EXPECT_TRUE(dialog.desktop.messages.empty() && window.desktop.messages.empty());
-  };
-  runCommand(kSetupContest, window);
+  });
   ASSERT_EQ(window.desktop.messages.size(), 1U);
   const Message& box = window.desktop.messages[0];
   EXPECT_EQ(box.caption, "Information");
