@@ -66,66 +66,60 @@ Roster inventRoster(Chance& chance, std::size_t slots, std::size_t regular) {
   return roster;
 }
 
-class SetupTeams {
- public:
-  explicit SetupTeams(const Contest& contest) { currentContest() = contest; }
+void choose(MemoryDialog& dialog, ControlId list, const std::string& start) {
+  const std::vector<std::string> lines = dialog.lines(list);
+  const auto line = std::find_if(lines.begin(), lines.end(),
+                                 [&](const std::string& text) { return text.starts_with(start); });
+  ASSERT_NE(line, lines.end()) << start;
+  dialog.choose(list, static_cast<int>(line - lines.begin()));
+}
 
-  // Whoever finds no slot is not typed; such people come last in no roster here.
-  Contest type(const Roster& roster) {
-    SetupTeamsDialog behaviour;
-    MemoryDialog dialog(IDD_SETUP_TEAMS, behaviour);
-    for (const RosterTeam& team : roster) typeTeam(dialog, team);
-    dialog.click(IDC_TEAMS_DONE);
-    return currentContest();
-  }
-
- private:
-  static void choose(MemoryDialog& dialog, ControlId list, const std::string& start) {
-    const std::vector<std::string> lines = dialog.lines(list);
-    const auto line = std::find_if(lines.begin(), lines.end(), [&](const std::string& text) {
-      return text.starts_with(start);
-    });
-    ASSERT_NE(line, lines.end()) << start;
-    dialog.choose(list, static_cast<int>(line - lines.begin()));
-  }
-
-  static void typeTeam(MemoryDialog& dialog, const RosterTeam& team) {
-    const Contest& contest = currentContest();
-    const auto regular = static_cast<std::size_t>(contest.settings.numPerTeam);
-    if (!contest.teams.contains(team.name)) {
-      dialog.click(IDC_NEW_TEAM);
-      dialog.fill(IDC_TEAM_NAME, team.name);
-      for (const Person& person : team.people) {
-        if (person.isAlternate) break;
-        dialog.fill(IDC_MEMBER_NAME, person.name());
-        dialog.pressEnter();
-      }
-      dialog.fill(IDC_TEAM_NAME, team.name);
-      dialog.fill(IDC_COACH, team.coach);
-      dialog.click(IDC_ADD_TEAM);
-    }
-    choose(dialog, IDC_TEAM_LIST, team.name);
+void typeTeam(MemoryDialog& dialog, const RosterTeam& team) {
+  const Contest& contest = currentContest();
+  const auto regular = static_cast<std::size_t>(contest.settings.numPerTeam);
+  if (!contest.teams.contains(team.name)) {
+    dialog.click(IDC_NEW_TEAM);
+    dialog.fill(IDC_TEAM_NAME, team.name);
     for (const Person& person : team.people) {
-      const Team& written = contest.teams.at(team.name);
-      std::optional<std::size_t> free;
-      bool isThere = false;
-      for (std::size_t i = written.members.size(); i-- > 0;) {
-        const std::string& name = contestantName(contest, written.members[i]);
-        isThere = isThere || name == person.name();
-        if (name.empty() && (i >= regular || !person.isAlternate)) free = i;
-      }
-      if (isThere) continue;
-      ASSERT_TRUE(free);
-      choose(dialog, IDC_MEMBER_LIST, std::to_string(written.members[*free]) + " - ");
+      if (person.isAlternate) break;
       dialog.fill(IDC_MEMBER_NAME, person.name());
       dialog.pressEnter();
     }
-    if (!team.coach.empty() && contest.teams.at(team.name).coach.empty()) {
-      dialog.fill(IDC_COACH, team.coach);
-      dialog.click(IDC_UPDATE_TEAM);
-    }
+    dialog.fill(IDC_TEAM_NAME, team.name);
+    dialog.fill(IDC_COACH, team.coach);
+    dialog.click(IDC_ADD_TEAM);
   }
-};
+  choose(dialog, IDC_TEAM_LIST, team.name);
+  for (const Person& person : team.people) {
+    const Team& written = contest.teams.at(team.name);
+    std::optional<std::size_t> free;
+    bool isThere = false;
+    for (std::size_t i = written.members.size(); i-- > 0;) {
+      const std::string& name = contestantName(contest, written.members[i]);
+      isThere = isThere || name == person.name();
+      if (name.empty() && (i >= regular || !person.isAlternate)) free = i;
+    }
+    if (isThere) continue;
+    ASSERT_TRUE(free);
+    choose(dialog, IDC_MEMBER_LIST, std::to_string(written.members[*free]) + " - ");
+    dialog.fill(IDC_MEMBER_NAME, person.name());
+    dialog.pressEnter();
+  }
+  if (!team.coach.empty() && contest.teams.at(team.name).coach.empty()) {
+    dialog.fill(IDC_COACH, team.coach);
+    dialog.click(IDC_UPDATE_TEAM);
+  }
+}
+
+// Whoever finds no slot is not typed; such people come last in no roster here.
+Contest typed(const Contest& contest, const Roster& roster) {
+  currentContest() = contest;
+  SetupTeamsDialog behaviour;
+  MemoryDialog dialog(IDD_SETUP_TEAMS, behaviour);
+  for (const RosterTeam& team : roster) typeTeam(dialog, team);
+  dialog.click(IDC_TEAMS_DONE);
+  return currentContest();
+}
 
 // A way to write the same roster down.
 struct Dialect {
@@ -376,15 +370,15 @@ TEST(Roster, ImportingIsTyping) {
     ++imports;
     Contest imported = contest;
     importRoster(imported, plan);
-    const Contest typed = SetupTeams(contest).type(roster);
-    ASSERT_EQ(writeContest(imported), writeContest(typed)) << seed << "\n"
-                                                           << sheet << explained(plan, contest);
-    ASSERT_EQ(imported.settings, typed.settings) << seed;
+    const Contest asTyped = typed(contest, roster);
+    ASSERT_EQ(writeContest(imported), writeContest(asTyped)) << seed << "\n"
+                                                             << sheet << explained(plan, contest);
+    ASSERT_EQ(imported.settings, asTyped.settings) << seed;
     const RosterPlan again = planRoster(sheet, imported);
     ASSERT_TRUE(again.changesNothing && again.problems.empty()) << seed << "\n"
                                                                 << explained(again, imported);
     importRoster(imported, again);
-    ASSERT_EQ(writeContest(imported), writeContest(typed)) << seed;
+    ASSERT_EQ(writeContest(imported), writeContest(asTyped)) << seed;
   }
   EXPECT_GT(imports, 100);
 }

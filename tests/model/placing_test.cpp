@@ -1,8 +1,5 @@
 // What a placing is worth, and what all the cards of a class tell.
 #include "model/placing.h"
-#include "model/class_statistics.h"
-#include "tests/support/contest_builder.h"
-#include "tools/contest_maker.h"
 
 #include <gtest/gtest.h>
 
@@ -11,6 +8,10 @@
 #include <numeric>
 #include <set>
 #include <utility>
+
+#include "model/class_statistics.h"
+#include "tests/support/contest_builder.h"
+#include "tools/contest_maker.h"
 
 namespace scorvane {
 
