@@ -141,14 +141,7 @@ TEST_F(KeptWork, IsThereAsFarAsItWasShownWhereverThePowerFailed) {
     disk.files = {{kPath, untouched}};
     shown.clear();
     teamIsShown = false;
-    disk.calls = 0;
-    disk.cutAtCall = call;
-    isCut = false;
-    try {
-      aDay();
-    } catch (const MemoryFiles::PowerCut&) {
-      isCut = true;
-    }
+    isCut = disk.isCutAt(call, [&] { aDay(); });
     stopKeepingWork();
     const Contest typed = currentContest();
     const auto left = disk.files;
@@ -269,9 +262,7 @@ TEST_F(SharedWork, OfAnotherFileIsComparedWithWhatMustBeKnownOfIt) {
   disk.put("odd.scv", odd);
   disk.put("torn.scv", smallFile());
   disk.hasOtherNames = true;
-  disk.cutAtCall = disk.calls + 10;
-  EXPECT_THROW(static_cast<void>(saveSafely(disk, "torn.scv", odd)), MemoryFiles::PowerCut);
-  disk.cutAtCall = 0;
+  EXPECT_TRUE(disk.isCutAt(10, [&] { EXPECT_FALSE(saveSafely(disk, "torn.scv", odd)); }));
   for (const int id : {kCompare, kBringIn}) {
     for (const char* path : {"odd.scv", "torn.scv"}) {
       window.log.clear();

@@ -93,14 +93,7 @@ TEST_F(Recovery, IsItselfSafeFromPowerCuts) {
   for (int call = 1; isCut; ++call) {
     disk.files = left;
     disk.losePower(0);
-    disk.calls = 0;
-    disk.cutAtCall = call;
-    isCut = false;
-    try {
-      start();
-    } catch (const MemoryFiles::PowerCut&) {
-      isCut = true;
-    }
+    isCut = disk.isCutAt(call, [&] { start(); });
     stopKeepingWork();
     disk.losePower(0);
     ASSERT_TRUE(start());

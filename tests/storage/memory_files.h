@@ -39,8 +39,6 @@ class MemoryFiles : public FileSystem {
   int pausedFor = 0;               ///< milliseconds
 
   std::string readOnlyPath;  ///< what begins so can only be read
-  struct PowerCut {};
-  int cutAtCall = 0;  ///< the operation at which a PowerCut is thrown, half done; 0 for none
   std::int64_t clock = 1'000'000 * kTicksPerSecond;
   std::string localData = "local";
 
@@ -54,6 +52,19 @@ class MemoryFiles : public FileSystem {
     room = left;
     for (const auto& [path, file] : files) room += file.content.size();
   }
+  /// Whether the power fails amid some work: at the operation of this number, which is half done.
+  template <typename Work>
+  bool isCutAt(int call, const Work& work) {
+    cutAtCall_ = calls + call;
+    bool isCut = false;
+    try {
+      work();
+    } catch (const PowerCut&) {
+      isCut = true;
+    }
+    cutAtCall_ = 0;
+    return isCut;
+  }
   /// What the disk holds after a power cut: of what was not flushed the first `torn` bytes. False
   /// when no file has that many: all cases were seen.
   bool losePower(std::size_t torn) {
@@ -66,7 +77,6 @@ class MemoryFiles : public FileSystem {
         file.content.resize(std::min(file.content.size(), safe + torn));
       file = {file.content, true, file.content, file.changed};
     }
-    cutAtCall = 0;
     return isTorn;
   }
 
@@ -80,7 +90,6 @@ class MemoryFiles : public FileSystem {
       file.content.resize(std::min(file.content.size(), byte));
       if (byte < file.onMedium.size()) file.content += file.onMedium.substr(byte);
     }
-    cutAtCall = 0;
     return isTorn;
   }
 
@@ -159,6 +168,8 @@ class MemoryFiles : public FileSystem {
   }
 
  private:
+  struct PowerCut {};
+
   // Returns fewer bytes than there is room for.
   class Input final : public InputFile {
    public:
@@ -187,7 +198,7 @@ class MemoryFiles : public FileSystem {
     ~Output() override {
       if (!isOpen_) return;
       // Nothing is thrown from here; a cut is the same before the next operation.
-      if (disk_.cutAtCall == disk_.calls + 1) ++disk_.cutAtCall;
+      if (disk_.cutAtCall_ == disk_.calls + 1) ++disk_.cutAtCall_;
       static_cast<void>(close());
     }
 
@@ -241,7 +252,7 @@ class MemoryFiles : public FileSystem {
   /// Counts one more operation; whether it is to fail.
   bool fails() {
     ++calls;
-    if (calls == cutAtCall) throw PowerCut();
+    if (calls == cutAtCall_) throw PowerCut();
     return failingCall != 0 && (calls == failingCall || (stayBroken && calls > failingCall));
   }
   [[nodiscard]] std::size_t freeRoom() const {
@@ -251,6 +262,7 @@ class MemoryFiles : public FileSystem {
   }
 
   std::map<std::string, std::weak_ptr<void>> claims_;
+  int cutAtCall_ = 0;
 };
 
 }  // namespace scorvane
