@@ -86,19 +86,14 @@ class Disk {
   MemoryFiles files;
 };
 
-using Behaviour = std::unique_ptr<DialogBehaviour>;
 std::optional<Disk> disk;
 
-Behaviour earlierSavesOf(const std::string& path) {
-  return std::make_unique<EarlierSavesDialog>(disk->saves(path));
-}
-
 const SessionWorld kWorld = {
-    {{"Earlier Saves", [] { return earlierSavesOf(currentFileName()); }},
+    {{"Earlier Saves",
+      [] { return std::make_unique<EarlierSavesDialog>(disk->saves(currentFileName())); }},
      {"Import Roster", [] { return std::make_unique<ImportRosterDialog>(); }}},
     {{"a day",
       [] {
-        disk.reset();
         disk.emplace();
         disk->playDay();
         return currentContest();
@@ -110,7 +105,6 @@ const SessionWorld kWorld = {
       }},
      {"two unsaved contests",
       [] {
-        disk.reset();
         disk.emplace();
         Contest rest = daysWork()[1];
         rest.settings.contestDate = todaysDate();
