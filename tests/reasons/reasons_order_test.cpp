@@ -10,7 +10,6 @@
 #include "reasons/reasons_reports.h"
 #include "tests/reasons/reasons_contest.h"
 #include "tests/support/approved.h"
-#include "tests/support/reasons_check.h"
 #include "text/report_marks.h"
 
 namespace scorvane {
