@@ -245,11 +245,11 @@ TEST(ScoreSheets, TellTheRowsOfTheReports) {
                                    row.team->c_str(), row.score, row.place));
     }
     for (std::size_t kind = 0; kind < kScoreKinds.size(); ++kind) {
-      const std::size_t before = std::array{3, 0, 1, 2}.at(kind);  // scores of other kinds
+      constexpr std::array<std::size_t, 4> kBefore = {3, 0, 1, 2};  // scores of other kinds
       for (const TeamRow& row : teamRows(contest, everybodyRequest(contest, kScoreKinds[kind]))) {
         const std::string place = kind == 0 ? std::to_string(row.place) : ".*";
         expectRow(teams, formatText("%s,%s,[^,]*(?:,[^,]*){%zu},%d,.*", place.c_str(),
-                                    row.name->c_str(), before, row.score));
+                                    row.name->c_str(), kBefore.at(kind), row.score));
       }
     }
   }
