@@ -217,6 +217,7 @@ bool hasEveryScoreOf(const Contest& base, const Contest& side, const Merge& merg
     std::vector<ContestantNumber> numbers = {number};
     for (const NumberChange& change : numberChanges) {
       if (change.from == number) numbers.push_back(change.to);
+      if (change.to == number) numbers.push_back(change.from);
     }
     for (const auto& [other, name] : merge.contest.contestantNames) {
       if (!name.empty() && name == contestantName(side, number)) numbers.push_back(other);
@@ -294,7 +295,7 @@ bool isKnownByName(const Contest& base, const Contest& side, const Contest& merg
     };
     if (before == after && now == after) return true;
     if (std::any_of(before.begin(), before.end(), isUnclear)) return false;
-    if (after.size() == before.size()) return true;
+    if (after.size() == before.size()) return now.size() == before.size() || after == before;
     const std::vector<ClassMatch> matches = matchNames(before, now, true);
     return std::all_of(matches.begin(), matches.end(), [&](const ClassMatch& match) {
       return !match.here || !match.there ||
