@@ -215,6 +215,10 @@ bool hasEveryScoreOf(const Contest& base, const Contest& side, const Merge& merg
   }
   for (const auto& [number, records] : side.scores) {
     std::vector<ContestantNumber> numbers = {number};
+    std::vector<ContestantNumber> bases = {number};
+    for (const auto& [other, name] : base.contestantNames) {
+      if (!name.empty() && name == contestantName(side, number)) bases.push_back(other);
+    }
     for (const NumberChange& change : numberChanges) {
       if (change.from == number) numbers.push_back(change.to);
       if (change.to == number) numbers.push_back(change.from);
@@ -233,11 +237,13 @@ bool hasEveryScoreOf(const Contest& base, const Contest& side, const Merge& merg
     }
     for (const auto& [k, record] : records) {
       const auto index = static_cast<std::size_t>(k);
-      const ScoreRecord& old = scoreRecord(base, number, before[index].value_or(-1));
       for (const ScoreValue value :
            {ScoreValue::letter, ScoreValue::reasons, ScoreValue::questions}) {
         const std::int32_t typed = valueOf(record, value);
-        if (!isEntered(value, record) || typed == valueOf(old, value)) continue;
+        const auto isOld = [&](ContestantNumber n) {
+          return valueOf(scoreRecord(base, n, before[index].value_or(-1)), value) == typed;
+        };
+        if (!isEntered(value, record) || std::any_of(bases.begin(), bases.end(), isOld)) continue;
         const auto isThere = [&](ContestantNumber n) {
           return std::any_of(after[index].begin(), after[index].end(), [&](std::int32_t place) {
             return valueOf(scoreRecord(merge.contest, n, place), value) == typed;
