@@ -138,7 +138,7 @@ TEST(DifferencesReport, ListsEverythingThatDiffersWithinEightyColumns) {
   now.classes.className[2] = "Yearling Rams";
   now.classes.officialLetter[0] = 'X';
   now.classes.cut3[0] = 6;
-  now.classes.reasonsFlag[1] = true;
+  now.classes.reasonsFlag[1] = now.classes.questionsFlag[3] = true;
   now.teams["Elm Street Four-Corners Club of Judges"].coach = "Mr. Oakley";
   removeTeam(now, "Yew");
   now.contestantNames[103] = "Zoe";
