@@ -385,10 +385,11 @@ std::string brokenMergeLaw(const Contest& base, const Contest& ours, const Conte
   }
   // An older ancestor than what was read last knows less of new numbers, of those in two teams and
   // of what stayed.
-  const bool isAllKnown =
-      !isShared && merge.numbers.empty() && back.numbers.empty() && merge.lostRemovals.empty() &&
-      !hasNamesakes(base) && !hasNamesakes(ours) && !hasNamesakes(theirs) &&
-      isKnownByName(base, ours, merge.contest) && isKnownByName(base, theirs, merge.contest);
+  const bool isAllKnown = !isShared && !sharesNumbers(base, any) && merge.numbers.empty() &&
+                          back.numbers.empty() && merge.lostRemovals.empty() &&
+                          !hasNamesakes(base) && !hasNamesakes(ours) && !hasNamesakes(theirs) &&
+                          isKnownByName(base, ours, merge.contest) &&
+                          isKnownByName(base, theirs, merge.contest);
   if (isAllKnown && mergeContests(base, merge.contest, theirs).contest != merge.contest) {
     return "merging twice changes nothing";
   }
