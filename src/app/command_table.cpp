@@ -208,7 +208,11 @@ bool worksOnContest(const Command& command) {
 void runCommand(int id, MainWindow& window) {
   const Command* command = findCommand(id);
   if (command == nullptr) return;
-  if (worksOnContest(*command)) lookForOthersWork(window);
+  if (worksOnContest(*command)) {
+    lookForOthersWork(window);
+    // Nobody shall type cards under numbers that have just become those of others.
+    if (command->report() == nullptr && tellNews(window)) return;
+  }
   if (const Report* report = command->report()) {
     runReport(window, *report);
   } else {

@@ -66,9 +66,9 @@ void lookForOthersWork(MainWindow& window) {
   if (takeInOthersWork()) showContestTitle(window);
 }
 
-void tellNews(MainWindow& window) {
+bool tellNews(MainWindow& window) {
   const auto news = takeNews();
-  if (!news) return;
+  if (!news) return false;
   std::string text = replacedText(news->replaced, news->isKept);
   if (!news->merge.isSmooth()) {
     text += (text.empty() ? "" : "\r\n") + mergeText(news->merge, news->isKept);
@@ -77,6 +77,7 @@ void tellNews(MainWindow& window) {
   }
   window.refreshReportView();
   window.show(text, "Information");
+  return true;
 }
 
 }  // namespace scorvane

@@ -11,6 +11,7 @@ void lookForOthersWork(MainWindow& window);
 
 /// Says what a save has met, if anything, and shows the list of what is to be looked after behind
 /// the report on screen, or instead of the welcome text. To be called when a command has ended.
-void tellNews(MainWindow& window);
+/// Whether there was any.
+bool tellNews(MainWindow& window);
 
 }  // namespace scorvane

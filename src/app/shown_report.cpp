@@ -11,6 +11,7 @@
 #include "results/custom_report_dialog.h"
 #include "results/custom_report_ids.h"
 #include "session/contest_file.h"
+#include "session/data_folder.h"
 #include "session/open_contest.h"
 #include "session/recovery.h"
 #include "storage/contest_loader.h"
@@ -81,6 +82,11 @@ void tellOfOtherFile(Window& window, const std::string& path, const LoadedContes
 std::optional<ReportRequest> askOtherContest(MainWindow& window) {
   const auto path = window.chooseFile(contestFileQuestion(FileQuestion::Purpose::open));
   if (!path) return std::nullopt;
+  // Nothing would differ, and seem to be typed without a mistake.
+  if (!currentFileName().empty() && reachesSameFile(sessionFiles(), *path, currentFileName())) {
+    window.show("This is the file of the open contest.  Choose the other one.", "Error");
+    return std::nullopt;
+  }
   auto loading = loadContestFile(sessionFiles(), *path);
   auto* loaded = std::get_if<LoadedContest>(&loading);
   if (loaded == nullptr) {

@@ -67,22 +67,39 @@ void runEarlierSaves(MainWindow& window) {
   sayIfWorkIsNotKept(window);
 }
 
+namespace {
+
+std::string bringInQuestion(const BroughtScores& brought, const std::string& from) {
+  const auto counted = [](std::size_t count, const char* one, const char* many) {
+    return std::to_string(count) + (count == 1 ? one : many);
+  };
+  std::string text = counted(brought.broughtIn.size(), " score that is", " scores that are") +
+                     " missing here will be brought in from " + from + ".  " +
+                     counted(brought.differing.size(), " score differs and stays as it is",
+                             " scores differ and stay as they are") +
+                     ".  ";
+  const std::size_t people = brought.people.here.size() + brought.people.there.size();
+  const std::size_t classes = brought.classes.here.size() + brought.classes.there.size();
+  if (people + classes > 0) {
+    text += "Left out: " + counted(people, " contestant", " contestants") + " and " +
+            counted(classes, " class", " classes") + " that only one of the files has.  ";
+  }
+  if (!brought.leftOut.empty()) {
+    text += "Left out: " + counted(brought.leftOut.size(), " score", " scores") +
+            " of classes without such scores.  ";
+  }
+  return text + "Continue?";
+}
+
+}  // namespace
+
 void runBringInScores(MainWindow& window) {
   const auto request = askOtherContest(window);
   if (!request) return;
   BroughtScores brought = bringInScores(currentContest(), *request->other);
   const std::string report = broughtScoresReport(brought);
   if (!brought.broughtIn.empty()) {
-    const auto counted = [](std::size_t count, const char* one, const char* many) {
-      return std::to_string(count) + (count == 1 ? one : many);
-    };
-    if (!window.confirm(counted(brought.broughtIn.size(), " score that is", " scores that are") +
-                        " missing here will be brought in from " + request->otherName + ".  " +
-                        counted(brought.differing.size(), " score differs and stays as it is",
-                                " scores differ and stay as they are") +
-                        ".  Continue?")) {
-      return;
-    }
+    if (!window.confirm(bringInQuestion(brought, request->otherName))) return;
     currentContest() = std::move(brought.contest);
     contestChanged();
     saveCurrent(window);

@@ -57,9 +57,11 @@ void declareMerge(CLI::App& app, MergeOptions& o) {
       ->type_name("OUT")
       ->required();
   command->footer(
-      "Exit status: 0 done; 1 nothing done: a file cannot be read or written; 2 wrong usage; 3 "
-      "done,\n"
-      "and values differ, something was left out, a removal lost or numbers changed.");
+      "Exit status: 0 done; 1 nothing done: a file cannot be read or written, or ANCESTOR is "
+      "another\n"
+      "contest; 2 wrong usage; 3 done, and values differ, something was left out, a removal lost "
+      "or\n"
+      "numbers changed.");
 }
 
 Refusal refuseRest(const CLI::App& app) {

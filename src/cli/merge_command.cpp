@@ -32,12 +32,13 @@ CliResult finish(ContestInFile& ours, Contest merged, const std::string& report,
 }  // namespace
 
 CliResult runMerge(const MergeOptions& options, FileSystem& files) {
-  const auto status = files.status(options.ours);
-  if (status && !status->exists)
-    return nothingDone("cannot read '" + contestText(options.ours) + "'");
   auto opening = ContestInFile::open(files, options.ours);
   if (const auto* refusal = std::get_if<std::string>(&opening)) return nothingDone(*refusal);
   auto& ours = std::get<ContestInFile>(opening);
+  if (!ours.isThere()) {
+    return nothingDone(formatText("cannot read '%s': it does not exist or cannot be opened",
+                                  contestText(options.ours).c_str()));
+  }
   const auto theirs = openContest(options.theirs, files, kContestProgram, ours.remarks);
   if (const auto* refusal = std::get_if<std::string>(&theirs)) return refused(ours, *refusal);
   const Contest& other = std::get<LoadedContest>(theirs).contest;

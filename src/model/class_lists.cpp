@@ -36,6 +36,12 @@ bool hasCategories(const Contest& contest) {
   return names.size() > 1 || (names.size() == 1 && names[0] != kNoCategory);
 }
 
+bool categoriesFit(const std::vector<std::string>& categories) {
+  std::size_t length = 0;
+  for (const std::string& name : categories) length += 1 + name.size();
+  return length <= kCategoriesRoom;
+}
+
 std::vector<std::vector<std::int32_t>> classesByCategory(const Contest& contest) {
   std::vector<std::vector<std::int32_t>> members(
       std::max<std::size_t>(contest.categories.size(), 1));

@@ -1,6 +1,7 @@
 // Which classes there are, and the lines that lists show them in.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -16,6 +17,12 @@ namespace scorvane {
 
 /// Whether the contest has categories: the placeholder of a contest without any is none.
 [[nodiscard]] bool hasCategories(const Contest& contest);
+
+/// Bytes that a contest's file has for the names of the categories, each with a TAB before it.
+inline constexpr std::size_t kCategoriesRoom = 486;
+
+/// Whether the names have room on their line of the file.
+[[nodiscard]] bool categoriesFit(const std::vector<std::string>& categories);
 
 /// The classes of each category, one entry a category and one at least. A class without a category
 /// of its own is one of the first.

@@ -83,12 +83,6 @@ std::vector<std::string> savedCategories(const Contest& contest) {
   return contest.categories.empty() ? std::vector<std::string>{kNoCategory} : contest.categories;
 }
 
-std::string joined(const std::vector<std::string>& names) {
-  std::string text;
-  for (const std::string& name : names) text += (text.empty() ? "" : ", ") + name;
-  return text;
-}
-
 std::int32_t valueOf(ScoreValue value, const ScoreRecord& record) {
   switch (value) {
     case ScoreValue::letter:
@@ -152,7 +146,7 @@ class Comparison {
           count.there == 0 ? "" : name);
     }
     if (found_.values.size() == before) {
-      add(DifferenceKind::category, "categories", "order", joined(here), joined(there));
+      add(DifferenceKind::category, "categories", "order", joinedNames(here), joinedNames(there));
     }
   }
 
@@ -285,6 +279,12 @@ class Comparison {
 };
 
 }  // namespace
+
+std::string joinedNames(const std::vector<std::string>& names) {
+  std::string text;
+  for (const std::string& name : names) text += (text.empty() ? "" : ", ") + name;
+  return text;
+}
 
 CardPosition cardPosition(const Contest& contest, ScoreValue value, ContestantNumber number) {
   if (value != ScoreValue::reasons) {

@@ -48,6 +48,9 @@ struct Difference {
   Sides<std::string> sides;  ///< "" where there is nothing
 };
 
+/// The names of a list as one value, with commas between them.
+[[nodiscard]] std::string joinedNames(const std::vector<std::string>& names);
+
 enum class ScoreValue {
   letter,
   reasons,

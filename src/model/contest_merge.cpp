@@ -180,23 +180,18 @@ class ContestMerge {
 
   // Stores the order; of what both sides added the name decides.
   template <typename Name>
-  void arrange(MergedList& list, DifferenceKind kind, const char* subject, Name nameOf) {
+  void arrange(MergedList& list, DifferenceKind kind, const char* subject, Name namesOn) {
     const auto anyName = [&](std::size_t id) -> const std::string& {
       const Side side = list.elements[id][kOurs] ? kOurs : kTheirs;
-      return nameOf(side, *list.elements[id][side]);
+      return namesOn(side)[static_cast<std::size_t>(*list.elements[id][side])];
     };
     MergedOrder order = mergedOrder(list.elements, list.stays, [&](std::size_t a, std::size_t b) {
       return anyName(a) < anyName(b);
     });
     list.arrange(std::move(order.elements));
     if (!order.differs) return;
-    std::array<std::string, 3> texts;
-    for (const Side side : {kOurs, kTheirs}) {
-      for (std::size_t k = 0; k < list.elementOf[side].size(); ++k) {
-        texts[side] += (k == 0 ? "" : ", ") + nameOf(side, static_cast<std::int32_t>(k));
-      }
-    }
-    state_.differs(kind, subject, "order", texts[kOurs], texts[kTheirs]);
+    state_.differs(kind, subject, "order", joinedNames(namesOn(kOurs)),
+                   joinedNames(namesOn(kTheirs)));
   }
 
   // Merges a value of an element; what is on one side only is that side's.
@@ -222,18 +217,38 @@ class ContestMerge {
       const Side side = element[kOurs] ? kOurs : kTheirs;
       categories_.stays[id] = element[side] && isGivenAnew(side, id);
     }
-    const auto nameOf = [this](Side side, std::int32_t index) -> const std::string& {
-      return categoryLists_[side][static_cast<std::size_t>(index)];
+    const auto namesOn = [this](Side side) -> const std::vector<std::string>& {
+      return categoryLists_[side];
     };
-    arrange(categories_, DifferenceKind::category, "categories", nameOf);
+    arrange(categories_, DifferenceKind::category, "categories", namesOn);
     for (const std::size_t id : categories_.order) {
-      const auto of = [&](Side side, std::int32_t index) { return nameOf(side, index); };
+      const auto of = [&](Side side, std::int32_t index) {
+        return categoryLists_[side][static_cast<std::size_t>(index)];
+      };
       result().categories.push_back(mergeElement(
           categories_.elements[id], of, [&](const std::string& ours, const std::string& theirs) {
             state_.differs(DifferenceKind::category, "category " + ours, "name", ours, theirs);
           }));
     }
+    if (!categoriesFit(result().categories)) keepOurCategories();
     if (result().categories.empty()) result().categories = {kNoCategory};
+  }
+
+  // What both sides have has no room in the file: theirs is left out and listed.
+  void keepOurCategories() {
+    const auto nameOn = [this](Side side, Index index) {
+      return index ? categoryLists_[side][static_cast<std::size_t>(*index)] : std::string();
+    };
+    for (const std::size_t id : categories_.order) {
+      const auto& [base, ours, theirs] = categories_.elements[id];
+      const std::string ourName = nameOn(kOurs, ours), theirName = nameOn(kTheirs, theirs);
+      const bool isOurs = ourName == theirName || (ours && base && ourName != nameOn(kBase, base));
+      if (!theirs || isOurs) continue;
+      state_.differs(DifferenceKind::category, "category " + theirName, ours ? "name" : "", ourName,
+                     theirName);
+    }
+    categories_.arrange(categories_.elementOf[kOurs]);
+    result().categories = categoryLists_[kOurs];
   }
 
   [[nodiscard]] bool isGivenAnew(Side side, std::size_t category) const {
@@ -251,10 +266,10 @@ class ContestMerge {
   }
 
   void mergeClasses() {
-    const auto nameOf = [this](Side side, std::int32_t index) -> const std::string& {
-      return in(side).classes.name(index);
+    const auto namesOn = [this](Side side) -> const std::vector<std::string>& {
+      return in(side).classes.className;
     };
-    arrange(state_.classes, DifferenceKind::judgedClass, "classes", nameOf);
+    arrange(state_.classes, DifferenceKind::judgedClass, "classes", namesOn);
     for (const std::size_t id : state_.classes.order) mergeClass(state_.classes.elements[id]);
   }
 
@@ -287,12 +302,14 @@ class ContestMerge {
     cuts.cut1 = cut("cut 1", &Cuts::cut1);
     cuts.cut2 = cut("cut 2", &Cuts::cut2);
     cuts.cut3 = cut("cut 3", &Cuts::cut3);
-    const std::optional<std::size_t> category = merge(
+    std::optional<std::size_t> category = merge(
         "category", [&](Side s, std::int32_t k) { return categoryOf(s, k); },
         [&](std::optional<std::size_t> id) {
           const Index index = id ? categories_.indexOf[*id] : std::nullopt;
           return index ? categoryName(result(), *index) : std::string(kNoCategory);
         });
+    const bool isLeftOut = category && !categories_.indexOf[*category];
+    if (isLeftOut && element[kOurs]) category = categoryOf(kOurs, *element[kOurs]);
     const Index index = category ? categories_.indexOf[*category] : std::nullopt;
     result().classes.add(std::move(name), reasons, questions, official, cuts, index.value_or(0));
   }

@@ -311,7 +311,11 @@ class RosterMatcher {
     const std::size_t moved = matchBy(
         [](const Member& a, const Member& b) { return a.name == b.name && !a.name.empty(); });
     const auto isOnePlace = [&](const Member& a, const Member& b) {
-      return teams_[from][a.position].size() == 1 && teams_[to][b.position].size() == 1;
+      const auto& teams = teams_[from][a.position];
+      const auto& others = teams_[to][b.position];
+      const auto isSame = [](const std::string* x, const std::string* y) { return *x == *y; };
+      return (teams.size() == 1 && others.size() == 1) ||
+             std::equal(teams.begin(), teams.end(), others.begin(), others.end(), isSame);
     };
     // Two people of a new team are not one merely renamed.
     const auto isPlausible = [&](const Member& a, const Member& b) {
@@ -325,7 +329,7 @@ class RosterMatcher {
         return a.slot == b.slot && a.name.empty() && b.name.empty() && isOnePlace(a, b);
       });
     }
-    if (isNew) {
+    if (!same_.teams[same_.teamOf[from].at(team)][kBase]) {
       matchBy([](const Member& a, const Member& b) { return a.name.empty() != b.name.empty(); });
       matchBy([](const Member& a, const Member& b) { return a.name.empty() && b.name.empty(); });
     }

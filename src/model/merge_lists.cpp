@@ -68,6 +68,7 @@ MergedList::MergedList(const std::array<const std::vector<std::string>*, 3>& lis
 
 void MergedList::arrange(std::vector<std::size_t> elementsInOrder) {
   order = std::move(elementsInOrder);
+  indexOf.assign(elements.size(), std::nullopt);
   for (std::size_t k = 0; k < order.size(); ++k) indexOf[order[k]] = static_cast<std::int32_t>(k);
 }
 

@@ -14,6 +14,15 @@ constexpr Side otherSide(Side side) {
   return side == kOurs ? kTheirs : kOurs;
 }
 
+/// The side that still has what the ancestor has and the other side removed.
+template <typename Key>
+std::optional<Side> keeperOf(const Three<Key>& thing) {
+  if (!thing[kBase] || thing[kOurs].has_value() == thing[kTheirs].has_value()) {
+    return std::nullopt;
+  }
+  return thing[kOurs] ? kOurs : kTheirs;
+}
+
 /// The value that one side changed; ours, after calling report(), when both did. Without a base
 /// both sides are new.
 template <typename Value, typename Report>

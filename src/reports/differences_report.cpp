@@ -104,10 +104,19 @@ class DifferencesReport {
     const std::string who =
         formatText("%5d %s", score.number,
                    (name.empty() ? contestantName(there_, score.number) : name).c_str());
-    const std::string group(1, groupOfContestant(contest, score.number));
-    appendFormat(out_, kScoreRow, who.c_str(), ("  " + group).c_str(), scoreWord(score.value),
+    appendFormat(out_, kScoreRow, who.c_str(), pileText(contest, score).c_str(),
+                 scoreWord(score.value),
                  orHyphen(scoreText(score.value, score.records.here)).c_str(),
                  orHyphen(scoreText(score.value, score.records.there)).c_str());
+  }
+
+  // The group in whose pile the card lies: cards of reasons lie by reasons group.
+  static std::string pileText(const Contest& contest, const ScoreDifference& score) {
+    if (score.value != ScoreValue::reasons) {
+      return formatText("  %c", groupOfContestant(contest, score.number));
+    }
+    const ReasonsPlace place = reasonsPlaceOf(contest, score.number);
+    return place.isAssigned() ? formatText("  %d", place.group + 1) : "  -";
   }
 
   const Contest& here_;

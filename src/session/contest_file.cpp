@@ -237,14 +237,15 @@ void saveCurrent(Window& owner) {
 
 void saveContestAs(Window& owner) {
   const FileQuestion question = contestFileQuestion(FileQuestion::Purpose::save);
+  takeInOthersWork();  // for a file that they do not save to
   // Odd but required, docs/required-behaviour.md: save-as-forgets-the-name
   currentFileName().clear();
   auto path = owner.chooseFile(question);
   if (!path) return contestWasNotSaved(NotSaved::cancelled);
   if (countCharacters(*path) > kMaxPathLength) return sayNotSaved(owner);
   currentFileName() = std::move(*path);
-  // Choosing the name was the consent to replace what is there.
-  saveToCurrentFile(owner, OthersWork::replaced);
+  // Choosing the name was the consent to replace what is there, but not what others save there.
+  saveToCurrentFile(owner, isOwnFile() ? OthersWork::takenIn : OthersWork::replaced);
 }
 
 bool saveElsewhere(const std::string& path, std::string_view bytes) {

@@ -4,11 +4,13 @@
 #include <utility>
 #include <variant>
 
+#include "session/data_folder.h"
 #include "session/earlier_saves.h"
 #include "session/open_contest.h"
 #include "session/recovery.h"
 #include "storage/content_hash.h"
 #include "storage/contest_reader.h"
+#include "storage/contest_writer.h"
 #include "storage/file.h"
 
 namespace scorvane {
@@ -136,6 +138,13 @@ void knowFileForNow(std::string_view bytes) {
   knowFile(bytes);
 }
 
+bool isOwnFile() {
+  const std::string& path = currentFileName();
+  if (known().path.empty() || !reachesSameFile(sessionFiles(), path, known().path)) return false;
+  known().path = path;
+  return true;
+}
+
 void forgetFile() {
   sharing() = {};
 }
@@ -154,9 +163,12 @@ bool takeInOthersWork() {
   known().isSettled = now - known().stampSince >= kCoarsest;
   const std::uint64_t hash = contentHash(*bytes);
   if (hash == known().hash || hash == sharing().refusedHash) return false;
-  if (takeIn(*bytes, Theirs::keep) == Replaced::nothing) return true;
-  sharing().refusedHash = hash;
-  return false;
+  if (takeIn(*bytes, Theirs::keep) != Replaced::nothing) {
+    sharing().refusedHash = hash;
+    return false;
+  }
+  if (writeContest(currentContest()) == *bytes) newsMayBeTold();
+  return true;
 }
 
 void takeInBeforeSaving(const std::optional<std::string>& found, bool isLocked) {

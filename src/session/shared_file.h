@@ -24,6 +24,9 @@ void knowFile(std::string_view bytes);
 /// It was written while somebody else may have been saving as well. Until that is known, what both
 /// have in common is what the file held before.
 void knowFileForNow(std::string_view bytes);
+/// Whether the file that was just chosen is the one that the contest was read from, or written to,
+/// before: under whatever name, it is known by this one now.
+[[nodiscard]] bool isOwnFile();
 /// Nothing is known of any file, and there is no news.
 void forgetFile();
 
@@ -40,7 +43,7 @@ void foundWasReplaced(bool isKept);
 
 /// To be told once the contest is saved.
 void addNews(const Merge& merge);
-/// The contest was saved.
+/// The contest was saved, or is in its file as it is.
 void newsMayBeTold();
 /// It was not, so nothing was replaced.
 void nothingWasReplaced();

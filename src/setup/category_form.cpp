@@ -5,8 +5,8 @@
 #include <utility>
 #include <vector>
 
+#include "model/class_lists.h"
 #include "setup/setup_ids.h"
-#include "storage/contest_writer.h"
 #include "ui/field_text.h"
 
 namespace scorvane {

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <variant>
 
+#include "model/class_lists.h"
 #include "storage/contest_format.h"
 #include "text/number.h"
 
@@ -52,6 +53,8 @@ void appendSectionStart(std::string& out, std::string_view marker, std::int64_t 
   appendNumber(out, count);
   out += kLineEnd;
 }
+
+static_assert(kCategoriesKey.size() + kCategoriesRoom == kLineRoom);
 
 void appendCategories(std::string& out, const std::vector<std::string>& categories,
                       CutTexts& shortened) {
@@ -240,13 +243,6 @@ std::vector<Finding> cutTexts(const Contest& contest) {
   CutTexts shortened;
   appendTexts(out, contest, shortened);
   return shortened;
-}
-
-bool categoriesFit(const std::vector<std::string>& categories) {
-  std::string out;
-  CutTexts shortened;
-  appendCategories(out, categories, shortened);
-  return shortened.empty();
 }
 
 std::string writeContest(const Contest& contest) {

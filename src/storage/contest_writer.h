@@ -18,7 +18,4 @@ namespace scorvane {
 /// Every text that writeContest() cuts, in the order of the file, as a finding of kind textCut.
 [[nodiscard]] std::vector<Finding> cutTexts(const Contest& contest);
 
-/// Whether the names have room on their line.
-[[nodiscard]] bool categoriesFit(const std::vector<std::string>& categories);
-
 }  // namespace scorvane

@@ -7,6 +7,7 @@
 
 #include "app/command_table.h"
 #include "app/file_menu.h"
+#include "model/contest_merge.h"
 #include "reports/round_reports.h"
 #include "reports/round_verification_ids.h"
 #include "reports/verification_reports.h"
@@ -24,7 +25,7 @@ namespace scorvane {
 namespace {
 
 constexpr int kSave = 32773, kSetupContest = 32787, kRoundVerification = 32862, kLetters = 32846;
-constexpr int kCompare = 33021, kBringIn = 33022;
+constexpr int kLookup = 32791, kCompare = 33021, kBringIn = 33022;
 const std::string kPath = "fair.scv";
 
 struct SharedWork : testing::Test {
@@ -83,7 +84,7 @@ TEST_F(SharedWork, CountsInReportsAndDialogs) {
     othersType(102, 'E');
     dialog.pressEscape();
   };
-  runCommand(32791, window);
+  runCommand(kLookup, window);
   EXPECT_EQ(scoreRecord(currentContest(), 102, 0).letter, 'E');
 
   // When it was taken in by the save at the end of a dialog.
@@ -91,7 +92,7 @@ TEST_F(SharedWork, CountsInReportsAndDialogs) {
     othersSave([](Contest& theirs) { theirs.settings.contestName = "Hill Fair"; });
     dialog.pressCloseBox();
   };
-  runCommand(32791, window);
+  runCommand(kLookup, window);
   EXPECT_NE(window.log.find("fair.scv - Hill Fair"), std::string::npos) << window.log;
   EXPECT_TRUE(window.desktop.messages.empty());
 }
@@ -114,6 +115,60 @@ TEST_F(SharedWork, OfAnotherFileIsComparedWithWhatMustBeKnownOfIt) {
       EXPECT_EQ(window.log.find("left unfinished") != std::string::npos, path[0] == 't');
     }
   }
+}
+
+TEST_F(SharedWork, OfAnotherFileIsBroughtInOnceTheCountsWereAgreedTo) {
+  othersSave([](Contest& other) {
+    other.scores[102][0] = {'A', 0, 20, 9};
+    other.classes.className[1] = "Hogs";
+  });
+  std::swap(disk.files["other.scv"], disk.files[kPath]);
+  disk.files[kPath].content = smallFile();
+  for (const Answer answer : {Answer::cancel, Answer::ok}) {
+    const bool agrees = answer == Answer::ok;
+    window.log.clear();
+    window.desktop.files = {"other.scv"};
+    window.desktop.answers = {answer};
+    runCommand(kBringIn, window);
+    EXPECT_NE(window.log.find("  Warning: 1 score that is missing here will be brought in from "
+                              "other.scv.  1 score differs and stays as it is.  Left out: 0 "
+                              "contestants and 2 classes that only one of the files has.  Left "
+                              "out: 1 score of classes without such scores.  Continue? (Enter c"),
+              std::string::npos)
+        << window.log;
+    EXPECT_EQ(disk.files[kPath].content != smallFile(), agrees);
+    EXPECT_EQ(scoreRecord(currentContest(), 102, 0).reasonsScore, agrees ? 20 : 0);
+    EXPECT_EQ(reportText().starts_with("Scores brought in"), agrees);
+  }
+  for (const int id : {kCompare, kBringIn}) {
+    window.log.clear();
+    window.desktop.files = {kPath};
+    runCommand(id, window);
+    EXPECT_NE(window.log.find("Error: This is the file of the open contest."), std::string::npos);
+  }
+}
+
+TEST_F(SharedWork, WithOtherNumbersIsToldOfBeforeCardsAreTyped) {
+  const Contest base = currentContest();
+  const auto withTeam = [&base](const char* name) {
+    Contest contest = base;
+    for (auto& number : contest.teams[name].members = {104, 105, 106}) {
+      contest.contestantNames[number] = name;
+    }
+    return contest;
+  };
+  currentContest() = withTeam("Avon");
+  runCommand(kSave, window);
+  disk.files[kPath].content =
+      writeContest(mergeContests(base, withTeam("Birch"), withTeam("Avon")).contest);
+  window.log.clear();
+  runCommand(kLookup, window);
+  EXPECT_NE(window.log.find("3 contestants have other numbers now."), std::string::npos)
+      << window.log;
+  EXPECT_NE(reportText().find("104 to 106 are now 107 to 109"), std::string::npos);
+  EXPECT_EQ(window.log.find("dialog:"), std::string::npos) << window.log;
+  runCommand(kLookup, window);
+  EXPECT_NE(window.log.find("dialog:"), std::string::npos) << window.log;
 }
 
 TEST_F(SharedWork, IsToldOfWhenTheDialogHasClosed) {

@@ -110,6 +110,23 @@ TEST(ContestMerge, GivesNobodyTheScoresOfARemovedMember) {
   EXPECT_EQ(scoreRecord(other.contest, 103, 0).letter, kNoLetter);
 }
 
+TEST(ContestMerge, LeavesOutAndListsTheirCategoriesThatHaveNoRoom) {
+  Contest base = makeContest({.classes = 2});
+  base.categories = {"Beef", "Sheep"};
+  Contest ours = base, theirs = base;
+  for (int k = 0; k < 24; ++k) {
+    ours.categories.push_back("Ours " + std::to_string(100000 + k));
+    theirs.categories.push_back("Theirs " + std::to_string(1000 + k));
+  }
+  theirs.classes.categoryIndex = {1, 20};
+  const Merge merge = mergeContests(base, ours, theirs);
+  EXPECT_EQ(merge.contest.categories, ours.categories);
+  EXPECT_EQ(merge.contest.classes.categoryIndex, (std::vector<std::int32_t>{1, 1}));
+  ASSERT_EQ(merge.values.size(), 24U);
+  EXPECT_EQ(merge.values[0].subject, "category Theirs 1000");
+  EXPECT_EQ(merge.values[23].sides.there, "Theirs 1023");
+}
+
 TEST(BringInScores, TakesOverWhatIsMissing) {
   ContestBuilder builder;
   builder.addClass({.name = "Steers"})

@@ -42,6 +42,7 @@ TEST(DifferencesReport, ListsEverythingThatDiffersWithinEightyColumns) {
   now.reasonsPlace[104] = {1, 4};
   now.scores[101][0].letter = 'T';
   now.scores[102][1].letter = ' ';
+  now.scores[104][0].reasonsScore = 33;
   now.scores[104][1].placingScore = 7;
   now.scores[105][0].reasonsScore = 0;
   now.scores[105][1].questionsScore = 21;

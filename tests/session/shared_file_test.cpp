@@ -226,11 +226,25 @@ TEST_F(SharedFile, IsReplacedByNoOtherContest) {
     EXPECT_EQ(newest == found, !found.empty());
   }
   // The name was chosen.
-  put(another);
-  window.desktop.files = {kPath};
+  disk.files["hogs.scv"] = {another, true, another};
+  window.desktop.files = {"hogs.scv"};
   saveContestAs(window);
-  EXPECT_EQ(letters(inFile())[0], 'A');
+  EXPECT_NE(disk.files["hogs.scv"].content, another);
   EXPECT_FALSE(takeNews());
+}
+
+TEST_F(SharedFile, LosesNothingWhenItsNameIsChosenAgainOrAnotherOne) {
+  type(101, 0, 'A');
+  othersSave(102, 0, 'B');
+  window.desktop.files = {"copy.scv", std::nullopt, "COPY.scv"};
+  saveContestAs(window);
+  EXPECT_EQ(letters(currentContest()), "AB ");
+  saveContestAs(window);
+  put(disk.files["copy.scv"].content);
+  othersSave(103, 0, 'C');
+  disk.files["COPY.scv"] = disk.files[kPath];
+  saveContestAs(window);
+  EXPECT_EQ(letters(currentContest()), "ABC");
 }
 
 // Without the lock, somebody who read the file before may replace it at any moment.
