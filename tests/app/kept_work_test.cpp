@@ -8,8 +8,11 @@
 #include "session/open_contest.h"
 #include "session/recovery.h"
 #include "setup/setup_ids.h"
+#include "storage/contest_loader.h"
 #include "storage/contest_writer.h"
+#include "storage/safe_save.h"
 #include "tests/app/memory_main_window.h"
+#include "tests/storage/contest_text.h"
 #include "tests/storage/memory_files.h"
 #include "tests/support/contest_builder.h"
 
@@ -187,6 +190,30 @@ TEST_F(KeptWork, IsSaidToBeUnsafeOnceADialogHasClosed) {
     window.log.clear();
   }
   EXPECT_EQ(scoreRecord(currentContest(), 103, 1).reasonsScore, 44);
+}
+
+TEST_F(KeptWork, OfASaveThatWasCutOffIsFoundInItsCopyAndSaved) {
+  const std::string saved = replaced(fair(), "Bob", "Bobby");
+  disk.hasOtherNames = true;
+  std::string copy;
+  for (int call = 1; copy.empty(); ++call) {
+    disk.files = {{kPath, {fair(), true, fair()}}};
+    disk.calls = 0;
+    disk.cutAtCall = call;
+    ASSERT_THROW((void)saveSafely(disk, kPath, saved), MemoryFiles::PowerCut);
+    disk.cutAtCall = 0;
+    copy = std::get<LoadedContest>(loadContestFile(disk, kPath)).copy;
+  }
+  for (const bool isReadOnly : {true, false}) {
+    disk.readOnlyPath = isReadOnly ? kPath : "";
+    disk.hasOtherNames = isReadOnly;  // a save in place clears such copies away by itself
+    start();
+    EXPECT_EQ(writeContest(currentContest()), saved);
+    EXPECT_NE(window.log.find(copy), std::string::npos);
+    EXPECT_EQ(window.log.find("It could NOT be saved") != std::string::npos, isReadOnly);
+    EXPECT_EQ(disk.files[kPath].content == saved, !isReadOnly);
+    EXPECT_EQ(disk.files.contains(copy), isReadOnly);
+  }
 }
 
 }  // namespace
