@@ -10,7 +10,7 @@
 #include "model/numbering.h"
 #include "session/open_contest.h"
 #include "storage/contest_writer.h"
-#include "tests/support/reasons_check.h"
+#include "tests/reasons/reasons_contest.h"
 
 namespace scorvane {
 

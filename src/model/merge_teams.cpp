@@ -94,7 +94,9 @@ class TeamsMerge {
     std::vector<TeamSlot>& slots = slotsOf_[name];
     slots = slotsOn(first, id);
     if (names[kOurs] && names[kTheirs]) mergeTeam(name, id, team, slots);
-    while (slots.size() > teamSlots(contest_.settings)) slots.erase(leastOf(slots));
+    while (slots.size() > teamSlots(contest_.settings)) {
+      slots.erase(names[kBase] ? std::prev(slots.end()) : leastOf(slots));
+    }
     // A removed team that stays leaves to other teams whom they have taken over.
     if (keeperOf(names)) {
       std::erase_if(slots, [this](const TeamSlot& slot) {
@@ -175,8 +177,8 @@ class TeamsMerge {
     slots.erase(std::unique(slots.begin(), slots.end()), slots.end());
   }
 
-  // The slot that a team with too many goes without: the last number that nobody has, or else that
-  // is merely reserved, or else the last.
+  // The slot that a new team with too many goes without: the last number that nobody has, or else
+  // that is merely reserved, or else the last.
   std::vector<TeamSlot>::iterator leastOf(std::vector<TeamSlot>& slots) const {
     const auto worth = [this](const TeamSlot& slot) {
       return isThere(slot) ? 1 + isAnybody(*slot.person) : 0;
@@ -243,9 +245,11 @@ class TeamsMerge {
   }
 
   // Slots that neither side has, as its teams are smaller, take the next numbers; so do those whose
-  // number nobody had on their side and somebody has now in another team.
+  // number nobody had on their side and somebody has now in another team. Whom the sides have put
+  // into different teams is in the first of them, and listed with the other one.
   void fillSlots() {
     std::set<ContestantNumber> given;
+    std::set<Person> placed;
     for (const auto& team : slotsOf_) {
       for (const TeamSlot& slot : team.second) {
         if (isThere(slot)) given.insert(numberIn(slot));
@@ -260,7 +264,13 @@ class TeamsMerge {
         });
         const bool isTaken = !isThere(slot) && contest_.contestantNames.contains(number) &&
                              (isInTeam || (!given.insert(number).second && !isShared(number)));
-        team.members.push_back(isTaken ? reserved() : number);
+        const bool isElsewhere =
+            isThere(slot) && !placed.insert(*slot.person).second && !isInTwoTeams(*slot.person);
+        team.members.push_back(isTaken || isElsewhere ? reserved() : number);
+        if (isElsewhere) {
+          listTeam(name, "member " + std::to_string(team.members.size()), slotText(slot),
+                   std::to_string(team.members.back()));
+        }
       }
       while (team.members.size() < teamSlots(contest_.settings)) team.members.push_back(reserved());
     }
@@ -284,6 +294,12 @@ class TeamsMerge {
 
   [[nodiscard]] bool isThere(const TeamSlot& slot) const {
     return slot.person && state_.staysPerson[*slot.person];
+  }
+
+  // Whether a side has somebody in more than one team.
+  [[nodiscard]] bool isInTwoTeams(Person person) const {
+    const auto& [base, ours, theirs] = roster_.people[person];
+    return (ours && isShared(*ours)) || (theirs && isShared(*theirs));
   }
 
   // Whether a side has the number in more than one team.

@@ -1,10 +1,14 @@
-// What an operator sees of the commands, as approved.
+// What an operator sees of the commands, as approved; the resource scripts' menu, accelerators and
+// mnemonics, against the command table and each other.
 #include <gtest/gtest.h>
 
 #include <ctime>
 #include <regex>
+#include <set>
 
 #include "app/command_table.h"
+#include "app/file_menu.h"
+#include "model/contest.h"
 #include "reasons/reasons_ids.h"
 #include "reasons/reasons_order_generation.h"
 #include "reports/round_verification_ids.h"
@@ -13,6 +17,8 @@
 #include "tests/app/memory_main_window.h"
 #include "tests/reasons/reasons_contest.h"
 #include "tests/support/approved.h"
+#include "tests/support/temporary_folder.h"
+#include "tests/ui/dialog_template.h"
 
 namespace scorvane {
 
@@ -133,6 +139,112 @@ TEST_F(Commands, GenerateAReasonsOrderFromTheTime) {
     isFromTheTime = isFromTheTime || generated == currentContest();
   }
   EXPECT_TRUE(isFromTheTime);
+}
+
+// The results of individuals and of teams share their mnemonics, four by four.
+TEST(Menu, OffersEveryCommandInTheTablesOrderByAKeyOfItsOwn) {
+  std::set<std::string> taken;
+  const auto withoutMark = [&taken](const std::string& menu, std::string caption) {
+    const std::size_t mark = caption.find('&');
+    EXPECT_NE(mark, std::string::npos) << caption;
+    caption.erase(std::min(mark, caption.size()), 1);
+    std::string key = menu + (caption.starts_with("High Team") ? " teams " : " ");
+    key.push_back(static_cast<char>(std::tolower(static_cast<unsigned char>(caption[mark]))));
+    EXPECT_TRUE(taken.insert(key).second) << caption;
+    return caption;
+  };
+  const std::string script = sourceFile("src/app/menu.rc");
+  const std::regex statement(R"re(POPUP "([^"]*)"|MENUITEM "([^"]*)", (\d+))re");
+  std::string menu, offered, expected;
+  for (std::sregex_iterator it(script.begin(), script.end(), statement), end; it != end; ++it) {
+    if ((*it)[1].matched) {
+      menu = withoutMark("", (*it)[1]);
+    } else {
+      offered += menu + ": " + withoutMark(menu, (*it)[2]) + " " + it->str(3) + "\n";
+    }
+  }
+  for (const Command& command : commandTable()) {
+    if (command.menu.empty()) continue;
+    expected.append(command.menu).append(": ").append(command.caption).append(" ");
+    expected += std::to_string(command.id) + "\n";
+  }
+  EXPECT_EQ(offered, expected);
+}
+
+// A letter pressed with Alt leads to one control only, D to Done everywhere. With larger dialogs
+// the buttons would be beyond a display of 1280 by 720 dots at 150 per cent.
+TEST(Dialogs, HaveMnemonicsOfTheirOwnAndFitASmallDisplay) {
+  EXPECT_FALSE(dialogTemplates().empty());
+  for (const auto& [name, dialog] : dialogTemplates()) {
+    EXPECT_LE(dialog.width, 440) << name;
+    EXPECT_LE(dialog.height, 210) << name;
+    std::set<int> letters;
+    for (const TemplateControl& control : dialog.controls) {
+      const std::size_t mark = control.caption.find('&');
+      if (mark == std::string::npos) continue;
+      EXPECT_TRUE(letters.insert(std::toupper(control.caption[mark + 1])).second)
+          << name << ": " << control.caption;
+      EXPECT_EQ(control.caption[mark + 1] == 'D', control.caption == "&Done") << name;
+    }
+  }
+}
+
+TEST(ContestFileCommands, TakeThePathOutOfTheCommandLine) {
+  struct Case {
+    std::string line, path;
+  };
+  for (const Case& c : {Case{"", ""},
+                        {" \t ", ""},
+                        {"a.scv", "a.scv"},
+                        {" C:\\My Contests\\a b.scv  ", "C:\\My Contests\\a b.scv"},
+                        {"\"C:\\My Contests\\a.scv\" \"more\"", "C:\\My Contests\\a.scv"},
+                        {"\"never closed.scv", "never closed.scv"},
+                        {"\"\"", ""}}) {
+    EXPECT_EQ(contestPath(c.line), c.path) << c.line;
+  }
+}
+
+// From the start, over a first save that is cancelled, to names that are too long for the title.
+TEST(ContestFileCommands, TellOfOneAfternoonAsApproved) {
+  const TemporaryFolder folder;
+  const std::string path = folder.file("county show.scv");
+  MemoryMainWindow window;
+  std::string& log = window.log;
+  const auto step = [&](const std::string& name, const std::function<void()>& act) {
+    reportText() = "a report\n";
+    log += name + "\n";
+    act();
+    log += "  now: " + currentFileName() + ", " + currentContest().settings.contestName + "\n";
+  };
+  setProgramTitle("Scorvane");
+  step("started", [&] {
+    prepareContest();
+    window.refreshReportView();
+    openContestOfCommandLine(window, "  ");
+  });
+  EXPECT_EQ(currentContest().groupLetters, (std::vector<char>{'A', 'B', 'C', 'D', 'E'}));
+  EXPECT_FALSE(currentContest().settings.contestDate.empty());
+  currentContest().settings.contestName = "County Show";
+  window.desktop.files = {std::nullopt, path, path, std::nullopt};
+  for (const int command : {32774, 32773, 32771, 32772, 32772}) {
+    step(std::string(findCommand(command)->caption), [&] { runCommand(command, window); });
+  }
+  step("named", [&] { openContestOfCommandLine(window, "\"" + path + "\""); });
+  step("missing", [&] { openContestOfCommandLine(window, "nowhere.scv"); });
+  // Cut to the longest path there is, this would be the name of the contest.
+  const std::string slashes(kMaxPathLength - path.size(), '/');
+  step("too long", [&] { openContestOfCommandLine(window, slashes + path + "x"); });
+  log.erase(log.find(slashes), slashes.size());
+  for (std::size_t at; (at = log.find(folder.path())) != std::string::npos;) {
+    log.replace(at, folder.path().size(), "FOLDER");
+  }
+  expectApproved(log, "app/contest_files.txt");
+
+  currentFileName() = std::string(300, 'f');
+  currentContest().settings.contestName = std::string(300, 'c');
+  log.clear();
+  showContestTitle(window);
+  EXPECT_EQ(log, "  title: Scorvane - " + currentFileName() + " - " + std::string(185, 'c') + "\n");
 }
 
 }  // namespace

@@ -31,8 +31,10 @@ class MemoryMainWindow : public MainWindow {
     return desktop.ask(message);
   }
   std::optional<std::string> chooseFile(const FileQuestion& question) override {
+    std::string kinds = question.fileMustExist ? "one that is there" : "any";
+    for (const FileFilter& filter : question.filters) kinds += ", " + filter.name + filter.pattern;
     note(question.purpose == FileQuestion::Purpose::open ? "open" : "save",
-         question.filters.at(0).name);
+         kinds + ", else ." + question.defaultExtension);
     return desktop.chooseFile(question);
   }
   int runDialog(int resourceId, DialogBehaviour& behaviour) override {

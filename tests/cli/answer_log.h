@@ -1,11 +1,14 @@
-// Answers to command lines, written down for an approved text.
+// Answers to command lines, written down for an approved text or held against what is expected.
 #pragma once
+
+#include <gtest/gtest.h>
 
 #include <sstream>
 #include <string>
 #include <string_view>
 
 #include "cli/program.h"
+#include "tests/storage/memory_files.h"
 
 namespace scorvane {
 
@@ -31,6 +34,23 @@ inline std::string answered(std::string_view line, const CliResult& result) {
   }
   const std::string error = result.error.substr(0, result.error.find('\n'));
   return error.empty() ? log : log + error + "\n";
+}
+
+/// Command lines and what a program says to them instead of writing or printing anything.
+using Refusals = std::initializer_list<std::pair<const char*, const char*>>;
+
+inline void expectRefused(const std::string& program,
+                          CliResult (*run)(std::string_view, FileSystem&), MemoryFiles& disk,
+                          int status, Refusals refusals) {
+  const std::string help = status == kWrongUsage ? program + " --help explains everything.\n" : "";
+  for (const auto& [line, error] : refusals) {
+    const auto before = disk.files;
+    const CliResult result = run(line, disk);
+    EXPECT_EQ(result.error, program + ": " + error + "\n" + help);
+    EXPECT_EQ(result.status, status) << line;
+    EXPECT_EQ(result.output, "") << line;
+    EXPECT_TRUE(disk.files == before) << line;
+  }
 }
 
 }  // namespace scorvane

@@ -75,19 +75,8 @@ TEST(Cli, AnswersAsApproved) {
 
 TEST(Cli, SaysWhatIsMissingOrWrong) {
   ContestFiles disk;
-  using Refusals = std::vector<std::pair<const char*, const char*>>;
-  const auto expectRefused = [&](int status, const Refusals& refusals) {
-    for (const auto& [line, error] : refusals) {
-      const std::string help =
-          status == kWrongUsage ? "\nscorvane-report --help explains everything.\n" : "\n";
-      const CliResult result = run(line, disk);
-      EXPECT_EQ(result.error, "scorvane-report: " + std::string(error) + help);
-      EXPECT_EQ(result.status, status) << line;
-      EXPECT_EQ(result.output, "") << line;
-    }
-  };
   expectRefused(
-      kFailed,
+      kReportProgram, run, disk, kFailed,
       {{"nowhere.scv|32796", "cannot read 'nowhere.scv': it does not exist or cannot be opened"},
        {"damaged.scv|32796",
         "cannot read 'damaged.scv': it is not a contest file, or is damaged (line 2)"},
@@ -101,7 +90,7 @@ TEST(Cli, SaysWhatIsMissingOrWrong) {
        {"fair.scv|32800|--classes|1,4", "there is no class 4; the contest has 3"},
        {"fair.scv|32800|--category|Sheep", "the contest has no category 'Sheep'"}});
   expectRefused(
-      kWrongUsage,
+      kReportProgram, run, disk, kWrongUsage,
       {{"fair.scv|32800|--classes=", "--classes: Value  not in range 1 to 2147483647"},
        {"", "no contest file is named"},
        {"fair.scv", "no report is named"},

@@ -2,7 +2,7 @@
 
 import unittest
 
-from desktop_case import ROOT, DesktopTest, wait_for
+from desktop_case import NO_CARDS, DesktopTest, wait_for
 
 LOOKUP, PLACINGS, REASONS, QUESTIONS = 32791, 32822, 32823, 32826
 NUMBER, NUMBER_TYPED, LETTER, REASONS_SCORE, QUESTIONS_SCORE, CLASSES, GROUPS = 1054, 1026, 1027, 1028, 1056, 1016, 1053
@@ -11,7 +11,7 @@ NUMBER, NUMBER_TYPED, LETTER, REASONS_SCORE, QUESTIONS_SCORE, CLASSES, GROUPS = 
 class Entry(DesktopTest):
     def setUp(self):
         super().setUp()
-        self.contest = (ROOT / "tests/desktop/no_cards.scv").read_bytes()
+        self.contest = NO_CARDS
         self.file = self.folder / "fair.scv"
         self.file.write_bytes(self.contest)
         self.app = self.start(self.file)
@@ -25,10 +25,6 @@ class Entry(DesktopTest):
             self.assertIn(blank, self.contest)
             self.contest = self.contest.replace(blank, f"\r\n{record}\r\n".encode())
         self.assertEqual(self.file.read_bytes(), self.contest)
-
-    def open(self, command, title):
-        self.main.command(command)
-        return self.app.window(title)
 
     def choose(self, dialog, class_key, group_key):
         """Takes the lines that begin so; the focus returns to the score field by itself."""
@@ -57,7 +53,7 @@ class Entry(DesktopTest):
         self.app.wait_closed(dialog)
 
     def test_cards_typed_by_group_are_in_the_file(self):
-        dialog = self.open(PLACINGS, "Input Placings Scores By Group")
+        dialog = self.app.open_dialog(PLACINGS, "Input Placings Scores By Group")
         self.assertEqual(dialog.focused(), LETTER)
         self.choose(dialog, "1", "a")
         self.wait_for_focus(dialog, LETTER)
@@ -83,14 +79,13 @@ class Entry(DesktopTest):
         self.expect_file("101\t0\tB\t46\t0\t0", "103\t0\tZ\t0\t0\t0", "105\t0\tX\t20\t0\t0",
                          "102\t1\tX\t50\t0\t0")
 
-        dialog = self.open(REASONS, "Input Reasons Scores By Group")
+        dialog = self.app.open_dialog(REASONS, "Input Reasons Scores By Group")
         self.assertEqual(dialog.lines(CLASSES), [" 2.  Ewes"])
         self.choose(dialog, "2", "1")
         self.enter(dialog, REASONS_SCORE, ("103", "41"), ("101", "50"))
-        dialog.close()
-        self.app.wait_closed(dialog)
+        dialog.finish()
 
-        dialog = self.open(QUESTIONS, "Input Questions Scores By Group")
+        dialog = self.app.open_dialog(QUESTIONS, "Input Questions Scores By Group")
         self.choose(dialog, "1", "b")
         self.wait_for_focus(dialog, QUESTIONS_SCORE)
         dialog.type("a7")
@@ -100,7 +95,7 @@ class Entry(DesktopTest):
         self.expect_file("103\t1\t \t0\t41\t0", "101\t1\t \t0\t50\t0", "102\t0\t \t0\t0\t7")
 
     def test_cancelled_corrections_stay_in_the_contest_but_not_in_the_file(self):
-        dialog = self.open(LOOKUP, "Lookup/Edit Individual Scores")
+        dialog = self.app.open_dialog(LOOKUP, "Lookup/Edit Individual Scores")
         dialog.choose(CLASSES, 1)
         self.assertEqual([dialog.is_enabled(f) for f in (REASONS_SCORE, QUESTIONS_SCORE)], [True, False])
         dialog.type("104")
@@ -119,9 +114,8 @@ class Entry(DesktopTest):
         self.assertEqual(dialog.default_button(), 1004)
         self.escape(dialog)
         self.expect_file()
-        dialog = self.open(PLACINGS, "Input Placings Scores By Group")
-        dialog.close()
-        self.app.wait_closed(dialog)
+        dialog = self.app.open_dialog(PLACINGS, "Input Placings Scores By Group")
+        dialog.finish()
         self.expect_file("104\t1\tX\t50\t0\t0")
 
 

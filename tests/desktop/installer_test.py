@@ -184,8 +184,7 @@ class InstallerTest(DesktopTest):
         app = self.desktop.start(program=folder / "scorvane.exe")
         self.addCleanup(app.close)
         main = app.main()
-        main.command(OPEN)
-        box = app.window()
+        box = app.open_dialog(OPEN)
         box.set_text(1148, "mine.scv")
         box.command(1)
         wait_for(lambda: main.title().endswith(r"\Documents\mine.scv"

@@ -200,8 +200,7 @@ class PaintingTest(DesktopTest):
 
     def test_lists_side_by_side_scroll_together(self):
         app = self.start(self.invented("--classes", 15))  # not quite two pages
-        app.main().command(SETUP_CLASSES)
-        dialog = app.window("Setup Classes")
+        dialog = app.open_dialog(SETUP_CLASSES, "Setup Classes")
         lines = {one: dialog.lines(one) for one in LISTS}
         letterings = {one: wait_for(lambda one=one: Lettering.learned(self.picture(dialog, one), lines[one], range(4)),
                                     f"list {one} in letters of equal width") for one in LISTS}

@@ -70,10 +70,8 @@ class PrintingTest(DesktopTest):
         main = app.main()
         main.command(TEAM_REPORT)
         for button in (IDCANCEL, IDOK):
-            main.command(PRINT)
-            dialog = app.window("Print")
-            dialog.command(button)
-            app.wait_closed(dialog)
+            dialog = app.open_dialog(PRINT, "Print")
+            dialog.finish(button)
         dialog = app.window("Abort Printing?")
         progress = wait_for(lambda: dialog.text(PROGRESS), "the progress of the job")
         self.assertRegex(progress, r"^Teams and Contestants - \d+ Contestants - 5000 Teams, page \d+ of \d{3}$")

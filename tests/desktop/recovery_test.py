@@ -1,13 +1,11 @@
 """Kills the real program while cards are typed, and looks for them when it is started again."""
 
 import os
-import pathlib
 import random
-import shutil
 import time
 import unittest
 
-from desktop_case import IDNO, IDYES, ROOT, DesktopTest, wait_for
+from desktop_case import IDNO, IDYES, NO_CARDS, DesktopTest, wait_for
 
 PLACINGS, REASONS, QUESTIONS, LOOKUP, TEAMS = 32822, 32823, 32826, 32791, 32789
 LAST_NUMBER, LAST_LETTER, LAST_REASONS, LAST_QUESTIONS = 1031, 1032, 1035, 1036
@@ -20,21 +18,13 @@ class Recovery(DesktopTest):
     def setUp(self):
         super().setUp()
         self.file = self.folder / "fair.scv"
-        shutil.copy(ROOT / "tests/desktop/no_cards.scv", self.file)
-        users = self.desktop.prefix / "drive_c/users"
-        self.kept = [user / "AppData/Local/Scorvane" for user in users.iterdir()]
-        self.forget()
-        self.addCleanup(self.forget)
+        self.file.write_bytes(NO_CARDS)
         self.seed = int(os.environ.get("SCORVANE_SEED", random.randrange(1 << 30)))
         self.random = random.Random(self.seed)
         self.shown, self.teams, self.pending, self.cards = {}, set(), None, 0
 
-    def forget(self):
-        for folder in self.kept:
-            shutil.rmtree(folder, ignore_errors=True)
-
     def copies(self, kind="Recovery"):
-        return [file for folder in self.kept for file in pathlib.Path(folder).glob(f"{kind}/**/*.scv")]
+        return [file for folder in self.kept for file in folder.glob(f"{kind}/**/*.scv")]
 
     def start_again(self, app, answer=None):
         """Kills the program and starts it again; returns it, and what it asked."""
@@ -48,13 +38,9 @@ class Recovery(DesktopTest):
         wait_for(lambda: any("fair.scv" in title for _, _, title, _ in app.windows()), "the contest's title")
         return app, text
 
-    def open(self, app, command, title):
-        app.main().command(command)
-        return app.window(title)
-
     def look_up_and_score(self, app):
         """Stores a reasons score of 33 for 105 in the second class; returns the dialog, which stays open."""
-        dialog = self.open(app, LOOKUP, "Lookup/Edit Individual Scores")
+        dialog = app.open_dialog(LOOKUP, "Lookup/Edit Individual Scores")
         dialog.choose(1016, 1)
         dialog.set_text(1026, "105")
         dialog.set_text(1028, "33")
@@ -76,7 +62,7 @@ class Recovery(DesktopTest):
         title, score, control, scores = ENTRY[command]
         judged = "1" if command == REASONS else "0"
         field = {PLACINGS: "letter", REASONS: "reasons", QUESTIONS: "questions"}[command]
-        dialog = self.open(app, command, title)
+        dialog = app.open_dialog(command, title)
         while time.monotonic() < until:
             if not dialog.text(1054):
                 dialog.choose(1016, 0)
@@ -90,7 +76,7 @@ class Recovery(DesktopTest):
             self.see(dialog, number, judged, field, typed, until)
 
     def type_by_number(self, app, until):
-        dialog = self.open(app, LOOKUP, "Lookup/Edit Individual Scores")
+        dialog = app.open_dialog(LOOKUP, "Lookup/Edit Individual Scores")
         dialog.choose(1016, 1)
         while time.monotonic() < until:
             number, typed = str(self.random.randrange(101, 106)), str(self.random.randrange(1, 51))
@@ -101,7 +87,7 @@ class Recovery(DesktopTest):
             self.see(dialog, number, "1", "reasons", typed, until)
 
     def set_up_teams(self, app, until):
-        dialog = self.open(app, TEAMS, "Setup Teams")
+        dialog = app.open_dialog(TEAMS, "Setup Teams")
         while time.monotonic() < until:
             name = f"Team {self.random.randrange(1 << 30)}"
             before = len(dialog.lines(1019))
@@ -160,8 +146,7 @@ class Recovery(DesktopTest):
         app = self.start(self.file)
         dialog = self.look_up_and_score(app)
         self.assertEqual(len(self.copies()), 1)
-        dialog.command(2)
-        app.wait_closed(dialog)
+        dialog.finish(2)
         app.main().command(105)
         self.assertEqual(app.exit_code(), 0)
         self.assertEqual(self.copies(), [])

@@ -2,22 +2,18 @@
 
 import unittest
 
-from desktop_case import ROOT, DesktopTest, wait_for
+from desktop_case import DesktopTest, contest_file, wait_for
 
 SETUP_CONTEST, SETUP_CLASSES, SETUP_TEAMS, EDIT_CONTESTANTS = 32787, 32788, 32789, 32856
 
 
 class Setup(DesktopTest):
-    def open(self, command, title):
-        self.main.command(command)
-        return self.app.window(title)
-
     def done(self, dialog):
         self.app.wait_closed(dialog)
         self.assertEqual(self.main.title(), f"Scorvane - {self.windows_file} - Fair")
 
     def fill_in_contest(self):
-        dialog = self.open(SETUP_CONTEST, "Setup Contest")
+        dialog = self.app.open_dialog(SETUP_CONTEST, "Setup Contest")
         for text in ("Fair", None, "May 1", "201", None, None, "3", None, "2", "2", "3"):
             dialog.type(text or "")
             dialog.press("Tab")
@@ -29,7 +25,7 @@ class Setup(DesktopTest):
         self.done(dialog)
 
     def fill_in_classes(self):
-        dialog = self.open(SETUP_CLASSES, "Setup Classes")
+        dialog = self.app.open_dialog(SETUP_CLASSES, "Setup Classes")
         dialog.type("Steers")
         dialog.press("Tab", "Space", "Tab", "Tab")
         dialog.type("d243")
@@ -44,7 +40,7 @@ class Setup(DesktopTest):
         self.done(dialog)
 
     def fill_in_teams(self):
-        dialog = self.open(SETUP_TEAMS, "Setup Teams")
+        dialog = self.app.open_dialog(SETUP_TEAMS, "Setup Teams")
         for name, coach, members in (("Elm", "Oak", ("Ann", "Bob")), ("Ash", "", ("Cy", "Dee", "Eve"))):
             dialog.type(name)
             dialog.press("Tab")
@@ -70,7 +66,7 @@ class Setup(DesktopTest):
         self.done(dialog)
 
     def correct_a_name(self):
-        dialog = self.open(EDIT_CONTESTANTS, "Edit Contestants")
+        dialog = self.app.open_dialog(EDIT_CONTESTANTS, "Edit Contestants")
         dialog.press("Space", "End")
         dialog.type(" Lee")
         dialog.press("Return")
@@ -87,7 +83,11 @@ class Setup(DesktopTest):
         self.fill_in_classes()
         self.fill_in_teams()
         self.correct_a_name()
-        self.assertEqual(self.file.read_bytes(), (ROOT / "tests/desktop/set_up.scv").read_bytes())
+        self.assertEqual(self.file.read_bytes(), contest_file(
+            ["Fair", "Junior Division", "May 1", 201, 2, 2, 0, 20, 3, 3, 1, "Beef|Sheep"],
+            ["Steers|Yes|No|D|2,4,3|0", "Ewes|No|No|A|1,1,1|1"],
+            ["201|Ann Lee|-1|-1", "202|Bob|-1|-1", "203|", "204|Cy|-1|-1", "205|Dee|-1|-1", "206|Eve|-1|-1"],
+            ["Ash| |204|205|206", "Elm|Oak|201|202|203"]))
 
 
 class SmallDisplay(DesktopTest):
@@ -104,15 +104,12 @@ class SmallDisplay(DesktopTest):
             teams = app.window("Setup Teams")
             teams.choose(1019, "Alder County 4-H")
             teams.click(1005)
-            teams.close()
-            app.wait_closed(teams)
+            teams.finish()
             sizes = {}
             for command in self.DIALOGS:
-                app.main().command(command)
-                dialog = app.window()
+                dialog = app.open_dialog(command)
                 sizes[dialog.title()] = dialog.rectangle()[2:]
-                dialog.close()
-                app.wait_closed(dialog)
+                dialog.finish()
             app.close()
             self.assertEqual({name: size for name, size in sizes.items()
                               if size[0] > 1280 * dpi / 144 or size[1] > 617 * dpi / 144}, {}, dpi)

@@ -23,11 +23,9 @@ class ShellTest(DesktopTest):
             main.command(command)
             main.settle()
             self.assertEqual(app.report(), self.expected_report(contest, command))
-        main.command(ROUND_VERIFICATION)
-        dialog = app.window("Round Verification Report")
+        dialog = app.open_dialog(ROUND_VERIFICATION, "Round Verification Report")
         dialog.choose(1080, 1)
-        dialog.command(IDOK)
-        app.wait_closed(dialog)
+        dialog.finish(IDOK)
         expected = self.expected_report(contest, ROUND_VERIFICATION, "--round", 2)
         self.assertEqual(app.report(), expected)
 
@@ -112,20 +110,17 @@ class ShellTest(DesktopTest):
         title = f"Scorvane - {windows_path(contest)} - {COUNTY_FAIR}"
         self.wait_for_title(main, title)
 
-        main.command(SETUP_CONTEST)
-        dialog = app.window("Setup Contest")
+        dialog = app.open_dialog(SETUP_CONTEST, "Setup Contest")
         main.drop(self.sample("state.scv"))
         main.command(NEW)
         main.close()
         main.settle()
         self.assertEqual(main.title(), title)
-        dialog.command(IDCANCEL)
-        app.wait_closed(dialog)
+        dialog.finish(IDCANCEL)
         for key in ("question", "slash"):
             self.desktop.keys(key)
             about = app.window("About Scorvane")
-            about.command(IDCANCEL)
-            app.wait_closed(about)
+            about.finish(IDCANCEL)
 
 
 if __name__ == "__main__":

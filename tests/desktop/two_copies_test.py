@@ -3,12 +3,11 @@
 import contextlib
 import os
 import random
-import shutil
 import threading
 import time
 import unittest
 
-from desktop_case import IDOK, IDYES, DesktopTest, wait_for, windows_path
+from desktop_case import IDOK, IDYES, DesktopTest, contest_file, wait_for, windows_path
 from desktop import DesktopError
 
 PLACINGS, VERIFY_LETTERS = 32822, 32846
@@ -21,16 +20,10 @@ CARDS = int(os.environ.get("SCORVANE_CARDS", "64"))
 
 def contest(classes, teams):
     """A contest without cards, of teams of four."""
-    numbers = range(101, 101 + 4 * teams)
-    lines = ["contestName:\tFair", "divisionName:\tJunior", "contestDate:\tToday", "startNum:\t101", "numPerTeam:\t4",
-             "numToScore:\t3", "reportPercent:\t0", "numToReport:\t10", f"numGroups:\t{GROUPS}", "totalNumPerTeam:\t4",
-             "numReasonsGroups:\t1", "categories:\tnone", "~~~~~Classes~~~~~", str(classes),
-             *(f"Class {k}\tNo\tNo\tA\t2,3,4\t0" for k in range(classes)), "~~~~~Contestants~~~~~", str(len(numbers)),
-             *(f"{n}\tPerson {n}\t-1\t-1" for n in numbers), "~~~~~Teams~~~~~", str(teams),
-             *(f"Team {t:03}\t \t" + "\t".join(str(101 + 4 * t + i) for i in range(4)) for t in range(teams)),
-             "~~~~~Scores~~~~~", str(len(numbers) * classes),
-             *(f"{n}\t{k}\t \t0\t0\t0" for n in numbers for k in range(classes)), *["0000-0000-0000-0000"] * 2, ""]
-    return "\r\n".join(lines).encode()
+    return contest_file(["Fair", "Junior", "Today", 101, 4, 3, 0, 10, GROUPS, 4, 1, "none"],
+                        [f"Class {k}|No|No|A|2,3,4|0" for k in range(classes)],
+                        [f"{n}|Person {n}|-1|-1" for n in range(101, 101 + 4 * teams)],
+                        [f"Team {t:03}| |" + "|".join(str(101 + 4 * t + i) for i in range(4)) for t in range(teams)])
 
 
 class Typist(threading.Thread):
@@ -87,8 +80,7 @@ class Typist(threading.Thread):
             if not self.type_cards(dialog, judged):
                 return
             self.groups.pop()
-        dialog.command(DONE)
-        self.app.wait_closed(dialog)
+        dialog.finish(DONE)
         self.main()
 
     def type_cards(self, dialog, judged):
@@ -163,11 +155,6 @@ class TwoCopies(DesktopTest):
         self.addCleanup(drive.unlink, missing_ok=True)
         (self.folder / "link").symlink_to(self.folder)
         self.type_into_both(["Y:\\fair.scv", windows_path(self.folder / "link" / "fair.scv")])
-
-    def setUp(self):
-        super().setUp()
-        for user in (self.desktop.prefix / "drive_c/users").iterdir():
-            shutil.rmtree(user / "AppData/Local/Scorvane", ignore_errors=True)
 
 
 if __name__ == "__main__":

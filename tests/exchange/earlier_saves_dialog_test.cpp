@@ -86,19 +86,14 @@ class Disk {
   MemoryFiles files;
 };
 
-using Behaviour = std::unique_ptr<DialogBehaviour>;
 std::optional<Disk> disk;
 
-Behaviour earlierSavesOf(const std::string& path) {
-  return std::make_unique<EarlierSavesDialog>(disk->saves(path));
-}
-
 const SessionWorld kWorld = {
-    {{"Earlier Saves", [] { return earlierSavesOf(currentFileName()); }},
+    {{"Earlier Saves",
+      [] { return std::make_unique<EarlierSavesDialog>(disk->saves(currentFileName())); }},
      {"Import Roster", [] { return std::make_unique<ImportRosterDialog>(); }}},
     {{"a day",
       [] {
-        disk.reset();
         disk.emplace();
         disk->playDay();
         return currentContest();
@@ -110,7 +105,6 @@ const SessionWorld kWorld = {
       }},
      {"two unsaved contests",
       [] {
-        disk.reset();
         disk.emplace();
         Contest rest = daysWork()[1];
         rest.settings.contestDate = todaysDate();
@@ -129,11 +123,7 @@ const SessionWorld kWorld = {
       [](Contest&) {
         std::erase_if(disk->files.files, [](const auto& file) { return file.first != kFile; });
       }},
-     {"a full disk",
-      [](Contest&) {
-        disk->files.room = 0;
-        for (const auto& [path, file] : disk->files.files) disk->files.room += file.content.size();
-      }}},
+     {"a full disk", [](Contest&) { disk->files.fill(); }}},
     [] { disk.reset(); }};
 
 // A card of the open contest that was typed and not saved comes back with the rest.

@@ -1,14 +1,17 @@
+// What differs between two contests, and changes of cards told in the same terms.
 #include "model/contest_differences.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <random>
+#include <set>
 
+#include "model/card_changes.h"
 #include "model/change_summary.h"
 #include "model/roster.h"
-#include "storage/contest_reader.h"
 #include "storage/contest_writer.h"
+#include "tests/model/merge_laws.h"
 #include "tests/support/contest_builder.h"
 #include "text/format.h"
 #include "tools/contest_maker.h"
@@ -155,43 +158,30 @@ TEST(ContestDifferences, ComeInTheOrderInWhichCardsLie) {
 // Two contests made alike, some values of one changed at random: they differ as their files do.
 TEST(ContestDifferences, AreEmptyExactlyWhenTheFilesAreEqual) {
   std::mt19937 random(20261121);
-  const auto below = [&](std::size_t end) { return static_cast<std::int32_t>(random() % end); };
+  const Choose below = [&](std::uint32_t end) { return random() % end; };
   const ContestPlan plan{.contestants = 12,
                          .perTeam = 2,
                          .alternates = 1,
                          .classes = 3,
                          .reasonsClasses = 1,
                          .questionsClasses = 1,
+                         .categories = 5,
                          .groups = 2};
-  const Contest before = std::get<Contest>(readContest(writeContest(makeContest(plan))));
+  const Contest before = savedAndLoaded(makeContest(plan));
   int equal = 0;
   for (int round = 0; round < 3000; ++round) {
     Contest after = before;
-    const ContestantNumber number = 101 + below(13);
-    const std::vector<Change> changes = {
-        [&](Contest& c) { c.settings.numToScore = 3 + below(2); },
-        [&](Contest& c) { c.settings.reportPercent = below(2) == 1; },
-        [&](Contest& c) { c.categories.push_back(below(2) == 1 ? "New" : c.categories[0]); },
-        [&](Contest& c) { std::swap(c.categories[0], c.categories.back()); },
-        [&](Contest& c) { std::swap(c.classes.className[0], c.classes.className[2]); },
-        [&](Contest& c) { c.classes.cut1[1] = below(3); },
-        [&](Contest& c) { c.classes.reasonsFlag[1] = below(2) == 1; },
-        [&](Contest& c) { c.contestantNames[number] = below(2) == 1 ? "" : "Ann"; },
-        [&](Contest& c) { c.contestantNames.erase(number); },
-        [&](Contest& c) {
-          c.reasonsPlace[number] = {0, below(3)};
-        },
-        [&](Contest& c) { c.teams.begin()->second.members[0] = number; },
-        [&](Contest& c) { c.teams.begin()->second.coach = below(2) == 1 ? "Oak" : ""; },
-        [&](Contest& c) { c.teams.erase(c.teams.begin()); },
-        [&](Contest& c) { c.scores[number][below(4)].letter = static_cast<char>('A' + below(3)); },
-        [&](Contest& c) { c.scores[number][below(3)].placingScore = below(51); },
-        [&](Contest& c) { c.scores[number][below(3)].reasonsScore = below(2); },
-        [&](Contest& c) { c.scores[number][below(3)].questionsScore = below(2); },
-        [](Contest&) {}};
-    for (std::int32_t i = below(3); i >= 0; --i) {
-      changes[static_cast<std::size_t>(below(changes.size()))](after);
-    }
+    const auto number = static_cast<ContestantNumber>(101 + below(13));
+    ScoreRecord& card = after.scores[number][static_cast<std::int32_t>(below(4))];
+    // What no dialog does, and what they do.
+    if (below(20) == 0) card.placingScore = 7;
+    if (below(20) == 0) card.letter = 'C';
+    if (below(20) == 0) after.contestantNames.erase(number);
+    if (below(20) == 0) std::swap(after.classes.className[0], after.classes.className[2]);
+    if (below(20) == 0) after.classes.cut1[0] = 4;
+    if (below(20) == 0) after.settings.reportPercent = true;
+    if (below(20) == 0) std::swap(after.categories[3], after.categories[4]);
+    for (std::uint32_t edits = below(3); edits > 0; --edits) editAtRandom(after, below);
     const bool same = writeContest(before) == writeContest(after);
     equal += same ? 1 : 0;
     const ContestDifferences there = contestDifferences(after, before);
@@ -204,6 +194,55 @@ TEST(ContestDifferences, AreEmptyExactlyWhenTheFilesAreEqual) {
     ASSERT_EQ(there.counts.onBothSides, back.counts.onBothSides);
   }
   EXPECT_GT(equal, 100);
+}
+
+constexpr ScoreValue kKinds[] = {ScoreValue::letter, ScoreValue::reasons, ScoreValue::questions};
+
+using Card = std::pair<ScoreValue, std::string>;
+
+std::multiset<Card> cardsOf(const Contest& contest) {
+  std::multiset<Card> cards;
+  for (const auto& [number, records] : contest.scores) {
+    for (const auto& [k, record] : records) {
+      for (const ScoreValue kind : kKinds) {
+        if (isEntered(kind, record)) cards.emplace(kind, scoreText(kind, record));
+      }
+    }
+  }
+  return cards;
+}
+
+// Every card is somewhere afterwards, or was listed as typed over or cleared; other kinds of scores
+// and placing scores stay true.
+TEST(CardChanges, LoseNoCardThatIsNotListed) {
+  std::mt19937 random(5);
+  const auto pick = [&](std::uint32_t below) { return static_cast<int>(random() % below); };
+  for (int round = 0; round < 500; ++round) {
+    ContestBuilder builder;
+    for (int k = 0; k < 4; ++k) builder.addClass({.official = static_cast<char>('A' + pick(24))});
+    Contest& contest = builder.team("Elm", "", {"Ann", "Bob", "Cy", "Dee"}).contest;
+    for (int card = 0; card < 16; ++card) {
+      ScoreRecord& record = contest.scores[101 + card / 4][card % 4];
+      if (pick(3) > 0) record = {"ABCKLMVWXZ "[pick(11)], 0, pick(51), pick(51)};
+    }
+    recomputeAllPlacingScores(contest);
+    const ScoreValue kind = kKinds[pick(3)];
+    const std::vector<ContestantNumber> some = {101, 103, 104};
+    const int way = pick(3);
+    const auto changes = way == 0   ? movedCards(contest, kind, some, pick(4), pick(4))
+                         : way == 1 ? exchangedCards(contest, kind, 101, 103, pick(4))
+                                    : clearedCards(contest, kind, some, pick(4));
+    auto expected = cardsOf(contest);
+    for (const CardChange& change : changes) {
+      const bool isLost = way == 0 ? isTypedOver(kind, change) : way == 2;
+      if (isLost) expected.erase(expected.find({kind, scoreText(kind, change.before)}));
+    }
+    applyCardChanges(contest, changes);
+    EXPECT_EQ(cardsOf(contest), expected) << round;
+    const Contest after = contest;
+    recomputeAllPlacingScores(contest);
+    EXPECT_EQ(after, contest) << round;
+  }
 }
 
 }  // namespace

@@ -215,8 +215,13 @@ bool hasEveryScoreOf(const Contest& base, const Contest& side, const Merge& merg
   }
   for (const auto& [number, records] : side.scores) {
     std::vector<ContestantNumber> numbers = {number};
+    std::vector<ContestantNumber> bases = {number};
+    for (const auto& [other, name] : base.contestantNames) {
+      if (!name.empty() && name == contestantName(side, number)) bases.push_back(other);
+    }
     for (const NumberChange& change : numberChanges) {
       if (change.from == number) numbers.push_back(change.to);
+      if (change.to == number) numbers.push_back(change.from);
     }
     for (const auto& [other, name] : merge.contest.contestantNames) {
       if (!name.empty() && name == contestantName(side, number)) numbers.push_back(other);
@@ -232,11 +237,13 @@ bool hasEveryScoreOf(const Contest& base, const Contest& side, const Merge& merg
     }
     for (const auto& [k, record] : records) {
       const auto index = static_cast<std::size_t>(k);
-      const ScoreRecord& old = scoreRecord(base, number, before[index].value_or(-1));
       for (const ScoreValue value :
            {ScoreValue::letter, ScoreValue::reasons, ScoreValue::questions}) {
         const std::int32_t typed = valueOf(record, value);
-        if (!isEntered(value, record) || typed == valueOf(old, value)) continue;
+        const auto isOld = [&](ContestantNumber n) {
+          return valueOf(scoreRecord(base, n, before[index].value_or(-1)), value) == typed;
+        };
+        if (!isEntered(value, record) || std::any_of(bases.begin(), bases.end(), isOld)) continue;
         const auto isThere = [&](ContestantNumber n) {
           return std::any_of(after[index].begin(), after[index].end(), [&](std::int32_t place) {
             return valueOf(scoreRecord(merge.contest, n, place), value) == typed;
@@ -294,7 +301,7 @@ bool isKnownByName(const Contest& base, const Contest& side, const Contest& merg
     };
     if (before == after && now == after) return true;
     if (std::any_of(before.begin(), before.end(), isUnclear)) return false;
-    if (after.size() == before.size()) return true;
+    if (after.size() == before.size()) return now.size() == before.size() || after == before;
     const std::vector<ClassMatch> matches = matchNames(before, now, true);
     return std::all_of(matches.begin(), matches.end(), [&](const ClassMatch& match) {
       return !match.here || !match.there ||

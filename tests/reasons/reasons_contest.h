@@ -1,6 +1,8 @@
-// Contests with a reasons order, for the tests of everything that reads or changes it.
+// Contests with a reasons order, for the tests of everything that reads or changes it, and whether
+// the order and the contestants' places tell the same story.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -35,6 +37,23 @@ inline void placeGroup(Contest& contest, std::int32_t group,
     if (number != kNobody) contest.reasonsPlace[number] = {group, row};
     ++row;
   }
+}
+
+/// A contestant is in a cell of a reasons group exactly when the place names that cell. Deleting
+/// somebody in the first row or the first group breaks this.
+inline bool orderAgreesWithPlaces(const Contest& contest) {
+  const ReasonsOrder& order = contest.reasonsOrder;
+  return std::all_of(order.cells().begin(), order.cells().end(),
+                     [&](const auto& entry) {
+                       const auto [group, row] = entry.first;
+                       return group < contest.settings.numReasonsGroups &&
+                              reasonsPlaceOf(contest, entry.second) == ReasonsPlace{group, row};
+                     }) &&
+         std::all_of(
+             contest.reasonsPlace.begin(), contest.reasonsPlace.end(), [&](const auto& entry) {
+               const auto& [contestant, place] = entry;
+               return !place.isAssigned() || order.cell(place.position, place.group) == contestant;
+             });
 }
 
 }  // namespace scorvane

@@ -216,9 +216,6 @@ TEST(EarlierSaves, AreNeverWrittenOverAnothers) {
 
 /// The machine's own files with a folder for application data.
 struct LocalSaves : testing::Test {
-  LocalSaves() { ::setenv("XDG_DATA_HOME", folder.path().c_str(), 1); }
-  ~LocalSaves() override { ::unsetenv("XDG_DATA_HOME"); }
-
   /// One that takes no room on the disk.
   void keepLarge(const std::string& contestPath, int number) const {
     const std::string path = earlierSavesFolder(files) + "/" + contestKey(files, contestPath) +
@@ -226,7 +223,7 @@ struct LocalSaves : testing::Test {
     ASSERT_TRUE(files.create(path).file->resize(150'000'000));
   }
 
-  TemporaryFolder folder;
+  LocalDataFolder folder;
   FileSystem& files = systemFiles();
 };
 
@@ -287,10 +284,11 @@ TEST_F(LocalSaves, OfTwoProgramsAreAllKeptAndNumberedOnce) {
 // The port's own sides: the folder of this machine.
 TEST(LocalFiles, AreMadeListedAppendedToAndClaimed) {
   const TemporaryFolder folder;
-  ::setenv("XDG_DATA_HOME", folder.path().c_str(), 1);
   FileSystem& files = systemFiles();
-  EXPECT_EQ(files.localDataFolder(), folder.path());
-  ::unsetenv("XDG_DATA_HOME");
+  {
+    const LocalDataFolder local;
+    EXPECT_EQ(files.localDataFolder(), local.path());
+  }
   EXPECT_EQ(files.localDataFolder(), std::string(std::getenv("HOME")) + "/.local/share");
   ASSERT_TRUE(files.makeFolders(folder.file("a/b")));
   const std::string path = folder.file("a/b/c");

@@ -20,12 +20,9 @@ namespace {
 const std::string kPath = "county.scv";
 
 struct Recovery : testing::Test {
-  Recovery() { put(kPath, smallFile()); }
+  Recovery() { disk.put(kPath, smallFile(), 7); }
   ~Recovery() override { stopKeepingWork(); }
 
-  void put(const std::string& path, const std::string& bytes) {
-    disk.files[path] = {bytes, true, bytes, 7};
-  }
   /// The program is started and a contest opened; what is asked gets one answer.
   bool start(const std::string& path = kPath, Answer answer = Answer::yes) {
     stopKeepingWork();
@@ -96,14 +93,7 @@ TEST_F(Recovery, IsItselfSafeFromPowerCuts) {
   for (int call = 1; isCut; ++call) {
     disk.files = left;
     disk.losePower(0);
-    disk.calls = 0;
-    disk.cutAtCall = call;
-    isCut = false;
-    try {
-      start();
-    } catch (const MemoryFiles::PowerCut&) {
-      isCut = true;
-    }
+    isCut = disk.isCutAt(call, [&] { start(); });
     stopKeepingWork();
     disk.losePower(0);
     ASSERT_TRUE(start());
@@ -295,8 +285,8 @@ TEST_F(Recovery, KeepsWhatAnOrderlyEndLeavesUnsaved) {
 
   // The last card, too, for which the disk had no room as it was typed.
   type(101, 0, {'B', 40, 44, 0});
-  const std::size_t room = std::exchange(disk.room, 5);
-  for (const auto& [path, file] : disk.files) disk.room += file.content.size();
+  const std::size_t room = disk.room;
+  disk.fill(5);
   type(102, 0, {'C', 30, 0, 0});
   disk.readOnlyPath = kPath;
   saveCurrent(window);
@@ -326,7 +316,7 @@ TEST_F(Recovery, KeepsWhatAnOrderlyEndLeavesUnsaved) {
   currentContest().teams.erase("Avon");
   contestChanged();
   EXPECT_EQ(copies().size(), 0U);
-  put(recoveryFolder(disk) + "/other-1234.scv", smallFile());
+  disk.put(recoveryFolder(disk) + "/other-1234.scv", smallFile(), 7);
   disk.calls = 0;
   start("");
   EXPECT_LT(disk.calls, 8) << "copies of contests with a file are not read before these are opened";
@@ -343,9 +333,8 @@ TEST_F(Recovery, KeepsWhatAnOrderlyEndLeavesUnsaved) {
   disk.losePower(0);
   const std::string spares[] = {recoveryFolder(disk) + "/old.tmp",
                                 recoveryFolder(disk) + "/new.tmp"};
-  put(spares[0], "");
-  put(spares[1], "");
-  disk.files[spares[1]].changed = disk.clock;
+  disk.put(spares[0], "", 7);
+  disk.put(spares[1], "");
   start("");
   EXPECT_FALSE(disk.files.contains(spares[0]));
   EXPECT_TRUE(disk.files.contains(spares[1])) << "another program may be writing it";
@@ -364,9 +353,7 @@ TEST_F(Recovery, CostsOneLineAScoreAndSaysOnceWhenItCannotBeKept) {
 
   // A line cut off by a full disk is not written on to; later everything is there again.
   const std::size_t room = disk.room;
-  disk.room = 0;
-  for (const auto& [path, file] : disk.files) disk.room += file.content.size();
-  disk.room += 5;
+  disk.fill(5);
   type(103, 0, {'B', 1, 2, 0});
   sayIfWorkIsNotKept(window);
   ASSERT_EQ(window.desktop.messages.size(), 1U);

@@ -62,7 +62,7 @@ struct SharedFile : testing::Test {
     startKeepingWork(disk);
     ASSERT_TRUE(openContest(window, kPath));
   }
-  void put(const std::string& bytes) { disk.files[kPath] = {bytes, true, bytes, disk.clock}; }
+  void put(const std::string& bytes) { disk.put(kPath, bytes); }
   Contest inFile() { return std::get<Contest>(readContest(disk.files[kPath].content)); }
   /// Another program stores a letter and saves.
   void othersSave(ContestantNumber number, std::int32_t classIndex, char letter) {

@@ -17,6 +17,8 @@ class MemoryFiles : public FileSystem {
     bool isFlushed = true;
     std::string onMedium{};  ///< what a power cut leaves for sure
     std::int64_t changed = 0;
+
+    bool operator==(const File&) const = default;
   };
   std::map<std::string, File> files;
 
@@ -37,15 +39,31 @@ class MemoryFiles : public FileSystem {
   int pausedFor = 0;               ///< milliseconds
 
   std::string readOnlyPath;  ///< what begins so can only be read
-  struct PowerCut {};
-  int cutAtCall = 0;  ///< the operation at which a PowerCut is thrown, half done; 0 for none
   std::int64_t clock = 1'000'000 * kTicksPerSecond;
   std::string localData = "local";
 
-  /// Leaves no room for another byte.
-  void fill() {
-    room = 0;
+  /// A file that is safe on the disk.
+  void put(const std::string& path, const std::string& bytes, std::int64_t when) {
+    files[path] = {bytes, true, bytes, when};
+  }
+  void put(const std::string& path, const std::string& bytes) { put(path, bytes, clock); }
+  /// Leaves room for so many more bytes.
+  void fill(std::size_t left = 0) {
+    room = left;
     for (const auto& [path, file] : files) room += file.content.size();
+  }
+  /// Whether the power fails amid some work: at the operation of this number, which is half done.
+  template <typename Work>
+  bool isCutAt(int call, const Work& work) {
+    cutAtCall_ = calls + call;
+    bool isCut = false;
+    try {
+      work();
+    } catch (const PowerCut&) {
+      isCut = true;
+    }
+    cutAtCall_ = 0;
+    return isCut;
   }
   /// What the disk holds after a power cut: of what was not flushed the first `torn` bytes. False
   /// when no file has that many: all cases were seen.
@@ -59,7 +77,6 @@ class MemoryFiles : public FileSystem {
         file.content.resize(std::min(file.content.size(), safe + torn));
       file = {file.content, true, file.content, file.changed};
     }
-    cutAtCall = 0;
     return isTorn;
   }
 
@@ -73,7 +90,6 @@ class MemoryFiles : public FileSystem {
       file.content.resize(std::min(file.content.size(), byte));
       if (byte < file.onMedium.size()) file.content += file.onMedium.substr(byte);
     }
-    cutAtCall = 0;
     return isTorn;
   }
 
@@ -152,6 +168,8 @@ class MemoryFiles : public FileSystem {
   }
 
  private:
+  struct PowerCut {};
+
   // Returns fewer bytes than there is room for.
   class Input final : public InputFile {
    public:
@@ -180,7 +198,7 @@ class MemoryFiles : public FileSystem {
     ~Output() override {
       if (!isOpen_) return;
       // Nothing is thrown from here; a cut is the same before the next operation.
-      if (disk_.cutAtCall == disk_.calls + 1) ++disk_.cutAtCall;
+      if (disk_.cutAtCall_ == disk_.calls + 1) ++disk_.cutAtCall_;
       static_cast<void>(close());
     }
 
@@ -234,7 +252,7 @@ class MemoryFiles : public FileSystem {
   /// Counts one more operation; whether it is to fail.
   bool fails() {
     ++calls;
-    if (calls == cutAtCall) throw PowerCut();
+    if (calls == cutAtCall_) throw PowerCut();
     return failingCall != 0 && (calls == failingCall || (stayBroken && calls > failingCall));
   }
   [[nodiscard]] std::size_t freeRoom() const {
@@ -244,6 +262,7 @@ class MemoryFiles : public FileSystem {
   }
 
   std::map<std::string, std::weak_ptr<void>> claims_;
+  int cutAtCall_ = 0;
 };
 
 }  // namespace scorvane

@@ -108,11 +108,7 @@ TEST(SafeSave, InPlaceLeavesAWholeContestToOpenWheneverThePowerGoes) {
         cut.files["a.scv"] = {old, true, old};
         cut.folderIsProtected = !isBeside;
         cut.hasOtherNames = isBeside;
-        cut.cutAtCall = call;
-        try {
-          isSaved = saveSafely(cut, "a.scv", bytes);
-        } catch (const MemoryFiles::PowerCut&) {
-        }
+        cut.isCutAt(call, [&] { isSaved = saveSafely(cut, "a.scv", bytes); });
         for (std::size_t torn = 0;; ++torn) {
           MemoryFiles disk;
           disk.files = cut.files;
@@ -140,9 +136,7 @@ TEST(SafeSave, LeavesCopiesAloneThatDoNotBelong) {
   const std::string old = contestWith("Fair", 'B');
   disk.files["a.scv"] = disk.files["b.scv"] = {old};
   disk.hasOtherNames = true;
-  disk.cutAtCall = 10;
-  EXPECT_THROW(static_cast<void>(saveSafely(disk, "a.scv", kLonger)), MemoryFiles::PowerCut);
-  disk.cutAtCall = 0;
+  EXPECT_TRUE(disk.isCutAt(10, [&] { EXPECT_FALSE(saveSafely(disk, "a.scv", kLonger)); }));
   ASSERT_EQ(disk.files.size(), 3U);
   EXPECT_TRUE(unfinishedSave(disk, "a.scv", nullptr));
   EXPECT_TRUE(unfinishedSave(disk, "a.scv", &old));

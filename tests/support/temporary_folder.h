@@ -34,6 +34,15 @@ class TemporaryFolder {
   std::string path_;
 };
 
+/// One that the program takes for this machine's folder for application data meanwhile.
+class LocalDataFolder : public TemporaryFolder {
+ public:
+  LocalDataFolder() { ::setenv("XDG_DATA_HOME", path().c_str(), 1); }
+  LocalDataFolder(const LocalDataFolder&) = delete;
+  LocalDataFolder& operator=(const LocalDataFolder&) = delete;
+  ~LocalDataFolder() { ::unsetenv("XDG_DATA_HOME"); }
+};
+
 inline std::string contentOf(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};

@@ -190,6 +190,11 @@ class App:
     def main(self):
         return self.window(kind="SCORVANE")
 
+    def open_dialog(self, command, title=None):
+        """The dialog that a menu command opens."""
+        self.main().command(command)
+        return self.window(title)
+
     def message(self, caption=None):
         """(text, caption) of the message box on top."""
         box = self.window(caption)
@@ -335,3 +340,11 @@ class Window:
     def close(self):
         """As the close box does."""
         self._tell("post", 0x0010, 0, 0)
+
+    def finish(self, button=None):
+        """Presses a button, or the close box, and waits until the window is gone."""
+        if button is None:
+            self.close()
+        else:
+            self.command(button)
+        self.app.wait_closed(self)

@@ -276,8 +276,7 @@ def earlier_saves(stage):
         dialog = stage.app.window(title)
         for step, *values in steps:
             getattr(dialog, step)(*values)
-        dialog.close()
-        stage.app.wait_closed(dialog)
+        dialog.finish()
     blank_scores(stage, 3)
     work(32822, "Input Placings Scores By Group", ("choose", 1016, 3), ("choose", 1053, 0),
          *[step for letter in "DCDBADCD" for step in (("set_text", 1027, letter), ("click", 1004))])
