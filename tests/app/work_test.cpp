@@ -16,6 +16,7 @@
 #include "session/open_contest.h"
 #include "session/recovery.h"
 #include "setup/setup_ids.h"
+#include "storage/contest_loader.h"
 #include "storage/contest_reader.h"
 #include "storage/contest_writer.h"
 #include "storage/safe_save.h"
@@ -196,6 +197,28 @@ TEST_F(KeptWork, IsSaidToBeUnsafeOnceADialogHasClosed) {
     window.log.clear();
   }
   EXPECT_EQ(scoreRecord(currentContest(), 103, 1).reasonsScore, 44);
+}
+
+TEST_F(KeptWork, OfASaveThatWasCutOffIsFoundInItsCopyAndSaved) {
+  const std::string saved = replaced(fair(), "Bob", "Bobby");
+  disk.hasOtherNames = true;
+  std::string copy;
+  for (int call = 1; copy.empty(); ++call) {
+    disk.files.clear();
+    disk.put(kPath, fair());
+    ASSERT_TRUE(disk.isCutAt(call, [&] { (void)saveSafely(disk, kPath, saved); }));
+    copy = std::get<LoadedContest>(loadContestFile(disk, kPath)).copy;
+  }
+  for (const bool isReadOnly : {true, false}) {
+    disk.readOnlyPath = isReadOnly ? kPath : "";
+    disk.hasOtherNames = isReadOnly;  // a save in place clears such copies away by itself
+    start();
+    EXPECT_EQ(writeContest(currentContest()), saved);
+    EXPECT_NE(window.log.find(copy), std::string::npos);
+    EXPECT_EQ(window.log.find("It could NOT be saved") != std::string::npos, isReadOnly);
+    EXPECT_EQ(disk.files[kPath].content == saved, !isReadOnly);
+    EXPECT_EQ(disk.files.contains(copy), isReadOnly);
+  }
 }
 
 struct SharedWork : Work {

@@ -189,9 +189,10 @@ class Faults:
                 expect(session("save_over") == "ok", f"{way}: saving")
                 save_time = time.monotonic() - start
                 wholes.append(path.read_bytes())
-            met = restored = 0
+            met = restored = kill = 0
             left = collections.Counter()
-            for kill in range(count):
+            # Slow builds and busy machines are seldom within a save: more kills, until one was.
+            while kill < count or (kill < 10 * count and not (met and len(left) == 2)):
                 session = self.session(user=NOBODY if way == "protected folder" else None)
                 expect(session("open", path) == "ok", f"{way}: opening after kill {kill} of seed {seed}")
                 for name in 20 * names:
@@ -214,8 +215,9 @@ class Faults:
                 left[wholes.index(content)] += 1
                 for spare in spares:
                     spare.unlink()
+                kill += 1
             expect(met and len(left) == 2, f"{way}: {met} kills met a save, {dict(left)} contests were left")
-            seen.append(f"{way}: {count} kills, {met} within a save, {restored} times the copy was the whole one")
+            seen.append(f"{way}: {kill} kills, {met} within a save, {restored} times the copy was the whole one")
         return "; ".join(seen)
 
     def longest_path(self):
