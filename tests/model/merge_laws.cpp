@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <optional>
 #include <set>
 #include <variant>
@@ -335,6 +336,17 @@ bool hasNamesakes(const Contest& contest) {
                      });
 }
 
+// Whether somebody of the ancestor has another number.
+bool hasNewNumbers(const Contest& base, const Contest& side) {
+  std::map<std::string, ContestantNumber> numbers;
+  for (const auto& [number, name] : base.contestantNames) numbers[name] = number;
+  return std::any_of(
+      side.contestantNames.begin(), side.contestantNames.end(), [&](const auto& entry) {
+        const auto found = numbers.find(entry.second);
+        return !entry.second.empty() && found != numbers.end() && found->second != entry.first;
+      });
+}
+
 // A number in two teams, as where it was removed from one and given anew, is known as either's.
 template <typename Counts>
 bool sharesNumbers(const Contest& contest, const Counts& counts) {
@@ -386,6 +398,7 @@ std::string brokenMergeLaw(const Contest& base, const Contest& ours, const Conte
   // An older ancestor than what was read last knows less of new numbers, of those in two teams and
   // of what stayed.
   const bool isAllKnown = !isShared && !sharesNumbers(base, any) && merge.numbers.empty() &&
+                          !hasNewNumbers(base, ours) && !hasNewNumbers(base, theirs) &&
                           back.numbers.empty() && merge.lostRemovals.empty() &&
                           !hasNamesakes(base) && !hasNamesakes(ours) && !hasNamesakes(theirs) &&
                           isKnownByName(base, ours, merge.contest) &&
