@@ -53,4 +53,32 @@ inline void expectRefused(const std::string& program,
   }
 }
 
+/// The power fails at each operation of a command, and of what was not flushed then any part is on
+/// the disk: every file is as it was in `old`, or as the command leaves it.
+inline void expectWholeWheneverThePowerFails(CliResult (*run)(std::string_view, FileSystem&),
+                                             const MemoryFiles& old, std::string_view line) {
+  MemoryFiles before;
+  for (const auto& [path, file] : old.files) before.put(path, file.content);
+  MemoryFiles after;
+  after.files = before.files;
+  (void)run(line, after);
+  int cuts = 0;
+  for (bool isCut = true; isCut; ++cuts) {
+    MemoryFiles cut;
+    cut.files = before.files;
+    isCut = cut.isCutAt(cuts + 1, [&] { (void)run(line, cut); });
+    for (std::size_t torn = 0;; torn = 3 * torn + 1) {
+      MemoryFiles disk;
+      disk.files = cut.files;
+      if (!disk.losePower(torn)) break;
+      for (const auto& [path, file] : after.files) {
+        const std::string& content = disk.files[path].content;
+        EXPECT_TRUE(content == before.files[path].content || content == file.content)
+            << line << ", " << path << " at " << cuts;
+      }
+    }
+  }
+  EXPECT_GT(cuts, 4) << line;
+}
+
 }  // namespace scorvane

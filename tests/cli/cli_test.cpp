@@ -185,6 +185,16 @@ TEST(Cli, WritesPageAndSpreadsheetButNeverOverTheContest) {
   }
 }
 
+TEST(Cli, LeavesEveryFileWholeWheneverThePowerFails) {
+  ContestFiles disk;
+  for (const char* path : {"page.html", "scores.xlsx", "out/Entry Progress.txt"})
+    disk.put(path, "old");
+  for (const char* line : {"fair.scv|--publish|page.html|--show|cards", "fair.scv|--all|out",
+                           "fair.scv|--spreadsheet|scores.xlsx"}) {
+    expectWholeWheneverThePowerFails(run, disk, line);
+  }
+}
+
 }  // namespace
 
 }  // namespace scorvane

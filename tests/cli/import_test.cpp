@@ -126,6 +126,15 @@ TEST(Import, FinishesWhatWasLeftUnfinished) {
   EXPECT_EQ(disk.files.size(), files - 1) << "the copy is done with";
 }
 
+TEST(Import, LeavesEveryFileWholeWheneverThePowerFails) {
+  ImportFiles disk;
+  disk.put("theirs.scv", replaced(disk.files["fair.scv"].content, "Elm", "Oak"));
+  for (const char* line : {"import|sheet.csv|fair.scv|--skip-problems",
+                           "merge|fair.scv|theirs.scv|--base|fair.scv|--into|fair.scv"}) {
+    expectWholeWheneverThePowerFails(run, disk, line);
+  }
+}
+
 }  // namespace
 
 }  // namespace scorvane
