@@ -301,7 +301,10 @@ bool isKnownByName(const Contest& base, const Contest& side, const Contest& merg
              std::count(now.begin(), now.end(), name) > 1;
     };
     if (before == after && now == after) return true;
-    if (std::any_of(before.begin(), before.end(), isUnclear)) return false;
+    if (std::any_of(before.begin(), before.end(), isUnclear) ||
+        std::any_of(now.begin(), now.end(), isUnclear)) {
+      return false;
+    }
     if (after.size() == before.size()) return now.size() == before.size() || after == before;
     const std::vector<ClassMatch> matches = matchNames(before, now, true);
     return std::all_of(matches.begin(), matches.end(), [&](const ClassMatch& match) {
