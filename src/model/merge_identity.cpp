@@ -104,9 +104,10 @@ class RosterMatcher {
       const std::size_t here = position++;
       const std::size_t there = contests_[from]->contestantNames.positionOf(number);
       if (!isFree(to, here) || !isFree(from, there, to)) continue;
-      const bool isSameName = name == contestantName(*contests_[from], number);
+      const std::string& before = contestantName(*contests_[from], number);
+      const bool isSameName = name == before;
       const bool isAlone = teams_[to][here].empty(), wasAlone = teams_[from][there].empty();
-      const bool isKnown = isAlone || (isSameName && wasAlone);
+      const bool isKnown = isAlone || ((isSameName || before.empty()) && wasAlone);
       if (from == kBase ? isKnown : isSameName && isAlone && wasAlone) {
         link(from, there, to, here, number);
       }
