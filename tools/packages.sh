@@ -2,8 +2,8 @@
 
 RUN_PACKAGES="cmake ninja-build g++ g++-mingw-w64-x86-64-posix wine wine64 xvfb xdotool imagemagick
   librsvg2-bin icoutils fonts-liberation fonts-wine python3 libcli11-dev"
-TEST_PACKAGES="$RUN_PACKAGES clang libclang-rt-dev clang-tidy clang-format llvm mold strace libgtest-dev libbenchmark-dev mawk
-  git cups cups-client ghostscript poppler-utils nsis zip python3-openpyxl"
+TEST_PACKAGES="$RUN_PACKAGES clang libclang-rt-dev clang-tidy clang-format llvm mold strace libgtest-dev libbenchmark-dev
+  mawk git cups cups-client ghostscript poppler-utils nsis zip python3-openpyxl"
 
 # install_missing PACKAGE...: does nothing when all are there.
 install_missing() {
