@@ -108,7 +108,8 @@ class RosterMatcher {
       const bool isSameName = name == before;
       const bool isAlone = teams_[to][here].empty(), wasAlone = teams_[from][there].empty();
       const bool isKnown = isAlone || ((isSameName || before.empty()) && wasAlone);
-      if (from == kBase ? isKnown : isSameName && isAlone && wasAlone) {
+      const bool isNobody = isSameName && name.empty() && (isAlone || wasAlone);
+      if (from == kBase ? isKnown : isNobody || (isSameName && isAlone && wasAlone)) {
         link(from, there, to, here, number);
       }
     }

@@ -27,8 +27,6 @@ class RosterMerge {
  private:
   using Person = std::size_t;
 
-  [[nodiscard]] const Contest& in(Side side) const { return *state_.contests[side]; }
-
   void decideWhoStays() {
     for (Person person = 0; person < roster_.people.size(); ++person) {
       const Three<ContestantNumber>& numbers = roster_.people[person];
@@ -71,12 +69,7 @@ class RosterMerge {
       if (other == nullptr || !state_.staysPerson[*other]) continue;
       if (numberLeftBy(roster_.people[*other]) != *numbers[side]) continue;
       if (!state_.nameOn(side, person).empty() || state_.isChanged(side, person)) continue;
-      const auto& teams = in(side).teams;
-      const bool hasTeam = std::any_of(teams.begin(), teams.end(), [&](const auto& team) {
-        const auto& members = team.second.members;
-        return std::find(members.begin(), members.end(), *numbers[side]) != members.end();
-      });
-      if (!hasTeam) state_.staysPerson[person] = false;
+      if (!state_.hasTeam(side, *numbers[side])) state_.staysPerson[person] = false;
     }
   }
 

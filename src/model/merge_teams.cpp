@@ -203,7 +203,7 @@ class TeamsMerge {
           const bool isAdded = state_.staysPerson[person] && !roster_.people[person][kBase];
           if (!isAdded || taken.contains(state_.numberOf[person])) continue;
           if (!isAnybody(person)) {
-            drop(side, person);
+            if (!isAloneOn(otherSide(side), person)) drop(side, person);
           } else if (!roster_.teams[team][kBase] && roster_.teams[team][otherSide(side)]) {
             rest.push_back({person, state_.numberOf[person]});
             taken.insert(state_.numberOf[person]);
@@ -212,6 +212,12 @@ class TeamsMerge {
         if (!rest.empty()) addSecondTeam(side, name, std::move(rest));
       }
     }
+  }
+
+  // Whether a side has somebody without a team.
+  [[nodiscard]] bool isAloneOn(Side side, Person person) const {
+    const auto& number = roster_.people[person][side];
+    return number && !state_.hasTeam(side, *number);
   }
 
   [[nodiscard]] bool isAnybody(Person person) const {

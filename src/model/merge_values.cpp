@@ -53,6 +53,14 @@ const std::string& MergeState::nameOn(Side side, std::size_t person) const {
   return number ? contestantName(*contests[side], *number) : none;
 }
 
+bool MergeState::hasTeam(Side side, ContestantNumber number) const {
+  const auto& teams = contests[side]->teams;
+  return std::any_of(teams.begin(), teams.end(), [&](const auto& team) {
+    const auto& members = team.second.members;
+    return std::find(members.begin(), members.end(), number) != members.end();
+  });
+}
+
 bool isSameContest(const Contest& ancestor, const Contest& other) {
   std::size_t classes = 0;
   for (const ClassMatch& match :

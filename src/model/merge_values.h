@@ -67,6 +67,8 @@ struct MergeState {
   /// The people in a team's slots.
   [[nodiscard]] std::vector<std::size_t> membersOn(Side side, std::size_t team) const;
   [[nodiscard]] const std::string& nameOn(Side side, std::size_t person) const;
+  /// Whether a number is in any team of a side.
+  [[nodiscard]] bool hasTeam(Side side, ContestantNumber number) const;
 };
 
 /// Decides who stays and under which number, and merges names and teams.
