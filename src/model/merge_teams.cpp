@@ -268,11 +268,12 @@ class TeamsMerge {
         const bool isInTeam = std::any_of(slots.begin(), slots.end(), [&](const TeamSlot& other) {
           return isThere(other) && numberIn(other) == number;
         });
+        const bool isTwice = !isThere(slot) && isIn(team, number) && !hasTwice(name, number);
         const bool isTaken = !isThere(slot) && contest_.contestantNames.contains(number) &&
                              (isInTeam || (!given.insert(number).second && !isShared(number)));
         const bool isElsewhere =
             isThere(slot) && !placed.insert(*slot.person).second && !isInTwoTeams(*slot.person);
-        team.members.push_back(isTaken || isElsewhere ? reserved() : number);
+        team.members.push_back(isTwice || isTaken || isElsewhere ? reserved() : number);
         if (isElsewhere) {
           listTeam(name, "member " + std::to_string(team.members.size()), slotText(slot),
                    std::to_string(team.members.back()));
@@ -300,6 +301,20 @@ class TeamsMerge {
 
   [[nodiscard]] bool isThere(const TeamSlot& slot) const {
     return slot.person && state_.staysPerson[*slot.person];
+  }
+
+  static bool isIn(const Team& team, ContestantNumber number) {
+    return std::find(team.members.begin(), team.members.end(), number) != team.members.end();
+  }
+
+  // Whether a side has a number twice in a team.
+  [[nodiscard]] bool hasTwice(const std::string& name, ContestantNumber number) const {
+    const auto isTwiceIn = [&](const Contest& contest) {
+      const auto team = contest.teams.find(name);
+      return team != contest.teams.end() &&
+             std::count(team->second.members.begin(), team->second.members.end(), number) > 1;
+    };
+    return isTwiceIn(in(kOurs)) || isTwiceIn(in(kTheirs));
   }
 
   // Whether a side has somebody in more than one team.
