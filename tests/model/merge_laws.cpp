@@ -206,9 +206,11 @@ bool hasEveryScoreOf(const Contest& base, const Contest& side, const Merge& merg
   for (const ClassMatch& match : matchClasses(side.classes, merge.contest.classes)) {
     if (!match.here) continue;
     auto& places = after[static_cast<std::size_t>(*match.here)];
-    const auto& names = side.classes.className;
-    const bool isClear =
-        match.there && std::count(names.begin(), names.end(), side.classes.name(*match.here)) == 1;
+    const auto isOnlyOne = [&](const std::vector<std::string>& names) {
+      return std::count(names.begin(), names.end(), side.classes.name(*match.here)) <= 1;
+    };
+    const bool isClear = match.there && isOnlyOne(side.classes.className) &&
+                         isOnlyOne(merge.contest.classes.className);
     if (isClear) places = {*match.there};
     for (std::int32_t k = 0; !isClear && k < merge.contest.classes.count(); ++k) {
       places.push_back(k);
@@ -398,14 +400,21 @@ std::string brokenMergeLaw(const Contest& base, const Contest& ours, const Conte
   if (!isShared && isClear(merge) && isClear(back) && merge.contest != back.contest) {
     return "both sides merge alike";
   }
-  // An older ancestor than what was read last knows less of new numbers, of those in two teams and
-  // of what stayed.
-  const bool isAllKnown = !isShared && !sharesNumbers(base, any) && merge.numbers.empty() &&
-                          !hasNewNumbers(base, ours) && !hasNewNumbers(base, theirs) &&
-                          back.numbers.empty() && merge.lostRemovals.empty() &&
-                          !hasNamesakes(base) && !hasNamesakes(ours) && !hasNamesakes(theirs) &&
-                          isKnownByName(base, ours, merge.contest) &&
-                          isKnownByName(base, theirs, merge.contest);
+  // An older ancestor than what was read last knows less of new numbers, of those in two teams, of
+  // what stayed and of an order of reasons that is as before without somebody removed.
+  const auto hasOrderOfBase = [&base](const Contest& contest) {
+    return std::all_of(
+        contest.contestantNames.begin(), contest.contestantNames.end(), [&](const auto& entry) {
+          return reasonsPlaceOf(contest, entry.first) == reasonsPlaceOf(base, entry.first);
+        });
+  };
+  const bool isOrderAsBefore = hasOrderOfBase(merge.contest) && !hasOrderOfBase(theirs);
+  const bool isAllKnown =
+      !isOrderAsBefore && !isShared && !sharesNumbers(base, any) && merge.numbers.empty() &&
+      !hasNewNumbers(base, ours) && !hasNewNumbers(base, theirs) && back.numbers.empty() &&
+      merge.lostRemovals.empty() && !hasNamesakes(base) && !hasNamesakes(ours) &&
+      !hasNamesakes(theirs) && isKnownByName(base, ours, merge.contest) &&
+      isKnownByName(base, theirs, merge.contest);
   if (isAllKnown && mergeContests(base, merge.contest, theirs).contest != merge.contest) {
     return "merging twice changes nothing";
   }
