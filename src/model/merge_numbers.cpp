@@ -4,6 +4,8 @@
 #include <limits>
 #include <tuple>
 
+#include "model/team_index.h"
+
 namespace scorvane {
 
 void MergedNumbers::give() {
@@ -97,13 +99,7 @@ void MergedNumbers::listNumberChanges() {
     const bool isKnownThere = base && base == theirs && ours;
     const auto add = [&](Side side) {
       const ContestantNumber number = *roster_.people[person][side];
-      const auto team = std::find_if(
-          roster_.teamOf[side].begin(), roster_.teamOf[side].end(), [&](const auto& entry) {
-            const auto& members = state_.teamOn(side, entry.second).members;
-            return std::find(members.begin(), members.end(), number) != members.end();
-          });
-      state_.merge.numbers.push_back(
-          {number, now, team == roster_.teamOf[side].end() ? "" : team->first});
+      state_.merge.numbers.push_back({number, now, teamOf(*state_.contests[side], number)});
     };
     if (ours && *ours != now) add(kOurs);
     if (theirs && *theirs != now && !isKnownThere) add(kTheirs);

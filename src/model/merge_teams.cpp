@@ -7,6 +7,8 @@
 #include <string>
 #include <utility>
 
+#include "model/team_index.h"
+
 namespace scorvane {
 
 namespace {
@@ -268,7 +270,7 @@ class TeamsMerge {
         const bool isInTeam = std::any_of(slots.begin(), slots.end(), [&](const TeamSlot& other) {
           return isThere(other) && numberIn(other) == number;
         });
-        const bool isTwice = !isThere(slot) && isIn(team, number) && !hasTwice(name, number);
+        const bool isTwice = !isThere(slot) && isMember(team, number) && !hasTwice(name, number);
         const bool isTaken = !isThere(slot) && contest_.contestantNames.contains(number) &&
                              (isInTeam || (!given.insert(number).second && !isShared(number)));
         const bool isElsewhere =
@@ -303,10 +305,6 @@ class TeamsMerge {
     return slot.person && state_.staysPerson[*slot.person];
   }
 
-  static bool isIn(const Team& team, ContestantNumber number) {
-    return std::find(team.members.begin(), team.members.end(), number) != team.members.end();
-  }
-
   // Whether a side has a number twice in a team.
   [[nodiscard]] bool hasTwice(const std::string& name, ContestantNumber number) const {
     const auto isTwiceIn = [&](const Contest& contest) {
@@ -326,11 +324,9 @@ class TeamsMerge {
   // Whether a side has the number in more than one team.
   [[nodiscard]] bool isShared(ContestantNumber number) const {
     const auto isTwiceIn = [number](const Contest& contest) {
-      const auto has = [number](const auto& team) {
-        const auto& members = team.second.members;
-        return std::find(members.begin(), members.end(), number) != members.end();
-      };
-      return std::count_if(contest.teams.begin(), contest.teams.end(), has) > 1;
+      return std::count_if(contest.teams.begin(), contest.teams.end(), [number](const auto& team) {
+               return isMember(team.second, number);
+             }) > 1;
     };
     return isTwiceIn(in(kOurs)) || isTwiceIn(in(kTheirs));
   }

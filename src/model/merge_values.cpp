@@ -1,5 +1,6 @@
 #include "model/merge_values.h"
 
+#include "model/team_index.h"
 #include "text/format.h"
 
 namespace scorvane {
@@ -55,10 +56,8 @@ const std::string& MergeState::nameOn(Side side, std::size_t person) const {
 
 bool MergeState::hasTeam(Side side, ContestantNumber number) const {
   const auto& teams = contests[side]->teams;
-  return std::any_of(teams.begin(), teams.end(), [&](const auto& team) {
-    const auto& members = team.second.members;
-    return std::find(members.begin(), members.end(), number) != members.end();
-  });
+  return std::any_of(teams.begin(), teams.end(),
+                     [&](const auto& team) { return isMember(team.second, number); });
 }
 
 bool isSameContest(const Contest& ancestor, const Contest& other) {

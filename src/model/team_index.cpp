@@ -10,12 +10,14 @@ const std::string kNoTeam;
 
 }  // namespace
 
+bool isMember(const Team& team, ContestantNumber number) {
+  return std::find(team.members.begin(), team.members.end(), number) != team.members.end();
+}
+
 const std::string& teamOf(const Contest& contest, ContestantNumber number) {
   if (!contest.contestantNames.contains(number)) return kNoTeam;
   for (const auto& [name, team] : contest.teams) {
-    if (std::find(team.members.begin(), team.members.end(), number) != team.members.end()) {
-      return name;
-    }
+    if (isMember(team, number)) return name;
   }
   return kNoTeam;
 }

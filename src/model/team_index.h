@@ -8,6 +8,9 @@
 
 namespace scorvane {
 
+/// Whether a number is in any of the team's slots, alternates included.
+[[nodiscard]] bool isMember(const Team& team, ContestantNumber number);
+
 /// The same as TeamIndex::teamOf() for a single contestant.
 [[nodiscard]] const std::string& teamOf(const Contest& contest, ContestantNumber number);
 

@@ -237,7 +237,7 @@ void saveCurrent(Window& owner) {
 
 void saveContestAs(Window& owner) {
   const FileQuestion question = contestFileQuestion(FileQuestion::Purpose::save);
-  takeInOthersWork();  // for a file that they do not save to
+  takeInOthersWork();  // a copy under another name holds everybody's work, too
   // Odd but required, docs/required-behaviour.md: save-as-forgets-the-name
   currentFileName().clear();
   auto path = owner.chooseFile(question);
